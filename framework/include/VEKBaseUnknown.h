@@ -1,0 +1,74 @@
+// The reference-counted base of every framework object.
+#ifndef VEKBaseUnknown_H
+#define VEKBaseUnknown_H
+
+#include <cstddef>
+#include <new>
+
+#include "VEKFrameworkExport.h"
+
+class VEKMetaClass;
+
+/// Base object: reference count, run-time class information, and the inherited slots of the host.
+///
+/// A new object, copied or not, has count 1, and that reference is its creator's.  Assignment copies
+/// the three data words and leaves the count alone.  The order of the virtual functions is fixed:
+/// derived classes append theirs after ChangeComponentState.
+class VEKFRAMEWORK_API VEKBaseUnknown {
+public:
+    VEKBaseUnknown();
+    VEKBaseUnknown(const VEKBaseUnknown& iOther);
+    VEKBaseUnknown& operator=(const VEKBaseUnknown& iOther);
+
+    /// Null on exhausted memory; a new-expression then yields null and runs no constructor.
+    static void* operator new(std::size_t iSize) noexcept;
+    static void* operator new(std::size_t iSize, const std::nothrow_t&) noexcept;
+    static void* operator new(std::size_t, void* iPlace) noexcept { return iPlace; }
+    static void operator delete(void* iObject) noexcept;
+    static void operator delete(void* iObject, const std::nothrow_t&) noexcept;
+    static void operator delete(void*, void*) noexcept {}
+
+    // The host's interface protocol.  The reference implementation offers no interface: it sets
+    // outputs to null (when it is given any) and returns NotImplemented.
+    enum Status : int { Done = 0, NotImplemented = -1 };
+    virtual int QueryInterface(const void* iInterfaceId, void** oInterface);
+    /// Both return the count after the call; Release to 0 deletes the object.
+    virtual unsigned long AddRef();
+    virtual unsigned long Release();
+    virtual int GetTypeInfoCount(unsigned int* oCount);
+    virtual int GetTypeInfo(unsigned int iIndex, unsigned long iLocale, void** oInfo);
+    virtual int GetIDsOfNames(const void* iInterfaceId, const char* const* iNames, unsigned int iCount,
+                              unsigned long iLocale, long* oIds);
+    virtual int Invoke(long iId, const void* iInterfaceId, unsigned long iLocale, unsigned short iFlags,
+                       void* ioParameters, void* oResult, void* oException, unsigned int* oBadArgument);
+
+    virtual ~VEKBaseUnknown();
+
+    virtual VEKMetaClass* GetMetaObject() const;
+    virtual const char* IsA() const;
+    virtual int IsAKindOf(const char* iClassName) const;
+
+    /// One of the three data words, for the host's use; never dereferenced here.
+    virtual void* GetImpl() const;
+    virtual void SetImpl(void* iImpl);
+    virtual int IsNull() const;
+    /// Identity, not content.
+    virtual int IsEqual(const VEKBaseUnknown* iOther) const;
+    virtual VEKBaseUnknown* QueryInterface(const char* iInterfaceName);
+    virtual void ChangeComponentState(int iFrom, int iTo);
+
+    static VEKMetaClass* MetaObject();
+    static const char* ClassId();
+    static const char* ClassName();
+
+    /// How many framework objects exist in the process; a client's or a test's leak check.
+    static long CountLiveObjects();
+
+private:
+    mutable unsigned long _references = 1;
+    void* _impl = nullptr;
+    void* _delegate = nullptr;
+    void* _state = nullptr;
+};
+
+#endif

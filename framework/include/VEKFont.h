@@ -1,0 +1,18 @@
+// A font, by the name of its family.
+#ifndef VEKFont_H
+#define VEKFont_H
+
+#include "VEKUnicodeString.h"
+
+class VEKFont {
+public:
+    explicit VEKFont(const char* iFamily) : _family(iFamily) {}
+
+    /// Valid as long as the font.
+    const char* GetFamily() const { return _family.ToUtf8(); }
+
+private:
+    VEKUnicodeString _family;
+};
+
+#endif

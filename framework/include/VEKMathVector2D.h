@@ -1,0 +1,23 @@
+// A displacement in the plane.
+#ifndef VEKMathVector2D_H
+#define VEKMathVector2D_H
+
+class VEKMathVector2D {
+public:
+    VEKMathVector2D(double iX = 0.0, double iY = 0.0) : _x(iX), _y(iY) {}
+
+    double GetX() const { return _x; }
+    double GetY() const { return _y; }
+    void SetX(double iX) { _x = iX; }
+    void SetY(double iY) { _y = iY; }
+
+    /// Exact: no tolerance.
+    bool operator==(const VEKMathVector2D& iOther) const { return _x == iOther._x && _y == iOther._y; }
+    bool operator!=(const VEKMathVector2D& iOther) const { return !(*this == iOther); }
+
+private:
+    double _x;
+    double _y;
+};
+
+#endif

@@ -1,0 +1,53 @@
+// Run-time class information and its registry.
+#ifndef VEKMetaClass_H
+#define VEKMetaClass_H
+
+#include "VEKFrameworkExport.h"
+
+/// What sort of thing a meta-object describes; classes of objects register as ImplementationClass.
+enum ENUMTypeOfClass : int { VEKTypeInterface = 0, VEKTypeImplementation = 1, VEKTypeExtension = 2 };
+
+/// Describes one class at run time.
+///
+/// Meta-objects are made by fct_RetrieveMetaObject alone, one per class name, and live as long as the
+/// process; so do the strings that they hand out.
+class VEKFRAMEWORK_API VEKMetaClass {
+public:
+    VEKMetaClass(const VEKMetaClass&) = delete;
+    VEKMetaClass& operator=(const VEKMetaClass&) = delete;
+
+    const char* GetName() const { return _name; }
+    /// Component and class name, joined by a point: "PrintBase.VEKPrtLineElt".
+    const char* GetId() const { return _id; }
+    /// Null for the root class only.
+    VEKMetaClass* GetBase() const { return _base; }
+    /// Instance size in bytes.
+    long GetSize() const { return _size; }
+
+    /// 1 for the name of the class itself or of one of its ancestors, otherwise (null included) 0.
+    int IsAKindOf(const char* iClassName) const;
+
+private:
+    friend VEKFRAMEWORK_API VEKMetaClass* fct_RetrieveMetaObject(const char*, ENUMTypeOfClass, VEKMetaClass*,
+                                                                 const char*, const char*, long);
+    VEKMetaClass(const char* iId, const char* iName, VEKMetaClass* iBase, long iSize)
+        : _id(iId), _name(iName), _base(iBase), _size(iSize) {}
+    ~VEKMetaClass() = default;
+
+    const char* _id;
+    const char* _name;
+    VEKMetaClass* _base;
+    long _size;
+    VEKMetaClass* _next = nullptr;
+};
+
+/// Registers class \p iClassName on the first call and returns that same meta-object on later ones.
+///
+/// The strings are copied.  \p iLateType names a type to be bound later ("VEKnull": none); this
+/// implementation keeps no such binding.  Null when memory is out (a later call tries again) or when
+/// \p iClassName is null.  Takes no lock.
+VEKFRAMEWORK_API VEKMetaClass* fct_RetrieveMetaObject(const char* iClassName, ENUMTypeOfClass iType,
+                                                      VEKMetaClass* iBaseMeta, const char* iLateType,
+                                                      const char* iComponent, long iSize);
+
+#endif

@@ -1,0 +1,30 @@
+// How a line is drawn: type, style, cap and join share one enumeration.
+#ifndef VEKPrintLineAttribute_H
+#define VEKPrintLineAttribute_H
+
+enum VEKPrintLineAttribute : int {
+    VEKPrintLineTypeSolid = 0,
+    VEKPrintLineTypeDashed = 1,
+    VEKPrintLineTypeDotted = 2,
+    VEKPrintLineTypeDashDot = 3,
+    VEKPrintLineTypeDashDotDot = 4,
+    VEKPrintLineTypeLongDash = 5,
+    VEKPrintLineTypeFineDash = 6,
+    /// The dash pattern of the record.
+    VEKPrintLineTypePattern = 7,
+
+    /// The width scales with the drawing.
+    VEKPrintLineStyleScaled = 8,
+    /// The width stays, whatever the transforms.
+    VEKPrintLineStyleFixed = 9,
+
+    VEKPrintLineCapButt = 10,
+    VEKPrintLineCapRound = 11,
+    VEKPrintLineCapSquare = 12,
+
+    VEKPrintLineJoinMitre = 13,
+    VEKPrintLineJoinRound = 14,
+    VEKPrintLineJoinBevel = 15
+};
+
+#endif

@@ -1,0 +1,23 @@
+// The target of a hyperlink.
+#ifndef VEKPrintLinkURI_H
+#define VEKPrintLinkURI_H
+
+#include "VEKUnicodeString.h"
+
+/// Empty (no link) by default; kept as given.
+class VEKPrintLinkURI {
+public:
+    VEKPrintLinkURI() = default;
+    explicit VEKPrintLinkURI(const char* iURI) : _uri(iURI) {}
+
+    /// Never null; valid until the next change of this link.
+    const char* GetURI() const { return _uri.ToUtf8(); }
+
+    bool operator==(const VEKPrintLinkURI& iOther) const { return _uri == iOther._uri; }
+    bool operator!=(const VEKPrintLinkURI& iOther) const { return !(*this == iOther); }
+
+private:
+    VEKUnicodeString _uri;
+};
+
+#endif

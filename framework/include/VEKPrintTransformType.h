@@ -1,0 +1,15 @@
+// The kinds of elementary transforms.
+#ifndef VEKPrintTransformType_H
+#define VEKPrintTransformType_H
+
+enum VEKPrintTransformType : int {
+    VEKPrintTransformMatrix = 0,
+    VEKPrintTransformTranslation = 1,
+    VEKPrintTransformRotation = 2,
+    VEKPrintTransformScaleX = 3,
+    VEKPrintTransformScaleY = 4,
+    VEKPrintTransformSkewX = 5,
+    VEKPrintTransformSkewY = 6
+};
+
+#endif

@@ -1,0 +1,72 @@
+#include "VEKRawCollPV.h"
+
+#include <algorithm>
+#include <limits>
+#include <new>
+
+namespace {
+
+// Null for nothing to hold as well as for no memory.  A pointer count in int cannot overflow size_t.
+void** NewPointers(int iCapacity) {
+    return iCapacity > 0 ? new (std::nothrow) void*[static_cast<std::size_t>(iCapacity)] : nullptr;
+}
+
+int NextCapacity(int iCapacity) {
+    constexpr int limit = std::numeric_limits<int>::max();
+    return iCapacity > limit / 2 ? limit : std::max(4, 2 * iCapacity);
+}
+
+} // namespace
+
+VEKRawCollPV::VEKRawCollPV(int iInitial)
+    : _pointers(NewPointers(iInitial)), _capacity(_pointers ? iInitial : 0) {}
+
+VEKRawCollPV::VEKRawCollPV(const VEKRawCollPV& iOther) : VEKRawCollPV(iOther._size) {
+    if (_pointers)
+        _size = static_cast<int>(std::copy_n(iOther._pointers, iOther._size, _pointers) - _pointers);
+}
+
+VEKRawCollPV& VEKRawCollPV::operator=(const VEKRawCollPV& iOther) {
+    if (&iOther == this) return *this;
+    if (_capacity < iOther._size) {
+        void** const larger = NewPointers(iOther._size);
+        if (!larger) return *this;
+        delete[] _pointers;
+        _pointers = larger;
+        _capacity = iOther._size;
+    }
+    std::copy_n(iOther._pointers, iOther._size, _pointers);
+    _size = iOther._size;
+    return *this;
+}
+
+VEKRawCollPV::~VEKRawCollPV() { delete[] _pointers; }
+
+void VEKRawCollPV::Append(void* iPointer) {
+    if (_size == _capacity) {
+        const int capacity = NextCapacity(_capacity);
+        void** const larger = capacity > _size ? NewPointers(capacity) : nullptr;
+        if (!larger) return;
+        std::copy_n(_pointers, _size, larger);
+        delete[] _pointers;
+        _pointers = larger;
+        _capacity = capacity;
+    }
+    _pointers[_size++] = iPointer;
+}
+
+int VEKRawCollPV::Locate(const void* iPointer, int iFrom) const {
+    for (int position = std::max(iFrom, 1); position <= _size; ++position)
+        if (_pointers[position - 1] == iPointer) return position;
+    return 0;
+}
+
+void VEKRawCollPV::RemovePosition(int iPosition) {
+    if (iPosition < 1 || iPosition > _size) return;
+    std::copy(_pointers + iPosition, _pointers + _size, _pointers + iPosition - 1);
+    --_size;
+}
+
+void* VEKRawCollPV::operator[](int iPosition) const {
+    return iPosition >= 1 && iPosition <= _size ? _pointers[iPosition - 1] : nullptr;
+}
