@@ -1,0 +1,53 @@
+// The colours of a page.
+#ifndef VEKPrtColourTable_H
+#define VEKPrtColourTable_H
+
+#include "VEKPrt2DModelExport.h"
+
+/// RGB colours, 8 bits a component, appended and addressed by index from 0.
+///
+/// Operations return 1 for success and -1 for failure (an index out of range, memory out), and
+/// write their outputs only on success.  Copies are independent.
+class VEKPRT2DMODEL_API VEKPrtColourTable {
+public:
+    VEKPrtColourTable();
+
+    /// Empty when memory is out.
+    VEKPrtColourTable(const VEKPrtColourTable& iOther);
+    virtual ~VEKPrtColourTable();
+
+    /// Does nothing when neither table has ever allocated; empty when memory is out.
+    VEKPrtColourTable& operator=(const VEKPrtColourTable& iOther);
+
+    virtual int GetColourCount(int& oCount) const;
+
+    /// Appends, even a colour that is there already, and yields its index.
+    ///
+    /// After a failure for want of memory all stored colours stay readable, but the table never
+    /// grows again: additions succeed while its arrays have room and fail from then on.
+    virtual int AddColour(unsigned char iRed, unsigned char iGreen, unsigned char iBlue,
+                          unsigned int& oIndex);
+    virtual int ModifyColour(unsigned int iIndex, unsigned char iRed, unsigned char iGreen,
+                             unsigned char iBlue);
+
+    /// The lowest index of an equal colour.
+    virtual int GetColourIndex(unsigned int& oIndex, unsigned char iRed, unsigned char iGreen,
+                               unsigned char iBlue) const;
+    virtual int GetColour(unsigned int iIndex, unsigned char& oRed, unsigned char& oGreen,
+                          unsigned char& oBlue) const;
+
+private:
+    VEKPRT2DMODEL_LOCAL bool HasColour(unsigned int iIndex) const;
+    VEKPRT2DMODEL_LOCAL int Grow();
+    VEKPRT2DMODEL_LOCAL void CopyOwn(const VEKPrtColourTable& iOther);
+
+    unsigned int _capacity = 0;
+    unsigned int _count = 0;
+    unsigned char* _red = nullptr;
+    unsigned char* _green = nullptr;
+    unsigned char* _blue = nullptr;
+    // What the arrays really hold; below _capacity once a growth has failed.
+    unsigned int _allocated = 0;
+};
+
+#endif

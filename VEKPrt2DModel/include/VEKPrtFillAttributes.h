@@ -1,0 +1,70 @@
+// How the inside of a closed shape is filled.
+#ifndef VEKPrtFillAttributes_H
+#define VEKPrtFillAttributes_H
+
+#include "VEKMathPoint2D.h"
+#include "VEKMathVector2D.h"
+#include "VEKPrt2DModelExport.h"
+
+class VEKPixelImage;
+
+enum VEKPrtFillStyle : int { VEKPrtFillSolid = 0, VEKPrtFillPattern = 1, VEKPrtFillNone = 2 };
+enum VEKPrtFillRule : int { VEKPrtFillNonZero = 0, VEKPrtFillEvenOdd = 1 };
+
+/// Style, rule, colour, and an optional pattern: a pixel image, two vectors and a reference point.
+///
+/// Holds one reference on the pattern image.  Copies share the image and take a reference of their
+/// own; only Duplicate copies it.
+class VEKPRT2DMODEL_API VEKPrtFillAttributes {
+public:
+    VEKPrtFillAttributes();
+    VEKPrtFillAttributes(const VEKPrtFillAttributes& iOther);
+    virtual ~VEKPrtFillAttributes();
+    VEKPrtFillAttributes& operator=(const VEKPrtFillAttributes& iOther);
+
+    /// 1 when all fields are exactly equal, else 0.  Images are equal when they are the same object.
+    int operator==(const VEKPrtFillAttributes& iOther) const;
+
+    /// Copies this record into \p oTarget, with an image of its own.
+    ///
+    /// An image that \p oTarget held is neither released nor kept: its reference is lost, so pass a
+    /// record without one.  Where this record has no image, the target's pointer stays as it is; where
+    /// the image cannot be copied, the target's becomes null.
+    virtual void Duplicate(VEKPrtFillAttributes& oTarget);
+
+    virtual void SetFillStyle(const VEKPrtFillStyle& iStyle);
+    virtual void GetFillStyle(VEKPrtFillStyle& oStyle) const;
+    virtual void SetFillRule(const VEKPrtFillRule& iRule);
+    virtual void GetFillRule(VEKPrtFillRule& oRule) const;
+    virtual void SetFillColourIndex(unsigned int iIndex);
+    virtual void GetFillColourIndex(unsigned int& oIndex) const;
+
+    /// 255, the default, is opaque.
+    virtual void SetFillColourTransparency(unsigned char iTransparency);
+    virtual void GetFillColourTransparency(unsigned char& oTransparency);
+
+    /// Takes its own reference on \p iImage, which may be null, and gives back the one it had; the
+    /// image already held keeps its count.  The vectors are stored in every case.
+    virtual void SetPattern(VEKPixelImage* iImage, const VEKMathVector2D& iFirst,
+                            const VEKMathVector2D& iSecond);
+
+    /// Lends the image: no reference is added.
+    virtual void GetPattern(VEKPixelImage*& oImage, VEKMathVector2D& oFirst, VEKMathVector2D& oSecond);
+    virtual void SetPatternRefPoint(const VEKMathPoint2D& iPoint);
+    virtual void GetPatternRefPoint(VEKMathPoint2D& oPoint) const;
+
+private:
+    VEKPRT2DMODEL_LOCAL void CopyPlainFields(const VEKPrtFillAttributes& iOther);
+    VEKPRT2DMODEL_LOCAL void HoldImage(VEKPixelImage* iImage);
+
+    VEKPrtFillStyle _style = VEKPrtFillSolid;
+    VEKPrtFillRule _rule = VEKPrtFillEvenOdd;
+    unsigned int _colourIndex = 0;
+    unsigned char _colourTransparency = 255;
+    VEKPixelImage* _image = nullptr;
+    VEKMathVector2D _firstVector;
+    VEKMathVector2D _secondVector;
+    VEKMathPoint2D _refPoint;
+};
+
+#endif

@@ -1,0 +1,23 @@
+// What a group carries for all of its children.
+#ifndef VEKPrtGroupAttributes_H
+#define VEKPrtGroupAttributes_H
+
+#include "VEKPrintLinkURI.h"
+#include "VEKPrt2DModelExport.h"
+
+/// The hyperlink target of a whole group.
+class VEKPRT2DMODEL_API VEKPrtGroupAttributes {
+public:
+    VEKPrtGroupAttributes();
+    VEKPrtGroupAttributes(const VEKPrtGroupAttributes& iOther);
+    virtual ~VEKPrtGroupAttributes();
+    VEKPrtGroupAttributes& operator=(const VEKPrtGroupAttributes& iOther);
+
+    virtual void SetLinkURI(VEKPrintLinkURI iURI);
+    virtual void GetLinkURI(VEKPrintLinkURI& oURI) const;
+
+private:
+    VEKPrintLinkURI _linkURI;
+};
+
+#endif

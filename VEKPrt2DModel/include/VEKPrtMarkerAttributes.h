@@ -1,0 +1,22 @@
+// Which symbol a marker shows.
+#ifndef VEKPrtMarkerAttributes_H
+#define VEKPrtMarkerAttributes_H
+
+#include "VEKPrintMarkerAttribute.h"
+#include "VEKPrt2DModelExport.h"
+
+class VEKPRT2DMODEL_API VEKPrtMarkerAttributes {
+public:
+    VEKPrtMarkerAttributes();
+    VEKPrtMarkerAttributes(const VEKPrtMarkerAttributes& iOther);
+    virtual ~VEKPrtMarkerAttributes();
+    VEKPrtMarkerAttributes& operator=(const VEKPrtMarkerAttributes& iOther);
+
+    virtual void SetMarkerStyle(VEKPrintMarkerAttribute iStyle);
+    virtual void GetMarkerStyle(VEKPrintMarkerAttribute& oStyle);
+
+private:
+    VEKPrintMarkerAttribute _style = VEKPrintMarkerPlus;
+};
+
+#endif

@@ -1,0 +1,20 @@
+#include "VEKPrtGroupAttributes.h"
+
+VEKPrtGroupAttributes::VEKPrtGroupAttributes() = default;
+
+VEKPrtGroupAttributes::VEKPrtGroupAttributes(const VEKPrtGroupAttributes& iOther) : VEKPrtGroupAttributes() {
+    *this = iOther;
+}
+
+VEKPrtGroupAttributes::~VEKPrtGroupAttributes() = default;
+
+VEKPrtGroupAttributes& VEKPrtGroupAttributes::operator=(const VEKPrtGroupAttributes& iOther) {
+    if (&iOther != this) _linkURI = iOther._linkURI;
+    return *this;
+}
+
+// By value, and the argument assigned, not moved: the link is the host's type, and copying is all that is
+// asked of it.
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
+void VEKPrtGroupAttributes::SetLinkURI(VEKPrintLinkURI iURI) { _linkURI = iURI; }
+void VEKPrtGroupAttributes::GetLinkURI(VEKPrintLinkURI& oURI) const { oURI = _linkURI; }

@@ -1,0 +1,18 @@
+#include "VEKPrtMarkerAttributes.h"
+
+VEKPrtMarkerAttributes::VEKPrtMarkerAttributes() = default;
+
+VEKPrtMarkerAttributes::VEKPrtMarkerAttributes(const VEKPrtMarkerAttributes& iOther)
+    : VEKPrtMarkerAttributes() {
+    *this = iOther;
+}
+
+VEKPrtMarkerAttributes::~VEKPrtMarkerAttributes() = default;
+
+VEKPrtMarkerAttributes& VEKPrtMarkerAttributes::operator=(const VEKPrtMarkerAttributes& iOther) {
+    if (&iOther != this) _style = iOther._style;
+    return *this;
+}
+
+void VEKPrtMarkerAttributes::SetMarkerStyle(VEKPrintMarkerAttribute iStyle) { _style = iStyle; }
+void VEKPrtMarkerAttributes::GetMarkerStyle(VEKPrintMarkerAttribute& oStyle) { oStyle = _style; }
