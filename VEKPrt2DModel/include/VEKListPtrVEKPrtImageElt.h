@@ -1,0 +1,20 @@
+// The list type for the images of a model.
+#ifndef VEKListPtrVEKPrtImageElt_H
+#define VEKListPtrVEKPrtImageElt_H
+
+#include "VEKPrt2DModelExport.h"
+#include "VEKRawCollPV.h"
+
+/// Pointers to VEKPrtImageElt at positions 1 to Size(), read through the inherited operator[].
+///
+/// The list holds no references: copying it copies pointers only.  Whoever keeps the list counts
+/// the references of its members.
+class VEKPRT2DMODEL_API VEKListPtrVEKPrtImageElt : public VEKRawCollPV {
+public:
+    explicit VEKListPtrVEKPrtImageElt(int iInitial);
+    VEKListPtrVEKPrtImageElt(const VEKListPtrVEKPrtImageElt& iOther);
+    virtual ~VEKListPtrVEKPrtImageElt();
+    VEKListPtrVEKPrtImageElt& operator=(const VEKListPtrVEKPrtImageElt& iOther);
+};
+
+#endif

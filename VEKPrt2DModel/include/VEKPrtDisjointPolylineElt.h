@@ -1,0 +1,59 @@
+// A set of separate segments.
+#ifndef VEKPrtDisjointPolylineElt_H
+#define VEKPrtDisjointPolylineElt_H
+
+#include "VEKPrt2DModelExport.h"
+#include "VEKPrtGraphicPrimitiveElt.h"
+#include "VEKPrtStrokeAttributes.h"
+#include "VEKPrtTransformAttributes.h"
+
+class VEKListPtrVEKMathPoint2D;
+
+extern VEKPRT2DMODEL_API VEKMetaClass* meta_object__25VEKPrtDisjointPolylineElt;
+
+/// Pairs of points, one pair a segment.  The constructors round an odd count, SetPoints does not.
+class VEKPRT2DMODEL_API VEKPrtDisjointPolylineElt : public VEKPrtGraphicPrimitiveElt {
+public:
+    VEKPrtDisjointPolylineElt();
+
+    /// Copies the points at positions 0 to the list's size less 1, so that the first is (0, 0) and the last
+    /// is not read; a null entry gives (0, 0).  An odd size is rounded down.
+    explicit VEKPrtDisjointPolylineElt(const VEKListPtrVEKMathPoint2D& iPoints);
+
+    /// As SetPoints, but an odd count is rounded towards zero, and a count below 2 leaves no array.
+    VEKPrtDisjointPolylineElt(const double* iPoints, int iCount);
+
+    /// Copies the array.  A source without an array counts as one without points.
+    VEKPrtDisjointPolylineElt(const VEKPrtDisjointPolylineElt& iOther);
+    ~VEKPrtDisjointPolylineElt() override;
+
+    /// Copies the array; where neither element has one, the count of this one stays.
+    VEKPrtDisjointPolylineElt& operator=(const VEKPrtDisjointPolylineElt& iOther);
+
+    VEKPRT_DECLARE_META_FAMILY
+
+    void Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) override;
+
+    /// Replaces the points by a copy of \p iCount points (x0, y0, x1, y1, ...).
+    ///
+    /// A count of 0 leaves an array of no length, a negative count no array; the count is kept as given,
+    /// also when memory is out and there is no array.  A null \p iPoints gives points at (0, 0).
+    virtual void SetPoints(const double* iPoints, int iCount);
+
+    /// Lends the array: valid until the next SetPoints, assignment or destruction.
+    virtual void GetPoints(double*& oPoints, int& oCount) const;
+    virtual void SetStrokeAttributes(const VEKPrtStrokeAttributes& iAttributes);
+    virtual void GetStrokeAttributes(VEKPrtStrokeAttributes& oAttributes) const;
+    virtual void SetTransformAttributes(const VEKPrtTransformAttributes& iAttributes);
+    virtual void GetTransformAttributes(VEKPrtTransformAttributes& oAttributes) const;
+
+private:
+    VEKPRT2DMODEL_LOCAL void CopyOwn(const VEKPrtDisjointPolylineElt& iOther);
+
+    double* _points = nullptr;
+    int _count = 0;
+    VEKPrtStrokeAttributes _stroke;
+    VEKPrtTransformAttributes _transform;
+};
+
+#endif

@@ -1,0 +1,63 @@
+// A full ellipse.
+#ifndef VEKPrtEllipseElt_H
+#define VEKPrtEllipseElt_H
+
+#include "VEKMathPoint2D.h"
+#include "VEKPrt2DModelExport.h"
+#include "VEKPrtFillAttributes.h"
+#include "VEKPrtGraphicPrimitiveElt.h"
+#include "VEKPrtStrokeAttributes.h"
+#include "VEKPrtTransformAttributes.h"
+
+extern VEKPRT2DMODEL_API VEKMetaClass* meta_object__16VEKPrtEllipseElt;
+
+/// Centre, two radii, and the slope of the horizontal axis.
+class VEKPRT2DMODEL_API VEKPrtEllipseElt : public VEKPrtGraphicPrimitiveElt {
+public:
+    VEKPrtEllipseElt();
+    VEKPrtEllipseElt(const VEKMathPoint2D& iCenter, double iHorzRadius, double iVertRadius, float iSlope);
+    VEKPrtEllipseElt(const VEKPrtEllipseElt& iOther);
+    ~VEKPrtEllipseElt() override;
+    VEKPrtEllipseElt& operator=(const VEKPrtEllipseElt& iOther);
+
+    VEKPRT_DECLARE_META_FAMILY
+
+    /// The copy has a pattern image of its own.  The one shared meanwhile is not given back: the source's
+    /// image keeps one reference more for ever.
+    void Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) override;
+
+    virtual void SetCenter(const VEKMathPoint2D& iCenter);
+    virtual void GetCenter(VEKMathPoint2D& oCenter) const;
+    virtual void SetHorzRadius(double iHorzRadius);
+    virtual void GetHorzRadius(double& oHorzRadius) const;
+    virtual void SetVertRadius(double iVertRadius);
+    virtual void GetVertRadius(double& oVertRadius) const;
+    virtual void SetSlope(float iSlope);
+    virtual void GetSlope(float& oSlope) const;
+    virtual void SetParameters(const VEKMathPoint2D& iCenter, double iHorzRadius, double iVertRadius,
+                               float iSlope);
+    virtual void GetParameters(VEKMathPoint2D& oCenter, double& oHorzRadius, double& oVertRadius,
+                               float& oSlope) const;
+    virtual void SetDrawStyle(VEKPrtDrawStyle iStyle);
+    virtual void GetDrawStyle(VEKPrtDrawStyle& oStyle) const;
+    virtual void SetStrokeAttributes(const VEKPrtStrokeAttributes& iAttributes);
+    virtual void GetStrokeAttributes(VEKPrtStrokeAttributes& oAttributes) const;
+    virtual void SetFillAttributes(const VEKPrtFillAttributes& iAttributes);
+    virtual void GetFillAttributes(VEKPrtFillAttributes& oAttributes) const;
+    virtual void SetTransformAttributes(const VEKPrtTransformAttributes& iAttributes);
+    virtual void GetTransformAttributes(VEKPrtTransformAttributes& oAttributes) const;
+
+private:
+    VEKPRT2DMODEL_LOCAL void CopyOwn(const VEKPrtEllipseElt& iOther);
+
+    VEKMathPoint2D _center;
+    double _horzRadius = 0.0;
+    double _vertRadius = 0.0;
+    float _slope = 0.0F;
+    VEKPrtDrawStyle _drawStyle = VEKPrtDrawOutline;
+    VEKPrtStrokeAttributes _stroke;
+    VEKPrtFillAttributes _fill;
+    VEKPrtTransformAttributes _transform;
+};
+
+#endif

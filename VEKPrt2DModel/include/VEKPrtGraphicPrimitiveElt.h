@@ -1,0 +1,63 @@
+// The base of every element of a drawing.
+#ifndef VEKPrtGraphicPrimitiveElt_H
+#define VEKPrtGraphicPrimitiveElt_H
+
+#include "VEKBaseUnknown.h"
+#include "VEKPrt2DModelExport.h"
+#include "VEKPrtMetaFamily.h"
+#include "VEKUnicodeString.h"
+
+/// What of a closed shape is drawn.  Stored and handed back, whatever its value.
+enum VEKPrtDrawStyle : int { VEKPrtDrawInterior = 0, VEKPrtDrawOutline = 1, VEKPrtDrawBoth = 2 };
+
+extern VEKPRT2DMODEL_API VEKMetaClass* meta_object__25VEKPrtGraphicPrimitiveElt;
+
+/// An element: identifier, description and title, and the protocol of all element classes.
+///
+/// Every element class follows it, and says in its own header only what it adds or does otherwise:
+/// - A new element, made by any constructor or by Duplicate, has count 1: its creator's reference.
+/// - The copy constructor gives every field its default, then copies the class's own fields and
+///   records.  The identity strings (identifier, description, title) are left out.  A copy of itself
+///   is a default object.
+/// - Assignment does nothing for the element itself; otherwise it copies the identity strings, then
+///   the own fields, then the records.  Reference counts of the two elements stay as they are.
+/// - Setters store what they are given, unchecked, and copy records and strings; getters copy out.
+///   Array and list getters hand out internal pointers, valid until the next setter, assignment or
+///   destruction of their owner.
+/// - No operation throws or reports that memory is out; what could not be allocated is absent.
+///
+/// Derived classes append their virtual functions after GetTitle.
+class VEKPRT2DMODEL_API VEKPrtGraphicPrimitiveElt : public VEKBaseUnknown {
+public:
+    VEKPrtGraphicPrimitiveElt();
+
+    /// Copies the three identity strings, unlike the copy constructor of any derived class.
+    VEKPrtGraphicPrimitiveElt(const VEKPrtGraphicPrimitiveElt& iOther);
+    ~VEKPrtGraphicPrimitiveElt() override;
+    VEKPrtGraphicPrimitiveElt& operator=(const VEKPrtGraphicPrimitiveElt& iOther);
+
+    VEKPRT_DECLARE_META_FAMILY
+
+    /// Makes an independent element of the same class and hands its one reference to the caller.
+    ///
+    /// \p oCopy is overwritten in any case: null when the element cannot be allocated.  Leaf elements
+    /// carry the identity strings over; containers do not, and duplicate each child in turn, a child
+    /// that they hold twice becoming two.
+    virtual void Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy);
+
+    virtual void SetID(const VEKUnicodeString& iID);
+    virtual void GetID(VEKUnicodeString& oID) const;
+    virtual void SetDescription(const VEKUnicodeString& iDescription);
+    virtual void GetDescription(VEKUnicodeString& oDescription) const;
+    virtual void SetTitle(const VEKUnicodeString& iTitle);
+    virtual void GetTitle(VEKUnicodeString& oTitle) const;
+
+private:
+    VEKPRT2DMODEL_LOCAL void CopyOwn(const VEKPrtGraphicPrimitiveElt& iOther);
+
+    VEKUnicodeString _id;
+    VEKUnicodeString _description;
+    VEKUnicodeString _title;
+};
+
+#endif

@@ -1,0 +1,23 @@
+// The meta-object family that every element class declares.
+#ifndef VEKPrtMetaFamily_H
+#define VEKPrtMetaFamily_H
+
+#include "VEKBaseUnknown.h"
+#include "VEKPrt2DModelExport.h"
+
+/// Declares the seven members by which the framework identifies an element class at run time.
+///
+/// The first call of any of them registers the class and fills its cache, the exported variable
+/// meta_object__<length of the name><name>; the cache is never cleared.  ClassName and IsA yield the
+/// same string; both and ClassId yield null, and IsAKindOf 0, while the class could not be registered
+/// because memory is out.  CreateItself always yields null: no element is created by name.
+#define VEKPRT_DECLARE_META_FAMILY                                                                           \
+    static VEKMetaClass* MetaObject();                                                                       \
+    static const char* ClassId();                                                                            \
+    static const char* ClassName();                                                                          \
+    static VEKBaseUnknown* CreateItself();                                                                   \
+    VEKMetaClass* GetMetaObject() const override;                                                            \
+    const char* IsA() const override;                                                                        \
+    int IsAKindOf(const char* iClassName) const override;
+
+#endif

@@ -1,0 +1,71 @@
+// One shape made of several polygons.
+#ifndef VEKPrtPolyPolygonElt_H
+#define VEKPrtPolyPolygonElt_H
+
+#include "VEKPrt2DModelExport.h"
+#include "VEKPrtFillAttributes.h"
+#include "VEKPrtGraphicPrimitiveElt.h"
+#include "VEKPrtStrokeAttributes.h"
+#include "VEKPrtTransformAttributes.h"
+
+extern VEKPRT2DMODEL_API VEKMetaClass* meta_object__20VEKPrtPolyPolygonElt;
+
+/// The points of all polygons, one polygon after the other, and the number of points of each: for example
+/// an outline and its holes.
+///
+/// Writing through the lent arrays changes the element.
+class VEKPRT2DMODEL_API VEKPrtPolyPolygonElt : public VEKPrtGraphicPrimitiveElt {
+public:
+    VEKPrtPolyPolygonElt();
+
+    /// As SetPoints, but no point array is made for a total of 0 or less; floats are widened.
+    VEKPrtPolyPolygonElt(const double* iPoints, const int* iCounts, int iPolygonCount);
+    VEKPrtPolyPolygonElt(const float* iPoints, const int* iCounts, int iPolygonCount);
+
+    /// Copies the arrays.  A source that lacks one of them counts as one without polygons.
+    VEKPrtPolyPolygonElt(const VEKPrtPolyPolygonElt& iOther);
+    ~VEKPrtPolyPolygonElt() override;
+    VEKPrtPolyPolygonElt& operator=(const VEKPrtPolyPolygonElt& iOther);
+
+    VEKPRT_DECLARE_META_FAMILY
+
+    /// The copy has a pattern image of its own.  The one shared meanwhile is not given back: the source's
+    /// image keeps one reference more for ever.
+    void Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) override;
+
+    /// Replaces points and counts by copies.
+    ///
+    /// \p iPoints holds x0, y0, x1, y1, ... of as many points as the counts add up to; counts are not
+    /// checked, and a negative one lowers the total.  A negative \p iPolygonCount leaves no arrays.
+    /// Where memory is out the array concerned is null; without counts there are no points either.
+    virtual void SetPoints(const double* iPoints, const int* iCounts, int iPolygonCount);
+
+    /// Lends the arrays: valid until the next SetPoints, assignment or destruction.
+    virtual void GetPoints(double*& oPoints, int*& oCounts, int& oPolygonCount) const;
+    virtual void SetDrawStyle(VEKPrtDrawStyle iStyle);
+    virtual void GetDrawStyle(VEKPrtDrawStyle& oStyle) const;
+    virtual void SetStrokeAttributes(const VEKPrtStrokeAttributes& iAttributes);
+    virtual void GetStrokeAttributes(VEKPrtStrokeAttributes& oAttributes) const;
+    virtual void SetFillAttributes(const VEKPrtFillAttributes& iAttributes);
+    virtual void GetFillAttributes(VEKPrtFillAttributes& oAttributes) const;
+    virtual void SetTransformAttributes(const VEKPrtTransformAttributes& iAttributes);
+    virtual void GetTransformAttributes(VEKPrtTransformAttributes& oAttributes) const;
+
+private:
+    template <class Coordinate>
+    VEKPRT2DMODEL_LOCAL void FillArrays(const Coordinate* iPoints, long long iReadable, const int* iCounts,
+                                        long long iReadableCounts, bool iKeepEmpty);
+    VEKPRT2DMODEL_LOCAL void CopyOwn(const VEKPrtPolyPolygonElt& iOther);
+
+    double* _points = nullptr;
+    int* _counts = nullptr;
+    int _polygonCount = 0;
+    VEKPrtDrawStyle _drawStyle = VEKPrtDrawOutline;
+    VEKPrtStrokeAttributes _stroke;
+    VEKPrtFillAttributes _fill;
+    VEKPrtTransformAttributes _transform;
+    // How many points the array holds: the counts are open to the client.
+    long long _pointsHeld = 0;
+};
+
+#endif

@@ -1,0 +1,69 @@
+// A closed polygon.
+#ifndef VEKPrtPolygonElt_H
+#define VEKPrtPolygonElt_H
+
+#include "VEKPrt2DModelExport.h"
+#include "VEKPrtFillAttributes.h"
+#include "VEKPrtGraphicPrimitiveElt.h"
+#include "VEKPrtStrokeAttributes.h"
+#include "VEKPrtTransformAttributes.h"
+
+class VEKListPtrVEKMathPoint2D;
+
+extern VEKPRT2DMODEL_API VEKMetaClass* meta_object__16VEKPrtPolygonElt;
+
+/// A sequence of points, joined in order and closed.
+class VEKPRT2DMODEL_API VEKPrtPolygonElt : public VEKPrtGraphicPrimitiveElt {
+public:
+    VEKPrtPolygonElt();
+
+    /// Copies the points at positions 0 to the list's size less 1, so that the first is (0, 0) and the last
+    /// is not read; a null entry gives (0, 0).
+    explicit VEKPrtPolygonElt(const VEKListPtrVEKMathPoint2D& iPoints);
+
+    /// As SetPoints; floats are widened.
+    VEKPrtPolygonElt(const double* iPoints, int iCount);
+    VEKPrtPolygonElt(const float* iPoints, int iCount);
+
+    /// Copies the array.  A source without an array counts as one without points.
+    VEKPrtPolygonElt(const VEKPrtPolygonElt& iOther);
+    ~VEKPrtPolygonElt() override;
+
+    /// Copies the array; where neither element has one, the count of this one stays.
+    VEKPrtPolygonElt& operator=(const VEKPrtPolygonElt& iOther);
+
+    VEKPRT_DECLARE_META_FAMILY
+
+    /// The copy has a pattern image of its own.  The one shared meanwhile is not given back: the source's
+    /// image keeps one reference more for ever.
+    void Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) override;
+
+    /// Replaces the points by a copy of \p iCount points (x0, y0, x1, y1, ...).
+    ///
+    /// A count of 0 leaves an array of no length, a negative count no array; the count is kept as given,
+    /// also when memory is out and there is no array.  A null \p iPoints gives points at (0, 0).
+    virtual void SetPoints(const double* iPoints, int iCount);
+
+    /// Lends the array: valid until the next SetPoints, assignment or destruction.
+    virtual void GetPoints(double*& oPoints, int& oCount) const;
+    virtual void SetDrawStyle(VEKPrtDrawStyle iStyle);
+    virtual void GetDrawStyle(VEKPrtDrawStyle& oStyle) const;
+    virtual void SetStrokeAttributes(const VEKPrtStrokeAttributes& iAttributes);
+    virtual void GetStrokeAttributes(VEKPrtStrokeAttributes& oAttributes) const;
+    virtual void SetFillAttributes(const VEKPrtFillAttributes& iAttributes);
+    virtual void GetFillAttributes(VEKPrtFillAttributes& oAttributes) const;
+    virtual void SetTransformAttributes(const VEKPrtTransformAttributes& iAttributes);
+    virtual void GetTransformAttributes(VEKPrtTransformAttributes& oAttributes) const;
+
+private:
+    VEKPRT2DMODEL_LOCAL void CopyOwn(const VEKPrtPolygonElt& iOther);
+
+    double* _points = nullptr;
+    int _count = 0;
+    VEKPrtDrawStyle _drawStyle = VEKPrtDrawOutline;
+    VEKPrtStrokeAttributes _stroke;
+    VEKPrtFillAttributes _fill;
+    VEKPrtTransformAttributes _transform;
+};
+
+#endif

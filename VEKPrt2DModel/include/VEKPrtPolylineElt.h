@@ -1,0 +1,59 @@
+// An open polyline.
+#ifndef VEKPrtPolylineElt_H
+#define VEKPrtPolylineElt_H
+
+#include "VEKPrt2DModelExport.h"
+#include "VEKPrtGraphicPrimitiveElt.h"
+#include "VEKPrtStrokeAttributes.h"
+#include "VEKPrtTransformAttributes.h"
+
+class VEKListPtrVEKMathPoint2D;
+
+extern VEKPRT2DMODEL_API VEKMetaClass* meta_object__17VEKPrtPolylineElt;
+
+/// A sequence of points, joined in order.
+class VEKPRT2DMODEL_API VEKPrtPolylineElt : public VEKPrtGraphicPrimitiveElt {
+public:
+    VEKPrtPolylineElt();
+
+    /// Copies the points at positions 1 to the list's size; a null entry gives (0, 0).
+    explicit VEKPrtPolylineElt(const VEKListPtrVEKMathPoint2D& iPoints);
+
+    /// As SetPoints; floats are widened.
+    VEKPrtPolylineElt(const double* iPoints, int iCount);
+    VEKPrtPolylineElt(const float* iPoints, int iCount);
+
+    /// Copies the array.  A source without an array counts as one without points.
+    VEKPrtPolylineElt(const VEKPrtPolylineElt& iOther);
+    ~VEKPrtPolylineElt() override;
+
+    /// Copies the array; where neither element has one, the count of this one stays.
+    VEKPrtPolylineElt& operator=(const VEKPrtPolylineElt& iOther);
+
+    VEKPRT_DECLARE_META_FAMILY
+
+    void Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) override;
+
+    /// Replaces the points by a copy of \p iCount points (x0, y0, x1, y1, ...).
+    ///
+    /// A count of 0 leaves an array of no length, a negative count no array; the count is kept as given,
+    /// also when memory is out and there is no array.  A null \p iPoints gives points at (0, 0).
+    virtual void SetPoints(const double* iPoints, int iCount);
+
+    /// Lends the array: valid until the next SetPoints, assignment or destruction.
+    virtual void GetPoints(double*& oPoints, int& oCount) const;
+    virtual void SetStrokeAttributes(const VEKPrtStrokeAttributes& iAttributes);
+    virtual void GetStrokeAttributes(VEKPrtStrokeAttributes& oAttributes) const;
+    virtual void SetTransformAttributes(const VEKPrtTransformAttributes& iAttributes);
+    virtual void GetTransformAttributes(VEKPrtTransformAttributes& oAttributes) const;
+
+private:
+    VEKPRT2DMODEL_LOCAL void CopyOwn(const VEKPrtPolylineElt& iOther);
+
+    double* _points = nullptr;
+    int _count = 0;
+    VEKPrtStrokeAttributes _stroke;
+    VEKPrtTransformAttributes _transform;
+};
+
+#endif

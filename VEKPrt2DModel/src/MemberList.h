@@ -1,0 +1,121 @@
+// The list of members that a container, a closed figure and the model hold by reference count.
+#ifndef MemberList_H
+#define MemberList_H
+
+#include <new>
+
+#include "VEKListPtrVEKPrtGraphicPrimitiveElt.h"
+#include "VEKPrtGraphicPrimitiveElt.h"
+
+namespace vekprt {
+
+/// The operations on a holder's `List*` of `Member*`: made on first need, null until then.
+///
+/// The holder has one reference on each occurrence of a member.  A list may drop an Append for want of
+/// memory, and nobody can tell: the reference taken for it is then lost.
+template <class List, class Member>
+struct MemberList {
+    static void Add(List*& ioList, Member* iMember) {
+        if (!iMember) return;
+        if (!ioList) ioList = new (std::nothrow) List(0);
+        if (!ioList) return;
+        AppendShared(*ioList, iMember);
+    }
+
+    static void Remove(List* ioList, Member* iMember) {
+        if (!iMember || !ioList) return;
+        const int position = ioList->Locate(iMember, 1);
+        if (position <= 0) return;
+        ioList->RemovePosition(position);
+        iMember->Release();
+    }
+
+    static void Destroy(List*& ioList) {
+        if (ioList) ReleaseWalk(*ioList, 1, ioList->Size());
+        delete ioList;
+        ioList = nullptr;
+    }
+
+    /// Makes \p ioList share the members of \p iSource; the walk that releases the old members runs from
+    /// \p iFirst over as many positions as there are.  Two holders without a list stay without; otherwise
+    /// there is a list afterwards, even for a source without one.
+    static void Share(List*& ioList, const List* iSource, int iFirst) {
+        if (ioList == iSource) return;
+        if (ioList) ReleaseWalk(*ioList, iFirst, iFirst + ioList->Size() - 1);
+        delete ioList;
+        ioList = new (std::nothrow) List(0);
+        if (!ioList || !iSource) return;
+        for (int position = 1; position <= iSource->Size(); ++position)
+            if (Member* const member = At(*iSource, position)) AppendShared(*ioList, member);
+    }
+
+    /// Makes a list of duplicates, one for each occurrence.  The reference that a duplicate comes with is
+    /// the list's.
+    static void Duplicate(List*& oList, const List* iSource) {
+        if (!iSource) return;
+        oList = new (std::nothrow) List(0);
+        if (!oList) return;
+        for (int position = 1; position <= iSource->Size(); ++position) {
+            Member* const member = At(*iSource, position);
+            if (!member) continue;
+            Member* copy = nullptr;
+            member->Duplicate(copy);
+            if (copy) oList->Append(copy);
+        }
+    }
+
+private:
+    static Member* At(const List& iList, int iPosition) { return static_cast<Member*>(iList[iPosition]); }
+
+    static void AppendShared(List& ioList, Member* iMember) {
+        iMember->AddRef();
+        ioList.Append(iMember);
+    }
+
+    static void ReleaseWalk(const List& iList, int iFirst, int iLast) {
+        for (int position = iFirst; position <= iLast; ++position)
+            if (Member* const member = At(iList, position)) member->Release();
+    }
+};
+
+using ChildList = MemberList<VEKListPtrVEKPrtGraphicPrimitiveElt, VEKPrtGraphicPrimitiveElt>;
+
+/// Keeps the source of an assignment alive: the walk over the target's old members may release the last
+/// owner of the source, which can be one of them or lie deeper in the tree.
+class SourceGuard {
+public:
+    explicit SourceGuard(const VEKBaseUnknown& iSource) : _source(const_cast<VEKBaseUnknown&>(iSource)) {
+        _source.AddRef();
+    }
+    ~SourceGuard() { _source.Release(); }
+    SourceGuard(const SourceGuard&) = delete;
+    SourceGuard& operator=(const SourceGuard&) = delete;
+
+private:
+    VEKBaseUnknown& _source;
+};
+
+// Where the release walk of an assignment starts.
+//
+// Containers walk positions 0 to count - 1: position 0 yields null, and the member at the last position
+// keeps its reference and outlives the list.  Clients see that count, so it stays
+// (ContainerAssign.LeavesTheLastReference).
+constexpr int containerWalkStart = 0;
+// The closed figure and the model release every member.
+constexpr int completeWalkStart = 1;
+
+} // namespace vekprt
+
+// The child operations of a container with the field _children; ConstOrNot is the qualifier of GetChildren.
+#define VEKPRT_IMPLEMENT_CHILDREN(Self, ConstOrNot)                                                          \
+    void Self::AddChild(VEKPrtGraphicPrimitiveElt* iChild) {                                                 \
+        if (iChild != this) vekprt::ChildList::Add(_children, iChild);                                       \
+    }                                                                                                        \
+    void Self::RemoveChild(VEKPrtGraphicPrimitiveElt* iChild) {                                              \
+        if (iChild != this) vekprt::ChildList::Remove(_children, iChild);                                    \
+    }                                                                                                        \
+    void Self::GetChildren(VEKListPtrVEKPrtGraphicPrimitiveElt*& oChildren) ConstOrNot {                     \
+        oChildren = _children;                                                                               \
+    }
+
+#endif

@@ -1,0 +1,50 @@
+#include "VEKPrtClosedFigureElt.h"
+
+#include "ElementProtocol.h"
+#include "MemberList.h"
+#include "VEKListPtrVEKPrtClosedFigureRegionElt.h"
+#include "VEKPrtClosedFigureRegionElt.h"
+
+using RegionList = vekprt::MemberList<VEKListPtrVEKPrtClosedFigureRegionElt, VEKPrtClosedFigureRegionElt>;
+
+VEKPRT_IMPLEMENT_ELEMENT(VEKPrtClosedFigureElt, 21)
+
+VEKPrtClosedFigureElt::VEKPrtClosedFigureElt() = default;
+
+VEKPrtClosedFigureElt::~VEKPrtClosedFigureElt() { RegionList::Destroy(_regions); }
+
+void VEKPrtClosedFigureElt::CopyOwn(const VEKPrtClosedFigureElt& iOther) {
+    const vekprt::SourceGuard guard(iOther);
+    RegionList::Share(_regions, iOther._regions, vekprt::completeWalkStart);
+    _drawStyle = iOther._drawStyle;
+    _stroke = iOther._stroke;
+    _fill = iOther._fill;
+    _transform = iOther._transform;
+}
+
+// The copy's fill is fresh when it is duplicated into, so no reference is left behind, unlike the shapes'.
+void VEKPrtClosedFigureElt::Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) {
+    auto* const copy = vekprt::DuplicateByConstruction<VEKPrtClosedFigureElt>(oCopy);
+    if (!copy) return;
+    RegionList::Duplicate(copy->_regions, _regions);
+    copy->_drawStyle = _drawStyle;
+    copy->_stroke = _stroke;
+    _fill.Duplicate(copy->_fill);
+    copy->_transform = _transform;
+}
+
+void VEKPrtClosedFigureElt::SetDrawStyle(VEKPrtDrawStyle iStyle) { _drawStyle = iStyle; }
+void VEKPrtClosedFigureElt::GetDrawStyle(VEKPrtDrawStyle& oStyle) const { oStyle = _drawStyle; }
+VEKPRT_IMPLEMENT_RECORD(VEKPrtClosedFigureElt, StrokeAttributes, _stroke)
+VEKPRT_IMPLEMENT_RECORD(VEKPrtClosedFigureElt, FillAttributes, _fill)
+VEKPRT_IMPLEMENT_RECORD(VEKPrtClosedFigureElt, TransformAttributes, _transform)
+
+void VEKPrtClosedFigureElt::AddChild(VEKPrtClosedFigureRegionElt* iRegion) {
+    RegionList::Add(_regions, iRegion);
+}
+void VEKPrtClosedFigureElt::RemoveChild(VEKPrtClosedFigureRegionElt* iRegion) {
+    RegionList::Remove(_regions, iRegion);
+}
+void VEKPrtClosedFigureElt::GetChildren(VEKListPtrVEKPrtClosedFigureRegionElt*& oRegions) {
+    oRegions = _regions;
+}

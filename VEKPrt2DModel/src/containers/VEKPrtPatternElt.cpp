@@ -1,0 +1,5 @@
+#include "VEKPrtPatternElt.h"
+
+#include "BoxContainer.h"
+
+VEKPRT_IMPLEMENT_BOX_CONTAINER(VEKPrtPatternElt, 16)

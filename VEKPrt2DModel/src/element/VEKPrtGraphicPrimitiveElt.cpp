@@ -1,0 +1,45 @@
+#include "VEKPrtGraphicPrimitiveElt.h"
+
+#include "ElementProtocol.h"
+
+VEKPRT_IMPLEMENT_META_FAMILY(VEKPrtGraphicPrimitiveElt, 25, VEKBaseUnknown)
+
+VEKPrtGraphicPrimitiveElt::VEKPrtGraphicPrimitiveElt() : _id(""), _description(""), _title("") {}
+
+VEKPrtGraphicPrimitiveElt::VEKPrtGraphicPrimitiveElt(const VEKPrtGraphicPrimitiveElt& iOther)
+    : VEKPrtGraphicPrimitiveElt() {
+    if (&iOther != this) CopyOwn(iOther);
+}
+
+VEKPrtGraphicPrimitiveElt::~VEKPrtGraphicPrimitiveElt() = default;
+
+VEKPrtGraphicPrimitiveElt& VEKPrtGraphicPrimitiveElt::operator=(const VEKPrtGraphicPrimitiveElt& iOther) {
+    if (&iOther == this) return *this;
+    VEKBaseUnknown::operator=(iOther);
+    CopyOwn(iOther);
+    return *this;
+}
+
+void VEKPrtGraphicPrimitiveElt::CopyOwn(const VEKPrtGraphicPrimitiveElt& iOther) {
+    _id = iOther._id;
+    _description = iOther._description;
+    _title = iOther._title;
+}
+
+// The strings alone: unlike an assignment this leaves the framework's data words of the copy at their
+// defaults.
+void VEKPrtGraphicPrimitiveElt::Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) {
+    auto* const copy = vekprt::DuplicateByConstruction<VEKPrtGraphicPrimitiveElt>(oCopy);
+    if (copy) copy->CopyOwn(*this);
+}
+
+void VEKPrtGraphicPrimitiveElt::SetID(const VEKUnicodeString& iID) { _id = iID; }
+void VEKPrtGraphicPrimitiveElt::GetID(VEKUnicodeString& oID) const { oID = _id; }
+void VEKPrtGraphicPrimitiveElt::SetDescription(const VEKUnicodeString& iDescription) {
+    _description = iDescription;
+}
+void VEKPrtGraphicPrimitiveElt::GetDescription(VEKUnicodeString& oDescription) const {
+    oDescription = _description;
+}
+void VEKPrtGraphicPrimitiveElt::SetTitle(const VEKUnicodeString& iTitle) { _title = iTitle; }
+void VEKPrtGraphicPrimitiveElt::GetTitle(VEKUnicodeString& oTitle) const { oTitle = _title; }

@@ -1,0 +1,65 @@
+#include "VEKPrtImageElt.h"
+
+#include "ElementProtocol.h"
+#include "MemberList.h"
+#include "VEKPrtColourTable.h"
+
+VEKPRT_IMPLEMENT_ELEMENT(VEKPrtImageElt, 14)
+
+VEKPrtImageElt::VEKPrtImageElt() = default;
+
+VEKPrtImageElt::VEKPrtImageElt(const VEKMathPoint2D& iOrigin, double iWidth, double iHeight,
+                               const VEKPrtImageUnits& iUnits, const VEKMath2x2Matrix& iMatrix)
+    : _origin(iOrigin), _width(iWidth), _height(iHeight), _units(iUnits), _matrix(iMatrix) {}
+
+VEKPrtImageElt::~VEKPrtImageElt() {
+    delete _colourTable;
+    _colourTable = nullptr;
+    vekprt::ChildList::Destroy(_children);
+}
+
+void VEKPrtImageElt::CopyOwn(const VEKPrtImageElt& iOther) {
+    const vekprt::SourceGuard guard(iOther);
+    CopyFields(iOther);
+    vekprt::ChildList::Share(_children, iOther._children, vekprt::containerWalkStart);
+}
+
+void VEKPrtImageElt::CopyFields(const VEKPrtImageElt& iOther) {
+    _origin = iOther._origin;
+    _width = iOther._width;
+    _height = iOther._height;
+    _units = iOther._units;
+    _matrix = iOther._matrix;
+    delete _colourTable;
+    _colourTable = iOther._colourTable ? new (std::nothrow) VEKPrtColourTable(*iOther._colourTable) : nullptr;
+}
+
+void VEKPrtImageElt::Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) {
+    auto* const copy = vekprt::DuplicateByConstruction<VEKPrtImageElt>(oCopy);
+    if (!copy) return;
+    copy->CopyFields(*this);
+    vekprt::ChildList::Duplicate(copy->_children, _children);
+}
+
+void VEKPrtImageElt::SetOrigin(const VEKMathPoint2D& iOrigin) { _origin = iOrigin; }
+void VEKPrtImageElt::GetOrigin(VEKMathPoint2D& oOrigin) const { oOrigin = _origin; }
+void VEKPrtImageElt::SetSize(double iWidth, double iHeight) {
+    _width = iWidth;
+    _height = iHeight;
+}
+void VEKPrtImageElt::GetSize(double& oWidth, double& oHeight) const {
+    oWidth = _width;
+    oHeight = _height;
+}
+void VEKPrtImageElt::SetUnits(const VEKPrtImageUnits& iUnits) { _units = iUnits; }
+void VEKPrtImageElt::GetUnits(VEKPrtImageUnits& oUnits) const { oUnits = _units; }
+void VEKPrtImageElt::SetMatrix(const VEKMath2x2Matrix& iMatrix) { _matrix = iMatrix; }
+void VEKPrtImageElt::GetMatrix(VEKMath2x2Matrix& oMatrix) const { oMatrix = _matrix; }
+
+void VEKPrtImageElt::SetColourTable(VEKPrtColourTable* iTable) {
+    if (iTable == _colourTable) return;
+    delete _colourTable;
+    _colourTable = iTable;
+}
+void VEKPrtImageElt::GetColourTable(VEKPrtColourTable*& oTable) { oTable = _colourTable; }
+VEKPRT_IMPLEMENT_CHILDREN(VEKPrtImageElt, const)

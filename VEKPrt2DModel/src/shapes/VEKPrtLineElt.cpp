@@ -1,0 +1,38 @@
+#include "VEKPrtLineElt.h"
+
+#include "ElementProtocol.h"
+
+VEKPRT_IMPLEMENT_ELEMENT(VEKPrtLineElt, 13)
+
+VEKPrtLineElt::VEKPrtLineElt() = default;
+
+VEKPrtLineElt::VEKPrtLineElt(const VEKMathPoint2D& iStart, const VEKMathPoint2D& iEnd)
+    : _startPoint(iStart), _endPoint(iEnd) {}
+
+VEKPrtLineElt::~VEKPrtLineElt() = default;
+
+void VEKPrtLineElt::CopyOwn(const VEKPrtLineElt& iOther) {
+    _startPoint = iOther._startPoint;
+    _endPoint = iOther._endPoint;
+    _stroke = iOther._stroke;
+    _transform = iOther._transform;
+}
+
+void VEKPrtLineElt::Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) {
+    vekprt::DuplicateByAssignment(*this, oCopy);
+}
+
+void VEKPrtLineElt::SetStartPoint(const VEKMathPoint2D& iStart) { _startPoint = iStart; }
+void VEKPrtLineElt::GetStartPoint(VEKMathPoint2D& oStart) const { oStart = _startPoint; }
+void VEKPrtLineElt::SetEndPoint(const VEKMathPoint2D& iEnd) { _endPoint = iEnd; }
+void VEKPrtLineElt::GetEndPoint(VEKMathPoint2D& oEnd) const { oEnd = _endPoint; }
+void VEKPrtLineElt::SetParameters(const VEKMathPoint2D& iStart, const VEKMathPoint2D& iEnd) {
+    _startPoint = iStart;
+    _endPoint = iEnd;
+}
+void VEKPrtLineElt::GetParameters(VEKMathPoint2D& oStart, VEKMathPoint2D& oEnd) const {
+    oStart = _startPoint;
+    oEnd = _endPoint;
+}
+VEKPRT_IMPLEMENT_RECORD(VEKPrtLineElt, StrokeAttributes, _stroke)
+VEKPRT_IMPLEMENT_RECORD(VEKPrtLineElt, TransformAttributes, _transform)
