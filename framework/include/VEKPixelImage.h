@@ -4,7 +4,8 @@
 
 #include "VEKBaseUnknown.h"
 
-/// Rows of 8-bit RGBA pixels, the top row first; all zero (transparent black) at first.
+/// Rows of 8-bit RGBA pixels, the top row first, one after the other without gaps; all zero (transparent
+/// black) at first.
 class VEKFRAMEWORK_API VEKPixelImage : public VEKBaseUnknown {
 public:
     /// 0 x 0 when a side is not positive or memory is out.
