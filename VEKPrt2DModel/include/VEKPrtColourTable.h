@@ -16,7 +16,8 @@ public:
     VEKPrtColourTable(const VEKPrtColourTable& iOther);
     virtual ~VEKPrtColourTable();
 
-    /// Does nothing when neither table has ever allocated; empty when memory is out.
+    /// Does nothing when neither table has arrays, and so leaves a table stuck that failed to grow at
+    /// first; empty when memory is out.
     VEKPrtColourTable& operator=(const VEKPrtColourTable& iOther);
 
     virtual int GetColourCount(int& oCount) const;

@@ -37,8 +37,11 @@ public:
     /// positive and no array is null.
     ///
     /// Unlike the constructors it reads knots and weights from their second element on: \p iKnots must
-    /// have order + count + 1 elements, \p iWeights count + 1.  An array of the element's own passed back
-    /// is read as far as it goes, zero beyond, and then the caller's to `delete[]`.
+    /// have order + count + 1 elements, \p iWeights count + 1.
+    ///
+    /// An array of the element's own passed back is read as far as it goes, zero beyond.  Where a new one
+    /// takes its place, it is then the caller's to `delete[]`; where none is made (a count of 0 or less, or
+    /// another array null), it stays the element's.
     virtual void SetParameters(int iOrder, int iCount, const double* iControlPoints, const double* iKnots,
                                float iFirstBound, float iSecondBound, const double* iWeights);
 

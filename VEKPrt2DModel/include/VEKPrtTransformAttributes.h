@@ -24,11 +24,12 @@ public:
 
     /// Appends the transforms of \p iOther one by one, by its virtual Get and this record's virtual
     /// Add operations.  A status that is not positive ends the operation and is returned; what was
-    /// appended so far stays.  Not meant for the record itself: -1 after the first transform.
+    /// appended so far stays.  Not meant for the record itself: that ends with -1 after the first addition,
+    /// unless it was the last.
     virtual int AddTransformAttributes(const VEKPrtTransformAttributes& iOther);
 
-    // Each Add appends a value and its kind.  When memory is out it returns -1, the values of that
-    // kind are lost, and the record stays usable.
+    // Each Add appends a value and its kind.  When memory is out it returns -1, and either the values of
+    // that kind are lost or, after the value was appended, the list of all kinds; the record stays usable.
     //
     // Each Get takes a position, from 0, among all transforms, and yields the latest value of its kind
     // at or before that position.  The entry at the position itself may be of another kind.  It fails

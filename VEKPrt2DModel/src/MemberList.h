@@ -38,7 +38,7 @@ struct MemberList {
 
     /// Makes \p ioList share the members of \p iSource; the walk that releases the old members runs from
     /// \p iFirst over as many positions as there are.  Two holders without a list stay without; otherwise
-    /// there is a list afterwards, even for a source without one.
+    /// a list is made, even for a source without one.
     static void Share(List*& ioList, const List* iSource, int iFirst) {
         if (ioList == iSource) return;
         if (ioList) ReleaseWalk(*ioList, iFirst, iFirst + ioList->Size() - 1);
@@ -80,19 +80,22 @@ private:
 
 using ChildList = MemberList<VEKListPtrVEKPrtGraphicPrimitiveElt, VEKPrtGraphicPrimitiveElt>;
 
-/// Keeps the source of an assignment alive: the walk over the target's old members may release the last
-/// owner of the source, which can be one of them or lie deeper in the tree.
+/// Keeps the source of an assignment alive while there is an old list to walk: the walk may release the last
+/// owner of the source, which can be one of the old members or lie deeper in the tree.
 class SourceGuard {
 public:
-    explicit SourceGuard(const VEKBaseUnknown& iSource) : _source(const_cast<VEKBaseUnknown&>(iSource)) {
-        _source.AddRef();
+    SourceGuard(const VEKBaseUnknown& iSource, const void* iOldList)
+        : _source(iOldList ? const_cast<VEKBaseUnknown*>(&iSource) : nullptr) {
+        if (_source) _source->AddRef();
     }
-    ~SourceGuard() { _source.Release(); }
+    ~SourceGuard() {
+        if (_source) _source->Release();
+    }
     SourceGuard(const SourceGuard&) = delete;
     SourceGuard& operator=(const SourceGuard&) = delete;
 
 private:
-    VEKBaseUnknown& _source;
+    VEKBaseUnknown* _source;
 };
 
 // Where the release walk of an assignment starts.

@@ -12,8 +12,8 @@ namespace vekprt {
 
 /// An array of \p iCount elements, all zero (or default-constructed).
 ///
-/// Null when the count is negative, the size does not fit, or memory is out; never null for 0.  The
-/// tests come first because g++ throws from `new (std::nothrow)` for lengths that it finds absurd.
+/// An array of its own for 0, too.  Null when the count is negative, the size does not fit, or memory is
+/// out.  The tests come first because g++ throws from `new (std::nothrow)` for lengths that it finds absurd.
 template <class T>
 T* NewArray(std::int64_t iCount) {
     constexpr std::int64_t limit = PTRDIFF_MAX / static_cast<std::int64_t>(sizeof(T));
@@ -36,12 +36,18 @@ void CopyArray(Target* oTarget, const Source* iSource, std::int64_t iCount, std:
                    [](const Source& iValue) { return Target(iValue); });
 }
 
+/// Whether \p iPlace is an element, or the start, of the array of \p iHeld elements at \p iOwn.
+template <class T>
+bool LiesIn(const T* iPlace, const T* iOwn, std::int64_t iHeld) {
+    const std::less<const T*> before;
+    return iOwn && (iPlace == iOwn || (!before(iPlace, iOwn) && before(iPlace, iOwn + iHeld)));
+}
+
 /// How many elements can be read from \p iSource on, at most \p iWanted: a source that lies in the array
 /// of \p iHeld elements at \p iOwn ends where that array ends, and any other is taken at its word.
 template <class T>
 std::int64_t CountReadable(const T* iSource, std::int64_t iWanted, const T* iOwn, std::int64_t iHeld) {
-    const std::less<const T*> before;
-    if (!iOwn || !iSource || before(iSource, iOwn) || before(iOwn + iHeld, iSource)) return iWanted;
+    if (!LiesIn(iSource, iOwn, iHeld)) return iWanted;
     return std::min<std::int64_t>(iWanted, iOwn + iHeld - iSource);
 }
 

@@ -28,8 +28,8 @@ public:
     static void operator delete(void* iObject, const std::nothrow_t&) noexcept;
     static void operator delete(void*, void*) noexcept {}
 
-    // The host's interface protocol.  The reference implementation offers no interface: it sets
-    // outputs to null (when it is given any) and returns NotImplemented.
+    // The host's interface protocol.  The reference implementation offers no interface: it returns
+    // NotImplemented, sets a returned pointer to null and a count to 0, and leaves other outputs alone.
     enum Status : int { Done = 0, NotImplemented = -1 };
     virtual int QueryInterface(const void* iInterfaceId, void** oInterface);
     /// Both return the count after the call; Release to 0 deletes the object.

@@ -6,9 +6,9 @@
 
 class VEKFont {
 public:
-    explicit VEKFont(const char* iFamily) : _family(iFamily) {}
+    VEKFont(const char* iFamily) : _family(iFamily) {}
 
-    /// Valid as long as the font.
+    /// Valid until the font changes or goes.
     const char* GetFamily() const { return _family.ToUtf8(); }
 
 private:

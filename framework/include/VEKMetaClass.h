@@ -4,7 +4,7 @@
 
 #include "VEKFrameworkExport.h"
 
-/// What sort of thing a meta-object describes; classes of objects register as ImplementationClass.
+/// What sort of thing a meta-object describes; element classes register as VEKTypeImplementation.
 enum ENUMTypeOfClass : int { VEKTypeInterface = 0, VEKTypeImplementation = 1, VEKTypeExtension = 2 };
 
 /// Describes one class at run time.
@@ -19,7 +19,7 @@ public:
     const char* GetName() const { return _name; }
     /// Component and class name, joined by a point: "PrintBase.VEKPrtLineElt".
     const char* GetId() const { return _id; }
-    /// Null for the root class only.
+    /// Null for a class that was registered without a base, as VEKBaseUnknown is.
     VEKMetaClass* GetBase() const { return _base; }
     /// Instance size in bytes.
     long GetSize() const { return _size; }

@@ -8,7 +8,7 @@
 class VEKPrintLinkURI {
 public:
     VEKPrintLinkURI() = default;
-    explicit VEKPrintLinkURI(const char* iURI) : _uri(iURI) {}
+    VEKPrintLinkURI(const char* iURI) : _uri(iURI) {}
 
     /// Never null; valid until the next change of this link.
     const char* GetURI() const { return _uri.ToUtf8(); }

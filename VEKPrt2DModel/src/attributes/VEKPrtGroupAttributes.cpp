@@ -1,6 +1,8 @@
 #include "VEKPrtGroupAttributes.h"
 
-VEKPrtGroupAttributes::VEKPrtGroupAttributes() = default;
+// Assigned although it is constructed so already: the default of a host's link type is then the one it
+// gives to copies.
+VEKPrtGroupAttributes::VEKPrtGroupAttributes() { _linkURI = VEKPrintLinkURI(); }
 
 VEKPrtGroupAttributes::VEKPrtGroupAttributes(const VEKPrtGroupAttributes& iOther) : VEKPrtGroupAttributes() {
     *this = iOther;

@@ -13,7 +13,7 @@
         : _origin(iOrigin), _width(iWidth), _height(iHeight) {}                                              \
     Self::~Self() { vekprt::ChildList::Destroy(_children); }                                                 \
     void Self::CopyOwn(const Self& iOther) {                                                                 \
-        const vekprt::SourceGuard guard(iOther);                                                             \
+        const vekprt::SourceGuard guard(iOther, _children);                                                  \
         vekprt::ChildList::Share(_children, iOther._children, vekprt::containerWalkStart);                   \
         CopyFields(iOther);                                                                                  \
     }                                                                                                        \

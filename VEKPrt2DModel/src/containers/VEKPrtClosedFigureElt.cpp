@@ -14,7 +14,7 @@ VEKPrtClosedFigureElt::VEKPrtClosedFigureElt() = default;
 VEKPrtClosedFigureElt::~VEKPrtClosedFigureElt() { RegionList::Destroy(_regions); }
 
 void VEKPrtClosedFigureElt::CopyOwn(const VEKPrtClosedFigureElt& iOther) {
-    const vekprt::SourceGuard guard(iOther);
+    const vekprt::SourceGuard guard(iOther, _regions);
     RegionList::Share(_regions, iOther._regions, vekprt::completeWalkStart);
     _drawStyle = iOther._drawStyle;
     _stroke = iOther._stroke;

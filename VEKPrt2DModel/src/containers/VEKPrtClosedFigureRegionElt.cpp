@@ -10,7 +10,7 @@ VEKPrtClosedFigureRegionElt::VEKPrtClosedFigureRegionElt() = default;
 VEKPrtClosedFigureRegionElt::~VEKPrtClosedFigureRegionElt() { vekprt::ChildList::Destroy(_children); }
 
 void VEKPrtClosedFigureRegionElt::CopyOwn(const VEKPrtClosedFigureRegionElt& iOther) {
-    const vekprt::SourceGuard guard(iOther);
+    const vekprt::SourceGuard guard(iOther, _children);
     vekprt::ChildList::Share(_children, iOther._children, vekprt::containerWalkStart);
     _transform = iOther._transform;
 }

@@ -10,7 +10,7 @@ VEKPrtGroupElt::VEKPrtGroupElt() = default;
 VEKPrtGroupElt::~VEKPrtGroupElt() { vekprt::ChildList::Destroy(_children); }
 
 void VEKPrtGroupElt::CopyOwn(const VEKPrtGroupElt& iOther) {
-    const vekprt::SourceGuard guard(iOther);
+    const vekprt::SourceGuard guard(iOther, _children);
     vekprt::ChildList::Share(_children, iOther._children, vekprt::containerWalkStart);
     CopyFields(iOther);
 }

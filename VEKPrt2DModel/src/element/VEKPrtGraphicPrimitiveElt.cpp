@@ -4,7 +4,13 @@
 
 VEKPRT_IMPLEMENT_META_FAMILY(VEKPrtGraphicPrimitiveElt, 25, VEKBaseUnknown)
 
-VEKPrtGraphicPrimitiveElt::VEKPrtGraphicPrimitiveElt() : _id(""), _description(""), _title("") {}
+// Here and elsewhere strings are default-constructed and then assigned: that is all that is asked of a
+// host's string type.
+VEKPrtGraphicPrimitiveElt::VEKPrtGraphicPrimitiveElt() {
+    _id = "";
+    _description = "";
+    _title = "";
+}
 
 VEKPrtGraphicPrimitiveElt::VEKPrtGraphicPrimitiveElt(const VEKPrtGraphicPrimitiveElt& iOther)
     : VEKPrtGraphicPrimitiveElt() {

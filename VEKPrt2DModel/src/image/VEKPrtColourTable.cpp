@@ -1,5 +1,7 @@
 #include "VEKPrtColourTable.h"
 
+#include <limits>
+
 #include "OwnedArray.h"
 
 namespace {
@@ -76,6 +78,7 @@ int VEKPrtColourTable::AddColour(unsigned char iRed, unsigned char iGreen, unsig
 // On failure the capacity stays raised and arrays that were got before are not freed; the old ones stay in
 // use (ColourTableFailure.CapacityStaysRaised).
 int VEKPrtColourTable::Grow() {
+    if (_capacity > std::numeric_limits<unsigned int>::max() - growthStep) return -1;
     _capacity += growthStep;
     unsigned char* const red = vekprt::NewArray<unsigned char>(_capacity);
     if (!red) return -1;

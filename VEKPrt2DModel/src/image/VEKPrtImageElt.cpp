@@ -19,7 +19,7 @@ VEKPrtImageElt::~VEKPrtImageElt() {
 }
 
 void VEKPrtImageElt::CopyOwn(const VEKPrtImageElt& iOther) {
-    const vekprt::SourceGuard guard(iOther);
+    const vekprt::SourceGuard guard(iOther, _children);
     CopyFields(iOther);
     vekprt::ChildList::Share(_children, iOther._children, vekprt::containerWalkStart);
 }

@@ -31,11 +31,13 @@ inline void NewPointsFromList(double*& oPoints, int iCount, const VEKListPtrVEKM
     }
 }
 
-/// SetPoints.  The old array goes last: \p iPoints may lie in it, and is then read as far as it goes.
+/// SetPoints.  The old array goes first, unless \p iPoints lies in it: it is then read as far as it goes.
 inline void ReplacePoints(double*& ioPoints, int& ioCount, const double* iPoints, int iCount) {
     double* old = ioPoints;
     const std::int64_t wanted = 2 * std::int64_t{iCount};
-    const std::int64_t readable = CountReadable(iPoints, wanted, old, 2 * std::int64_t{ioCount});
+    const std::int64_t held = 2 * std::int64_t{ioCount};
+    const std::int64_t readable = CountReadable(iPoints, wanted, old, held);
+    if (!LiesIn<double>(iPoints, old, held)) DeleteArray(old);
     ioCount = iCount;
     ioPoints = NewArray<double>(wanted);
     CopyArray(ioPoints, iPoints, readable);

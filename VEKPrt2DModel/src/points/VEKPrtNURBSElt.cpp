@@ -84,38 +84,51 @@ void VEKPrtNURBSElt::Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) {
 // Reads knots and weights from their second element on, where the constructors start at the first.  Clients
 // pad their arrays for it, so it stays (NURBS.SetParametersReadsFromTheSecondElement).
 //
-// An array passed back is left to the caller; the others go last, because an argument may lie in one of them.
-// No argument is read beyond an own array that it lies in.
+// An array passed back is left alone: it is the caller's once a new one takes its place, and stays held where
+// none is made.  The others go, at once unless an argument lies in one of them; no argument is read beyond an
+// own array that it lies in.
 void VEKPrtNURBSElt::SetParameters(int iOrder, int iCount, const double* iControlPoints, const double* iKnots,
                                    float iFirstBound, float iSecondBound, const double* iWeights) {
-    double* const oldControlPoints = _controlPoints;
-    double* const oldKnots = _knots;
-    double* const oldWeights = _weights;
-    const std::int64_t oldKnotCount = KnotCount(_heldOrder, _heldCount);
-    const std::int64_t oldCount = _heldCount;
-    const auto readable = [=](const double* iArray, std::int64_t iWanted) {
-        iWanted = vekprt::CountReadable(iArray, iWanted, oldControlPoints, 2 * oldCount);
-        iWanted = vekprt::CountReadable(iArray, iWanted, oldKnots, oldKnotCount);
-        return vekprt::CountReadable(iArray, iWanted, oldWeights, oldCount);
+    struct Held {
+        double* array;
+        std::int64_t count;
     };
-    double* const unusedControlPoints =
-        _controlPoints != iControlPoints ? std::exchange(_controlPoints, nullptr) : nullptr;
-    double* const unusedKnots = _knots != iKnots ? std::exchange(_knots, nullptr) : nullptr;
-    double* const unusedWeights = _weights != iWeights ? std::exchange(_weights, nullptr) : nullptr;
+    const Held held[] = {{_controlPoints, 2 * std::int64_t{_heldCount}},
+                         {_knots, KnotCount(_heldOrder, _heldCount)},
+                         {_weights, _heldCount}};
+    const auto readable = [&held](const double* iArray, std::int64_t iWanted) {
+        for (const Held& own : held)
+            iWanted = vekprt::CountReadable<double>(iArray, iWanted, own.array, own.count);
+        return iWanted;
+    };
+    const auto isRead = [&](const Held& iOwn) {
+        return vekprt::LiesIn<double>(iControlPoints, iOwn.array, iOwn.count) ||
+               vekprt::LiesIn<double>(iKnots, iOwn.array, iOwn.count) ||
+               vekprt::LiesIn<double>(iWeights, iOwn.array, iOwn.count);
+    };
+    double* unused[3] = {};
+    const auto drop = [&](int iWhich, double*& ioArray, const double* iArgument) {
+        if (ioArray == iArgument) return;
+        if (isRead(held[iWhich])) unused[iWhich] = std::exchange(ioArray, nullptr);
+        vekprt::DeleteArray(ioArray);
+    };
+    drop(0, _controlPoints, iControlPoints);
+    drop(1, _knots, iKnots);
+    drop(2, _weights, iWeights);
 
     _count = iCount;
     _firstBound = iFirstBound;
     _order = iOrder;
     _secondBound = iSecondBound;
     if (iCount > 0 && iControlPoints && iKnots && iWeights && NewArrays()) {
-        const std::int64_t knotCount = KnotCount(iOrder, iCount);
+        const std::int64_t knotsRead = readable(iKnots, KnotCount(iOrder, iCount) + 1);
+        const std::int64_t weightsRead = readable(iWeights, std::int64_t{iCount} + 1);
         vekprt::CopyArray(_controlPoints, iControlPoints, readable(iControlPoints, 2 * std::int64_t{iCount}));
-        vekprt::CopyArray(_knots, iKnots, readable(iKnots, knotCount + 1) - 1, 1);
-        vekprt::CopyArray(_weights, iWeights, readable(iWeights, std::int64_t{iCount} + 1) - 1, 1);
+        vekprt::CopyArray(_knots, iKnots, knotsRead - 1, 1);
+        vekprt::CopyArray(_weights, iWeights, weightsRead - 1, 1);
     }
-    delete[] unusedControlPoints;
-    delete[] unusedKnots;
-    delete[] unusedWeights;
+    for (double* array : unused)
+        vekprt::DeleteArray(array);
 }
 void VEKPrtNURBSElt::GetParameters(int& oOrder, int& oCount, double*& oControlPoints, double*& oKnots,
                                    float& oFirstBound, float& oSecondBound, double*& oWeights) const {

@@ -72,13 +72,15 @@ void VEKPrtPolyPolygonElt::Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) {
 }
 
 // A total of 0 leaves an array of no length here, where the constructors and copying leave none.  The old
-// arrays go last: the arguments may lie in them, and are then read as far as they go.
+// arrays go first, unless an argument lies in them: it is then read as far as they go.
 void VEKPrtPolyPolygonElt::SetPoints(const double* iPoints, const int* iCounts, int iPolygonCount) {
     double* oldPoints = _points;
     int* oldCounts = _counts;
     const std::int64_t readable = vekprt::CountReadable(iPoints, unlimited, oldPoints, 2 * _pointsHeld);
     const std::int64_t readableCounts =
         vekprt::CountReadable(iCounts, iPolygonCount, oldCounts, _polygonCount);
+    if (!vekprt::LiesIn<double>(iPoints, oldPoints, 2 * _pointsHeld)) vekprt::DeleteArray(oldPoints);
+    if (!vekprt::LiesIn<int>(iCounts, oldCounts, _polygonCount)) vekprt::DeleteArray(oldCounts);
     _points = nullptr;
     _counts = nullptr;
     _pointsHeld = 0;

@@ -4,10 +4,12 @@
 
 VEKPRT_IMPLEMENT_ELEMENT(VEKPrtTextElt, 13)
 
-VEKPrtTextElt::VEKPrtTextElt() = default;
+VEKPrtTextElt::VEKPrtTextElt() { _text = ""; }
 
 VEKPrtTextElt::VEKPrtTextElt(const VEKMathPoint2D& iPosition, const VEKUnicodeString& iText)
-    : _position(iPosition), _text(iText) {}
+    : _position(iPosition) {
+    _text = iText;
+}
 
 VEKPrtTextElt::~VEKPrtTextElt() = default;
 
