@@ -68,15 +68,18 @@ void Write(SvgPage& ioPage, VEKPrtGroupElt& ioGroup) {
     WriteChildren(ioPage, ChildrenOf(ioGroup));
 }
 
-// A page on a page: its children, under its matrix.
+// A page on a page: its children, under its matrix and in its own colours.
 void Write(SvgPage& ioPage, VEKPrtImageElt& ioNestedImage) {
     VEKMath2x2Matrix matrix;
     ioNestedImage.GetMatrix(matrix);
     VEKPrtTransformAttributes transform;
     transform.AddMatrix(matrix);
-    SvgElement(ioPage, ioNestedImage, "g").Transform(transform).Content();
-    ioPage.Warn(ioNestedImage,
-                "an image inside a page is drawn without its children: it has colours of its own");
+    SvgElement element(ioPage, ioNestedImage, "g");
+    element.Transform(transform).Content();
+    VEKPrtColourTable* const outer = ioPage.colours;
+    ioNestedImage.GetColourTable(ioPage.colours);
+    WriteChildren(ioPage, ChildrenOf(ioNestedImage));
+    ioPage.colours = outer;
 }
 
 void Write(SvgPage& ioPage, VEKPrtSymbolElt& ioSymbol) {
