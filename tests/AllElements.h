@@ -1,0 +1,54 @@
+// Every element class: a list for typed tests.  It is checked against the exported caches by exports.sh.
+#ifndef AllElements_H
+#define AllElements_H
+
+#include <gtest/gtest.h>
+
+#include "VEKListPtrVEKPrtClosedFigureRegionElt.h"
+#include "VEKListPtrVEKPrtGraphicPrimitiveElt.h"
+#include "VEKListPtrVEKPrtImageElt.h"
+#include "VEKPrtBitmapImageElt.h"
+#include "VEKPrtCircleElt.h"
+#include "VEKPrtCircularArcElt.h"
+#include "VEKPrtClosedFigureElt.h"
+#include "VEKPrtClosedFigureRegionElt.h"
+#include "VEKPrtColourTable.h"
+#include "VEKPrtDisjointPolylineElt.h"
+#include "VEKPrtEllipseElt.h"
+#include "VEKPrtEllipticalArcElt.h"
+#include "VEKPrtGraphicPrimitiveElt.h"
+#include "VEKPrtGroupElt.h"
+#include "VEKPrtImageElt.h"
+#include "VEKPrtLineElt.h"
+#include "VEKPrtMarkerElt.h"
+#include "VEKPrtModel.h"
+#include "VEKPrtNURBSElt.h"
+#include "VEKPrtPatternElt.h"
+#include "VEKPrtPolyCubicBezierElt.h"
+#include "VEKPrtPolyPolygonElt.h"
+#include "VEKPrtPolyQuadraticBezierElt.h"
+#include "VEKPrtPolygonElt.h"
+#include "VEKPrtPolylineElt.h"
+#include "VEKPrtRectangleElt.h"
+#include "VEKPrtSymbolElt.h"
+#include "VEKPrtTextElt.h"
+
+using AllElements =
+    testing::Types<VEKPrtGraphicPrimitiveElt, VEKPrtBitmapImageElt, VEKPrtCircleElt, VEKPrtCircularArcElt,
+                   VEKPrtClosedFigureElt, VEKPrtClosedFigureRegionElt, VEKPrtDisjointPolylineElt,
+                   VEKPrtEllipseElt, VEKPrtEllipticalArcElt, VEKPrtGroupElt, VEKPrtImageElt, VEKPrtLineElt,
+                   VEKPrtMarkerElt, VEKPrtNURBSElt, VEKPrtPatternElt, VEKPrtPolyCubicBezierElt,
+                   VEKPrtPolyPolygonElt, VEKPrtPolyQuadraticBezierElt, VEKPrtPolygonElt, VEKPrtPolylineElt,
+                   VEKPrtRectangleElt, VEKPrtSymbolElt, VEKPrtTextElt>;
+
+// Those with a list of children of any class.
+using Containers = testing::Types<VEKPrtGroupElt, VEKPrtImageElt, VEKPrtPatternElt, VEKPrtSymbolElt,
+                                  VEKPrtClosedFigureRegionElt>;
+// Those with nothing but a sequence of points besides their records.
+using PointArrays = testing::Types<VEKPrtPolylineElt, VEKPrtPolyCubicBezierElt, VEKPrtPolyQuadraticBezierElt,
+                                   VEKPrtPolygonElt, VEKPrtDisjointPolylineElt>;
+using Filled = testing::Types<VEKPrtRectangleElt, VEKPrtCircleElt, VEKPrtCircularArcElt, VEKPrtEllipseElt,
+                              VEKPrtEllipticalArcElt, VEKPrtTextElt, VEKPrtPolygonElt, VEKPrtPolyPolygonElt,
+                              VEKPrtClosedFigureElt>;
+
+#endif

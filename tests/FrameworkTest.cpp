@@ -1,0 +1,132 @@
+#include "TestSupport.h"
+#include "VEKFont.h"
+#include "VEKListPtrVEKMathPoint2D.h"
+#include "VEKMath2x2Matrix.h"
+#include "VEKMathPoint2D.h"
+#include "VEKMetaClass.h"
+#include "VEKPrintLinkURI.h"
+
+TEST(BaseUnknown, CountsFromOneAndAssignsItsDataWordsOnly) {
+    const auto first = Make<VEKPrtLineElt>();
+    EXPECT_EQ(first->AddRef(), 2UL);
+    int host = 0;
+    first->SetImpl(&host);
+    const auto second = Make<VEKPrtLineElt>();
+    *second = *first;
+    EXPECT_EQ(second->GetImpl(), &host);
+    EXPECT_EQ(Count(second), 1UL);
+    EXPECT_EQ(Make<VEKPrtLineElt>(*first)->GetImpl(), nullptr)
+        << "copies start with the framework's defaults";
+    EXPECT_EQ(first->Release(), 1UL);
+}
+
+TEST(BaseUnknown, NewYieldsNullWhenMemoryIsOut) {
+    VEKPrtLineElt* line = nullptr;
+    WithFault(0, [&] { line = new VEKPrtLineElt; });
+    EXPECT_EQ(line, nullptr);
+}
+
+TEST(MetaClass, RegistersOnceAndSurvivesExhaustedMemory) {
+    const auto retrieve = [](VEKMetaClass* iBase) {
+        return fct_RetrieveMetaObject("TestThing", VEKTypeImplementation, iBase, "VEKnull", "Test", 12);
+    };
+    WithFault(0, [&] { EXPECT_EQ(retrieve(nullptr), nullptr); });
+    VEKMetaClass* const meta = retrieve(VEKBaseUnknown::MetaObject());
+    ASSERT_NE(meta, nullptr);
+    EXPECT_EQ(retrieve(nullptr), meta);
+    EXPECT_STREQ(meta->GetId(), "Test.TestThing");
+    EXPECT_EQ(meta->GetBase(), VEKBaseUnknown::MetaObject());
+    EXPECT_EQ(meta->GetSize(), 12);
+    EXPECT_EQ(meta->IsAKindOf("VEKBaseUnknown"), 1);
+    EXPECT_EQ(meta->IsAKindOf("TestThin"), 0);
+    EXPECT_EQ(meta->IsAKindOf(nullptr), 0);
+}
+
+TEST(RawColl, PositionsCountFromOneAndGapsClose) {
+    int values[5] = {};
+    VEKRawCollPV collection(0);
+    for (int& value : values)
+        collection.Append(&value);
+    collection.Append(values);
+    EXPECT_EQ(collection.Size(), 6);
+    EXPECT_EQ(collection.Locate(values), 1);
+    EXPECT_EQ(collection.Locate(values, 2), 6);
+    EXPECT_EQ(collection.Locate(&collection), 0);
+    EXPECT_EQ(collection.Locate(values, -7), 1);
+    collection.RemovePosition(0);
+    collection.RemovePosition(7);
+    collection.RemovePosition(2);
+    EXPECT_EQ(collection.Size(), 5);
+    EXPECT_EQ(collection[2], &values[2]);
+    for (const int outside : {-1, 0, 6})
+        EXPECT_EQ(collection[outside], nullptr) << outside;
+}
+
+TEST(RawColl, DropsWhatItCannotHold) {
+    int value = 0;
+    VEKRawCollPV full(1);
+    full.Append(&value);
+    WithFault(0, [&] { full.Append(&value); });
+    EXPECT_EQ(full.Size(), 1);
+    VEKRawCollPV other(0);
+    WithFault(0, [&] { other = full; });
+    EXPECT_EQ(other.Size(), 0);
+    WithFault(0, [&] { EXPECT_EQ(VEKRawCollPV(full).Size(), 0); });
+    other = full;
+    EXPECT_EQ(other[1], &value);
+}
+
+TEST(RawColl, GrowsInFewSteps) {
+    VEKRawCollPV collection(0);
+    const long before = Allocations();
+    for (int i = 0; i < 1000; ++i)
+        collection.Append(&collection);
+    EXPECT_LE(Allocations() - before, 12);
+}
+
+TEST(UnicodeString, KeepsItsValueWhenMemoryIsOut) {
+    static_assert(sizeof(VEKUnicodeString) == sizeof(void*), "one pointer");
+    VEKUnicodeString text("Ärmel");
+    WithFault(0, [&] { text = "other"; });
+    EXPECT_STREQ(text.ToUtf8(), "Ärmel");
+    text = text.ToUtf8() + 2;
+    EXPECT_STREQ(text.ToUtf8(), "rmel") << "assigned from its own tail";
+    const long before = LiveBlocks();
+    text = "";
+    EXPECT_EQ(LiveBlocks(), before - 1);
+    EXPECT_TRUE(text.IsEmpty());
+    EXPECT_EQ(text, VEKUnicodeString(nullptr));
+}
+
+TEST(Values, CompareExactly) {
+    EXPECT_FALSE(VEKMathPoint2D(0.1 + 0.2, 0) == VEKMathPoint2D(0.3, 0));
+    EXPECT_EQ(VEKMath2x2Matrix(), VEKMath2x2Matrix(1, 0, 0, 1));
+    const VEKMath2x2Matrix matrix(1, 2, 3, 4);
+    EXPECT_EQ(matrix.GetCoef(1, 2), 2.0);
+    EXPECT_EQ(matrix.GetCoef(2, 1), 3.0);
+    EXPECT_EQ(matrix.GetCoef(0, 1), 0.0);
+    EXPECT_EQ(VEKPrintLinkURI("a"), VEKPrintLinkURI("a"));
+    EXPECT_NE(VEKPrintLinkURI("a"), VEKPrintLinkURI());
+}
+
+TEST(PixelImage, ClonesOrYieldsNull) {
+    const auto image = Make<VEKPixelImage>(3, 2);
+    image->SetPixel(2, 1, 1, 2, 3, 4);
+    image->SetPixel(3, 1, 9, 9, 9);
+    const auto copy = VEKRef<VEKPixelImage>::Adopt(image->Clone());
+    EXPECT_EQ(copy->GetRow(1)[11], 4);
+    EXPECT_EQ(copy->GetRow(2), nullptr);
+    for (const long nth : {0L, 1L})
+        WithFault(nth, [&] { EXPECT_EQ(image->Clone(), nullptr); });
+    EXPECT_EQ(Make<VEKPixelImage>(1 << 30, 1 << 30)->GetWidth() * Make<VEKPixelImage>(-1, 5)->GetHeight(), 0);
+}
+
+TEST(Ref, AdoptsOrShares) {
+    auto ref = Make<VEKPrtLineElt>();
+    VEKPrtLineElt* const line = ref.Get();
+    const auto shared = VEKRef<VEKPrtLineElt>::Share(line);
+    EXPECT_EQ(Count(line), 2UL);
+    ref = ref;
+    ref = VEKRef<VEKPrtLineElt>();
+    EXPECT_EQ(Count(line), 1UL);
+}

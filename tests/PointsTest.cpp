@@ -1,0 +1,317 @@
+#include <climits>
+#include <memory>
+#include <type_traits>
+#include <vector>
+
+#include "TestSupport.h"
+#include "VEKListPtrVEKMathPoint2D.h"
+
+namespace {
+
+using Values = std::vector<double>;
+
+// The values of an array, {-1} for null; points to the doubles, as many as the count says.
+Values Read(const double* iArray, long long iCount) {
+    return iArray ? Values(iArray, iArray + (iCount > 0 ? iCount : 0)) : Values{-1};
+}
+const Values g_null = {-1};
+
+template <class Element>
+Values PointsOf(const Element& iElement, int& oCount) {
+    double* points = nullptr;
+    iElement.GetPoints(points, oCount);
+    return Read(points, 2LL * oCount);
+}
+
+template <class Element>
+void ExpectPoints(const Element& iElement, int iCount, const Values& iPoints, const char* iWhat = "") {
+    int count = -99;
+    EXPECT_EQ(PointsOf(iElement, count), iPoints) << iWhat;
+    EXPECT_EQ(count, iCount) << iWhat;
+}
+
+template <class Element>
+constexpr bool isDisjoint = std::is_same<Element, VEKPrtDisjointPolylineElt>::value;
+template <class Element>
+constexpr bool readsFromZero = isDisjoint<Element> || std::is_same<Element, VEKPrtPolygonElt>::value;
+template <class Element>
+constexpr bool copiesFirst = !isDisjoint<Element>;
+
+template <class Element>
+class EveryPointArray : public testing::Test {};
+TYPED_TEST_SUITE(EveryPointArray, PointArrays);
+
+template <class Element>
+class PointArrayList : public testing::Test {};
+TYPED_TEST_SUITE(PointArrayList, PointArrays);
+
+const double g_five[] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10};
+
+} // namespace
+
+TYPED_TEST(PointArrayList, FirstPosition) {
+    VEKMathPoint2D a(1, 2), b(3, 4), c(5, 6);
+    VEKListPtrVEKMathPoint2D list(0);
+    ExpectPoints(TypeParam(list), 0, g_null);
+    for (VEKMathPoint2D* const point : {&a, static_cast<VEKMathPoint2D*>(nullptr), &b, &c})
+        list.Append(point);
+    ExpectPoints(TypeParam(list), 4,
+                 readsFromZero<TypeParam> ? Values{0, 0, 1, 2, 0, 0, 3, 4} : Values{1, 2, 0, 0, 3, 4, 5, 6});
+    list.RemovePosition(4);
+    const bool rounds = isDisjoint<TypeParam>;
+    ExpectPoints(TypeParam(list), rounds ? 2 : 3,
+                 rounds                     ? Values{0, 0, 1, 2}
+                 : readsFromZero<TypeParam> ? Values{0, 0, 1, 2, 0, 0}
+                                            : Values{1, 2, 0, 0, 3, 4});
+}
+
+TYPED_TEST(EveryPointArray, ConstructsFromArrays) {
+    constexpr bool rounds = isDisjoint<TypeParam>;
+    ExpectPoints(TypeParam(), 0, g_null);
+    ExpectPoints(TypeParam(g_five, 3), rounds ? 2 : 3,
+                 rounds ? Values{1, 2, 3, 4} : Values{1, 2, 3, 4, 5, 6});
+    ExpectPoints(TypeParam(g_five, 0), 0, rounds ? g_null : Values{}, "no points");
+    ExpectPoints(TypeParam(g_five, -3), rounds ? -2 : -3, g_null, "a negative count");
+    ExpectPoints(TypeParam(g_five, INT_MIN), INT_MIN, g_null);
+    ExpectPoints(TypeParam(static_cast<const double*>(nullptr), 2), 2, {0, 0, 0, 0}, "no source");
+    if constexpr (!rounds) {
+        const float narrow[] = {1.5F, 0.1F};
+        ExpectPoints(TypeParam(narrow, 1), 1, {1.5, static_cast<double>(0.1F)});
+    }
+}
+
+TYPED_TEST(EveryPointArray, ReplacesAsGiven) {
+    const auto element = Make<TypeParam>();
+    element->SetPoints(g_five, 5);
+    ExpectPoints(*element, 5, Values(g_five, g_five + 10), "SetPoints rounds nothing");
+    double* own = nullptr;
+    int count = 0;
+    element->GetPoints(own, count);
+    element->SetPoints(own + 6, 3);
+    ExpectPoints(*element, 3, {7, 8, 9, 10, 0, 0}, "from inside its own array, as far as that goes");
+    element->SetPoints(g_five, 0);
+    ExpectPoints(*element, 0, {}, "an array of no length");
+    element->SetPoints(g_five, -3);
+    ExpectPoints(*element, -3, g_null);
+    WithFault(0, [&] { element->SetPoints(g_five, 4); });
+    ExpectPoints(*element, 4, g_null, "memory out: the count is kept");
+    ExpectPoints(*Make<TypeParam>(*element), 0, g_null, "copied from an element without an array");
+}
+
+TYPED_TEST(EveryPointArray, CopiesItsArray) {
+    const auto source = Make<TypeParam>(g_five, 4), target = Make<TypeParam>();
+    const Values four(g_five, g_five + 8);
+    target->SetPoints(g_five, -7);
+    *target = *Make<TypeParam>();
+    ExpectPoints(*target, -7, g_null, "neither has an array: the count stays");
+    *target = *source;
+    const auto copy = Make<TypeParam>(*source);
+    const auto duplicate = Duplicated(*source);
+    source->SetPoints(nullptr, 1);
+    for (const auto* const element : {&target, &copy, &duplicate})
+        ExpectPoints(**element, 4, four);
+    *target = *std::as_const(target).Get();
+    ExpectPoints(*target, 4, four, "assigned to itself");
+    *target = *Make<TypeParam>(g_five, 0);
+    ExpectPoints(*target, 0, g_null, "an array of no length is not copied");
+    *copy = *Make<TypeParam>();
+    ExpectPoints(*copy, 0, g_null);
+    WithFault(0, [&] { *copy = *duplicate; });
+    ExpectPoints(*copy, 4, g_null, "memory out: the source's count");
+    WithSelfCopy<TypeParam>([](const TypeParam& iCopy) { ExpectPoints(iCopy, 0, g_null); });
+}
+
+TYPED_TEST(EveryPointArray, DuplicatesByItsRecipe) {
+    const auto source = Make<TypeParam>(g_five, 2);
+    const long before = Allocations();
+    const auto copy = Duplicated(*source);
+    EXPECT_EQ(Allocations() - before, copiesFirst<TypeParam> ? 3 : 2)
+        << "the element, and the array once for each step of the recipe";
+    VEKRef<TypeParam> second;
+    WithFault(1, [&] { second = Duplicated(*source); });
+    ExpectPoints(*second, 2, copiesFirst<TypeParam> ? Values{1, 2, 3, 4} : g_null,
+                 "where copying came first, the assignment has another try");
+}
+
+namespace {
+
+struct Polygons {
+    Values points;
+    std::vector<int> counts;
+    int count;
+    bool operator==(const Polygons& iOther) const {
+        return points == iOther.points && counts == iOther.counts && count == iOther.count;
+    }
+};
+const std::vector<int> g_noCounts = {-1};
+
+Polygons PolygonsOf(const VEKPrtPolyPolygonElt& iElement, int iTotal) {
+    double* points = nullptr;
+    int* counts = nullptr;
+    int count = 0;
+    iElement.GetPoints(points, counts, count);
+    return {Read(points, 2LL * iTotal),
+            counts ? std::vector<int>(counts, counts + (count > 0 ? count : 0)) : g_noCounts, count};
+}
+
+} // namespace
+
+TEST(PolyPolygon, HoldsPointsAndCounts) {
+    using P = VEKPrtPolyPolygonElt;
+    const int counts[] = {2, 1}, cancelling[] = {2, -2}, lowering[] = {3, -2};
+    const float narrow[] = {1, 2, 3, 4, 5, 6};
+    const Polygons three = {{1, 2, 3, 4, 5, 6}, {2, 1}, 2};
+    const auto set = [](const double* iPoints, const int* iCounts, int iCount) {
+        auto element = Make<P>();
+        element->SetPoints(iPoints, iCounts, iCount);
+        return element;
+    };
+    EXPECT_EQ(PolygonsOf(P(), 0), (Polygons{g_null, g_noCounts, 0}));
+    EXPECT_EQ(PolygonsOf(P(g_five, counts, 2), 3), three);
+    EXPECT_EQ(PolygonsOf(P(narrow, counts, 2), 3), three);
+    EXPECT_EQ(PolygonsOf(*set(g_five, counts, 2), 3), three);
+    EXPECT_EQ(PolygonsOf(*set(g_five, counts, 0), 0), (Polygons{{}, {}, 0})) << "arrays of no length";
+    EXPECT_EQ(PolygonsOf(P(g_five, counts, 0), 0), (Polygons{g_null, {}, 0})) << "no point array";
+    EXPECT_EQ(PolygonsOf(*set(g_five, cancelling, 2), 0), (Polygons{{}, {2, -2}, 2}));
+    EXPECT_EQ(PolygonsOf(P(g_five, cancelling, 2), 0), (Polygons{g_null, {2, -2}, 2}));
+    EXPECT_EQ(PolygonsOf(*set(g_five, lowering, 2), 1), (Polygons{{1, 2}, {3, -2}, 2}));
+    EXPECT_EQ(PolygonsOf(*set(g_five, counts, -1), 0), (Polygons{g_null, g_noCounts, -1}));
+    EXPECT_EQ(PolygonsOf(P(g_five, counts, -1), 0), (Polygons{g_null, g_noCounts, -1}));
+    EXPECT_EQ(PolygonsOf(*set(g_five, nullptr, 2), 0), (Polygons{{}, {0, 0}, 2}));
+    EXPECT_EQ(PolygonsOf(*set(nullptr, counts, 2), 3), (Polygons{{0, 0, 0, 0, 0, 0}, {2, 1}, 2}));
+    const int huge[] = {INT_MAX, INT_MAX, 2};
+    EXPECT_EQ(PolygonsOf(*set(g_five, huge + 2, 1), 2).count, 1);
+    WithFault(1, [&] { EXPECT_EQ(PolygonsOf(P(g_five, huge, 2), 0).counts[1], INT_MAX); });
+}
+
+TEST(PolyPolygon, CopiesWhatIsThere) {
+    using P = VEKPrtPolyPolygonElt;
+    const int counts[] = {2, 1};
+    const Polygons three = {{1, 2, 3, 4, 5, 6}, {2, 1}, 2};
+    const auto source = Make<P>(g_five, counts, 2), target = Make<P>(g_five, counts, 1);
+    *target = *source;
+    for (const auto& copy : {target, Make<P>(*source), Duplicated(*source)})
+        EXPECT_EQ(PolygonsOf(*copy, 3), three);
+    const int zero[] = {0};
+    *target = *Make<P>(g_five, zero, 1);
+    EXPECT_EQ(PolygonsOf(*target, 0), (Polygons{g_null, g_noCounts, 0})) << "a source without a point array";
+
+    VEKRef<P> lost = Make<P>();
+    WithFault(1, [&] { lost->SetPoints(g_five, counts, 2); });
+    EXPECT_EQ(PolygonsOf(*lost, 3), (Polygons{g_null, {2, 1}, 2})) << "counts stay without points";
+    WithFault(0, [&] { lost->SetPoints(g_five, counts, 2); });
+    EXPECT_EQ(PolygonsOf(*lost, 3), (Polygons{g_null, g_noCounts, 2}));
+    WithFault(0, [&] { *target = *source; });
+    EXPECT_EQ(PolygonsOf(*target, 0), (Polygons{g_null, g_noCounts, 2}));
+}
+
+TEST(PolyPolygon, ReadsNothingBeyondItsOwnArrays) {
+    using P = VEKPrtPolyPolygonElt;
+    const int counts[] = {2, 1};
+    const auto element = Make<P>(g_five, counts, 2);
+    double* points = nullptr;
+    int* own = nullptr;
+    int count = 0;
+    element->GetPoints(points, own, count);
+    own[1] = 2;
+    EXPECT_EQ(PolygonsOf(*Make<P>(*element), 4).points, (Values{1, 2, 3, 4, 5, 6, 0, 0}))
+        << "raised through the lent array";
+    element->SetPoints(points + 2, own, 3);
+    EXPECT_EQ(PolygonsOf(*element, 4), (Polygons{{3, 4, 5, 6, 0, 0, 0, 0}, {2, 2, 0}, 3}));
+}
+
+namespace {
+
+struct NurbsData {
+    int order = 0, count = 0;
+    double *points = nullptr, *knots = nullptr, *weights = nullptr;
+    float first = -1, second = -1;
+};
+
+NurbsData DataOf(const VEKPrtNURBSElt& iCurve) {
+    NurbsData d;
+    iCurve.GetParameters(d.order, d.count, d.points, d.knots, d.first, d.second, d.weights);
+    return d;
+}
+
+void ExpectNurbs(const VEKPrtNURBSElt& iCurve, const Values& iPoints, const Values& iKnots,
+                 const Values& iWeights, int iOrder, int iCount, float iFirst, float iSecond) {
+    const NurbsData d = DataOf(iCurve);
+    EXPECT_EQ(Read(d.points, 2LL * d.count), iPoints);
+    EXPECT_EQ(Read(d.knots, d.order + d.count), iKnots);
+    EXPECT_EQ(Read(d.weights, d.count), iWeights);
+    EXPECT_EQ(d.order, iOrder);
+    EXPECT_EQ(d.count, iCount);
+    EXPECT_EQ(d.first, iFirst);
+    EXPECT_EQ(d.second, iSecond);
+}
+
+const double g_points[] = {1, 2, 3, 4};
+const double g_knots[] = {10, 11, 12, 13, 14, 15};
+const double g_weights[] = {20, 21, 22};
+
+} // namespace
+
+TEST(NURBS, SetParametersReadsFromTheSecondElement) {
+    using N = VEKPrtNURBSElt;
+    const auto curve = Make<N>();
+    ExpectNurbs(*curve, g_null, g_null, g_null, 0, 0, 0.0F, 1.0F);
+    curve->SetParameters(3, 2, g_points, g_knots, 0.25F, 0.75F, g_weights);
+    ExpectNurbs(*curve, {1, 2, 3, 4}, {11, 12, 13, 14, 15}, {21, 22}, 3, 2, 0.25F, 0.75F);
+    ExpectNurbs(N(3, 2, g_points, g_knots, 0.25F, 0.75F, g_weights), {1, 2, 3, 4}, {10, 11, 12, 13, 14},
+                {20, 21}, 3, 2, 0.25F, 0.75F);
+    const float narrow[] = {1, 2, 3, 4, 5};
+    ExpectNurbs(N(1, 2, narrow, narrow, 0.0F, 2.0F, narrow), {1, 2, 3, 4}, {1, 2, 3}, {1, 2}, 1, 2, 0.0F,
+                2.0F);
+    ExpectNurbs(N(-1, 2, g_points, g_knots, 0.0F, 2.0F, g_weights), {1, 2, 3, 4}, {10}, {20, 21}, -1, 2, 0.0F,
+                2.0F);
+}
+
+TEST(NURBS, NeedsAllArraysAndAPositiveCount) {
+    using N = VEKPrtNURBSElt;
+    const double* const none = nullptr;
+    for (const auto& curve : {Make<N>(3, 0, g_points, g_knots, 0.5F, 2.0F, g_weights),
+                              Make<N>(3, 2, none, g_knots, 0.5F, 2.0F, g_weights),
+                              Make<N>(3, 2, g_points, none, 0.5F, 2.0F, g_weights),
+                              Make<N>(3, 2, g_points, g_knots, 0.5F, 2.0F, none)}) {
+        EXPECT_EQ(DataOf(*curve).points, nullptr);
+        EXPECT_EQ(DataOf(*curve).second, 2.0F);
+        curve->SetParameters(3, 2, g_points, g_knots, 0.5F, 2.0F, g_weights);
+        EXPECT_NE(DataOf(*curve).knots, nullptr);
+        curve->SetParameters(4, -2, g_points, g_knots, 0.5F, 3.0F, g_weights);
+        ExpectNurbs(*curve, g_null, g_null, g_null, 4, -2, 0.5F, 3.0F);
+    }
+}
+
+TEST(NURBS, CopiesResetTheBounds) {
+    using N = VEKPrtNURBSElt;
+    const auto curve = Make<N>(3, 2, g_points, g_knots, 0.25F, 0.75F, g_weights), target = Make<N>();
+    target->SetParameters(1, 1, g_points, g_knots, 0.1F, 0.2F, g_weights);
+    *target = *curve;
+    for (const auto& copy : {target, Make<N>(*curve), Duplicated(*curve)})
+        ExpectNurbs(*copy, {1, 2, 3, 4}, {10, 11, 12, 13, 14}, {20, 21}, 3, 2, 0.0F, 1.0F);
+    *target = *Make<N>(5, 2, g_points, g_knots, 0.5F, 2.0F, static_cast<const double*>(nullptr));
+    ExpectNurbs(*target, g_null, g_null, g_null, 5, 0, 0.0F, 1.0F);
+    for (long nth = 0; nth < 3; ++nth) {
+        WithFault(nth, [&] { *target = *curve; });
+        const NurbsData data = DataOf(*target);
+        EXPECT_EQ(data.count, 2);
+        EXPECT_EQ(!data.points + 2 * !data.knots + 4 * !data.weights, 1 << nth) << "the others stay";
+    }
+    WithSelfCopy<N>([](const N& iCopy) { ExpectNurbs(iCopy, g_null, g_null, g_null, 0, 0, 0.0F, 1.0F); });
+}
+
+TEST(NURBS, LeavesArraysPassedBackToTheCaller) {
+    const auto curve = Make<VEKPrtNURBSElt>(2, 2, g_points, g_knots, 0.0F, 1.0F, g_weights);
+    const NurbsData old = DataOf(*curve);
+    curve->SetParameters(3, 3, old.points, old.knots, 0.0F, 1.0F, old.weights);
+    ExpectNurbs(*curve, {1, 2, 3, 4, 0, 0}, {11, 12, 13, 0, 0, 0}, {21, 0, 0}, 3, 3, 0.0F, 1.0F);
+    const std::unique_ptr<double[]> points(old.points), knots(old.knots), weights(old.weights);
+    EXPECT_EQ(old.knots[3], 13.0) << "still the caller's to read";
+
+    const NurbsData now = DataOf(*curve);
+    curve->SetParameters(1, 0, now.points, now.knots, 0.0F, 1.0F, now.weights);
+    EXPECT_EQ(DataOf(*curve).knots, now.knots) << "no new array takes its place: it stays held";
+    curve->SetParameters(2, 1, now.points + 2, now.knots + 1, 0.0F, 1.0F, now.points);
+    ExpectNurbs(*curve, {3, 4}, {13, 0, 0}, {2}, 2, 1, 0.0F, 1.0F);
+}

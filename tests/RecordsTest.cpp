@@ -1,0 +1,441 @@
+#include <cfloat>
+#include <cmath>
+#include <memory>
+#include <vector>
+
+#include "TestSupport.h"
+#include "VEKFont.h"
+#include "VEKPrtFillAttributes.h"
+#include "VEKPrtGroupAttributes.h"
+#include "VEKPrtMarkerAttributes.h"
+#include "VEKPrtStrokeAttributes.h"
+#include "VEKPrtTextAttributes.h"
+#include "VEKPrtTransformAttributes.h"
+
+namespace {
+
+using Transform = VEKPrtTransformAttributes;
+
+std::vector<int> Kinds(const Transform& iTransform) {
+    unsigned count = 99;
+    VEKPrintTransformType* kinds = nullptr;
+    EXPECT_EQ(iTransform.GetTransformTab(count, kinds), 1);
+    return kinds ? std::vector<int>(kinds, kinds + count) : std::vector<int>();
+}
+
+double ScaleXAt(const Transform& iTransform, unsigned iIndex) {
+    double scale = -99.0;
+    const int status = iTransform.GetScaleX(iIndex, scale);
+    EXPECT_EQ(status == 1, scale != -99.0) << "outputs are written on success only";
+    return scale;
+}
+
+// One of each kind, in an order that is neither that of the kinds nor that of the fields.
+Transform OneOfEach() {
+    Transform transform;
+    transform.AddSkewY(7.0F);
+    transform.AddScaleX(2.0);
+    transform.AddMatrix(VEKMath2x2Matrix(1, 2, 3, 4));
+    transform.AddTranslation(VEKMathVector2D(5, 6));
+    transform.AddRotation(30.0F);
+    transform.AddSkewX(8.0F);
+    transform.AddScaleY(3.0);
+    return transform;
+}
+
+void ExpectOneOfEach(const Transform& iTransform, unsigned iFirst) {
+    float skewY = 0, rotation = 0, skewX = 0;
+    double scaleX = 0, scaleY = 0;
+    VEKMath2x2Matrix matrix;
+    VEKMathVector2D translation;
+    const unsigned last = iFirst + 6;
+    EXPECT_EQ(iTransform.GetSkewY(last, skewY), 1);
+    EXPECT_EQ(iTransform.GetScaleX(last, scaleX), 1);
+    EXPECT_EQ(iTransform.GetMatrix(last, matrix), 1);
+    EXPECT_EQ(iTransform.GetTranslation(last, translation), 1);
+    EXPECT_EQ(iTransform.GetRotation(last, rotation), 1);
+    EXPECT_EQ(iTransform.GetSkewX(last, skewX), 1);
+    EXPECT_EQ(iTransform.GetScaleY(last, scaleY), 1);
+    EXPECT_EQ(skewY + skewX + rotation, 45.0F);
+    EXPECT_EQ(scaleX * scaleY, 6.0);
+    EXPECT_EQ(matrix, VEKMath2x2Matrix(1, 2, 3, 4));
+    EXPECT_EQ(translation, VEKMathVector2D(5, 6));
+}
+
+const std::vector<int> g_oneOfEach = {6, 3, 0, 1, 2, 5, 4};
+
+} // namespace
+
+TEST(Transform, LooksUpLeniently) {
+    Transform transform;
+    EXPECT_TRUE(Kinds(transform).empty());
+    EXPECT_EQ(ScaleXAt(transform, 0), -99.0);
+    transform.AddScaleX(2.0);
+    transform.AddRotation(30.0F);
+    transform.AddScaleX(3.0);
+    EXPECT_EQ(Kinds(transform), (std::vector<int>{3, 2, 3}));
+    EXPECT_EQ(ScaleXAt(transform, 0), 2.0);
+    EXPECT_EQ(ScaleXAt(transform, 1), 2.0) << "the latest value before a position of another kind";
+    EXPECT_EQ(ScaleXAt(transform, 2), 3.0);
+    EXPECT_EQ(ScaleXAt(transform, 3), -99.0);
+    float angle = 0;
+    EXPECT_EQ(transform.GetRotation(0, angle), -1);
+    EXPECT_EQ(transform.GetRotation(2, angle), 1);
+    EXPECT_EQ(angle, 30.0F);
+}
+
+TEST(Transform, RecordsAKindWithoutAValue) {
+    Transform transform;
+    EXPECT_EQ(transform.AddTransform(VEKPrintTransformScaleX), 1);
+    EXPECT_EQ(ScaleXAt(transform, 0), -99.0);
+    transform.AddScaleX(5.0);
+    EXPECT_EQ(ScaleXAt(transform, 0), 5.0);
+    EXPECT_EQ(ScaleXAt(transform, 1), -99.0) << "the second of its kind has no value";
+    unsigned count = 0;
+    VEKPrintTransformType* kinds = nullptr;
+    transform.GetTransformTab(count, kinds);
+    transform.AddTransform(kinds[0]);
+    EXPECT_EQ(Kinds(transform).back(), 3) << "the argument may be an entry of the list that is replaced";
+}
+
+TEST(Transform, CopiesAreIndependentAndSelfCopiesEmpty) {
+    Transform source = OneOfEach();
+    Transform copy(source), assigned;
+    assigned.AddScaleY(9.0);
+    EXPECT_EQ(&(assigned = source), &assigned);
+    assigned = *&assigned;
+    source.AddScaleX(100.0);
+    for (Transform* const target : {&copy, &assigned}) {
+        EXPECT_EQ(Kinds(*target), g_oneOfEach);
+        ExpectOneOfEach(*target, 0);
+    }
+    WithSelfCopy<Transform>([](const Transform& iCopy) { EXPECT_TRUE(Kinds(iCopy).empty()); });
+}
+
+TEST(Transform, AppendsInOrder) {
+    Transform target;
+    target.AddRotation(1.0F);
+    EXPECT_EQ(target.AddTransformAttributes(Transform()), 1);
+    Transform source = OneOfEach();
+    source.AddTransform(static_cast<VEKPrintTransformType>(77));
+    EXPECT_EQ(target.AddTransformAttributes(source), 1);
+    std::vector<int> expected = {2};
+    expected.insert(expected.end(), g_oneOfEach.begin(), g_oneOfEach.end());
+    EXPECT_EQ(Kinds(target), expected) << "kinds without values are passed over";
+    ExpectOneOfEach(target, 1);
+
+    Transform valueless;
+    valueless.AddScaleX(4.0);
+    valueless.AddTransform(VEKPrintTransformSkewX);
+    valueless.AddScaleX(5.0);
+    Transform part;
+    EXPECT_EQ(part.AddTransformAttributes(valueless), -1);
+    EXPECT_EQ(Kinds(part), (std::vector<int>{3})) << "what was appended before the failure stays";
+}
+
+TEST(Transform, AppendedToItselfStopsAfterTheFirst) {
+    Transform transform = OneOfEach();
+    EXPECT_EQ(transform.AddTransformAttributes(*&transform), -1);
+    EXPECT_EQ(Kinds(transform).size(), 8U);
+}
+
+TEST(Transform, GoesThroughTheVirtualTable) {
+    struct Derived : Transform {
+        int AddScaleX(double iScale) override { return Transform::AddScaleX(10 * iScale); }
+        int GetScaleX(unsigned iIndex, double& oScale) const override {
+            const int status = Transform::GetScaleX(iIndex, oScale);
+            oScale += 1;
+            return status;
+        }
+        int AddTransform(const VEKPrintTransformType& iKind) override {
+            return Transform::AddTransform(iKind) + 1;
+        }
+    };
+    Derived derived;
+    EXPECT_EQ(derived.AddRotation(1.0F), -1) << "anything but 1 from AddTransform is a failure";
+    Transform source;
+    source.AddScaleX(2.0);
+    EXPECT_EQ(derived.AddTransformAttributes(source), -1);
+    double scale = 0;
+    static_cast<const Transform&>(derived).Transform::GetScaleX(1, scale);
+    EXPECT_EQ(scale, 20.0);
+    Transform target;
+    EXPECT_EQ(target.AddTransformAttributes(derived), 1);
+    EXPECT_EQ(ScaleXAt(target, 1), 21.0);
+}
+
+TEST(TransformFailure, LosesTheValuesOfOneKind) {
+    const DemandedLeak leak;
+    Transform transform;
+    transform.AddScaleX(2.0);
+    transform.AddRotation(1.0F);
+    const long before = LiveBlocks();
+    WithFault(0, [&] { EXPECT_EQ(transform.AddScaleX(3.0), -1); });
+    EXPECT_EQ(LiveBlocks(), before) << "the old array is not freed";
+    EXPECT_EQ(ScaleXAt(transform, 1), -99.0);
+    float angle = 0;
+    EXPECT_EQ(transform.GetRotation(1, angle), 1) << "other kinds are unharmed";
+    EXPECT_EQ(Kinds(transform).size(), 2U);
+
+    EXPECT_EQ(transform.AddScaleX(4.0), 1);
+    EXPECT_EQ(ScaleXAt(transform, 0), 0.0) << "the count stayed raised: the new value is the third";
+    EXPECT_EQ(transform.AddScaleX(5.0), 1);
+    EXPECT_EQ(transform.AddScaleX(6.0), 1);
+    EXPECT_EQ(ScaleXAt(transform, 3), 4.0);
+}
+
+TEST(TransformFailure, LosesTheListOfKinds) {
+    const DemandedLeak leak;
+    Transform transform;
+    transform.AddScaleX(2.0);
+    WithFault(1, [&] { EXPECT_EQ(transform.AddScaleX(3.0), -1); });
+    unsigned count = 0;
+    VEKPrintTransformType* kinds = nullptr;
+    EXPECT_EQ(transform.GetTransformTab(count, kinds), 1);
+    EXPECT_EQ(count, 2U);
+    EXPECT_EQ(kinds, nullptr);
+    EXPECT_EQ(Transform().AddTransformAttributes(transform), 1);
+    EXPECT_EQ(Kinds(Transform(transform)), (std::vector<int>{0, 0})) << "a copy gets a list, of zeros";
+    transform.AddRotation(1.0F);
+    EXPECT_EQ(Kinds(transform), (std::vector<int>{0, 0, 2}));
+}
+
+TEST(Stroke, StartsWithItsDefaults) {
+    VEKPrtStrokeAttributes stroke;
+    unsigned colour = 9;
+    unsigned char transparency = 0, length = 9;
+    VEKPrintLineAttribute type, style, cap, join;
+    double width = 0;
+    float poison = 0;
+    float* pattern = &poison;
+    stroke.GetStrokeColourIndex(colour);
+    stroke.GetStrokeColourTransparency(transparency);
+    stroke.GetStrokeType(type);
+    stroke.GetStrokeWidth(width);
+    stroke.GetStrokeStyle(style);
+    stroke.GetStrokeCap(cap);
+    stroke.GetStrokeJoin(join);
+    stroke.GetStrokeTypePattern(pattern, length);
+    EXPECT_EQ(colour, 0U);
+    EXPECT_EQ(transparency, 255);
+    EXPECT_EQ(width, 0.10000000149011612);
+    EXPECT_EQ((std::vector<int>{type, style, cap, join}), (std::vector<int>{0, 8, 10, 13}));
+    EXPECT_EQ(length, 0);
+    EXPECT_EQ(pattern, &poison) << "without a pattern the pointer is not written";
+}
+
+namespace {
+
+std::vector<float> PatternOf(const VEKPrtStrokeAttributes& iStroke) {
+    float* values = nullptr;
+    unsigned char count = 0;
+    iStroke.GetStrokeTypePattern(values, count);
+    const std::unique_ptr<float[]> owner(values);
+    return values ? std::vector<float>(values, values + count) : std::vector<float>();
+}
+
+VEKPrtStrokeAttributes Dashed(std::vector<float> iPattern) {
+    VEKPrtStrokeAttributes stroke;
+    stroke.SetStrokeTypePattern(iPattern.data(), static_cast<unsigned char>(iPattern.size()));
+    return stroke;
+}
+
+} // namespace
+
+TEST(Stroke, OwnsItsPattern) {
+    float values[] = {1, 2, 3};
+    VEKPrtStrokeAttributes stroke;
+    stroke.SetStrokeTypePattern(values, 3);
+    values[0] = 9;
+    const VEKPrtStrokeAttributes copy(stroke);
+    stroke.SetStrokeTypePattern(nullptr, 2);
+    EXPECT_EQ(PatternOf(stroke), (std::vector<float>{0, 0})) << "null with a count: zeros";
+    stroke.SetStrokeTypePattern(nullptr, 0);
+    EXPECT_TRUE(PatternOf(stroke).empty());
+    stroke.SetStrokeTypePattern(nullptr, 5);
+    EXPECT_TRUE(PatternOf(stroke).empty()) << "null is the pattern already held: nothing happens";
+    EXPECT_EQ(PatternOf(copy), (std::vector<float>{1, 2, 3}));
+    stroke = copy;
+    EXPECT_EQ(PatternOf(stroke), PatternOf(copy));
+    EXPECT_TRUE(stroke == copy);
+}
+
+TEST(Stroke, ComparesEveryFieldExactly) {
+    using S = VEKPrtStrokeAttributes;
+    void (*const changes[])(S&) = {[](S& s) { s.SetStrokeColourIndex(1); },
+                                   [](S& s) { s.SetStrokeColourTransparency(254); },
+                                   [](S& s) { s.SetStrokeType(VEKPrintLineTypeDashed); },
+                                   [](S& s) {
+                                       s = Dashed({1, 2});
+                                   },
+                                   [](S& s) {
+                                       s = Dashed({1, 2, std::nextafter(3.0F, 4.0F)});
+                                   },
+                                   [](S& s) { s.SetStrokeWidth(0.1); },
+                                   [](S& s) { s.SetStrokeStyle(VEKPrintLineStyleFixed); },
+                                   [](S& s) { s.SetStrokeCap(VEKPrintLineCapRound); },
+                                   [](S& s) { s.SetStrokeJoin(VEKPrintLineJoinBevel); }};
+    const S original = Dashed({1, 2, 3});
+    for (const auto change : changes) {
+        S other(original);
+        EXPECT_EQ(original == other, 1);
+        change(other);
+        EXPECT_EQ(original == other, 0) << "change " << &change - changes;
+        S assigned;
+        assigned = other;
+        EXPECT_EQ(assigned == other, 1) << "assigned after change " << &change - changes;
+        EXPECT_EQ(S(other) == other, 1) << "copied after change " << &change - changes;
+    }
+}
+
+TEST(StrokeFailure, AssignmentKeepsTheLength) {
+    VEKPrtStrokeAttributes lost;
+    const float values[] = {1, 0, 3};
+    WithFault(0, [&] { lost.SetStrokeTypePattern(values, 3); });
+    EXPECT_EQ(PatternOf(lost), (std::vector<float>{0, 0, 0})) << "the length stays, the values are zero";
+    VEKPrtStrokeAttributes target;
+    target = lost;
+    EXPECT_TRUE(PatternOf(target).empty()) << "neither holds a pattern: not even the length is copied";
+    EXPECT_EQ(PatternOf(VEKPrtStrokeAttributes(lost)).size(), 3U) << "the copy constructor copies it";
+    EXPECT_EQ(lost == Dashed({0, 0, 0}), 1);
+    EXPECT_EQ(lost == Dashed({0, 0, 1}), 0);
+}
+
+TEST(Fill, SharesItsImageByCount) {
+    const auto image = Make<VEKPixelImage>(1, 1), other = Make<VEKPixelImage>(1, 1);
+    const VEKMathVector2D a(1, 2), b(3, 4);
+    {
+        VEKPrtFillAttributes fill;
+        fill.SetPattern(image.Get(), a, b);
+        EXPECT_EQ(Count(image), 2UL);
+        fill.SetPattern(image.Get(), b, a);
+        EXPECT_EQ(Count(image), 2UL);
+        VEKPixelImage* lent = nullptr;
+        VEKMathVector2D first, second;
+        fill.GetPattern(lent, first, second);
+        EXPECT_EQ(lent, image.Get());
+        EXPECT_EQ(first, b) << "the vectors are stored although the image is the same";
+        VEKPrtFillAttributes copy(fill), assigned;
+        assigned.SetPattern(other.Get(), a, a);
+        assigned = fill;
+        assigned = fill;
+        EXPECT_EQ(Count(image), 4UL);
+        EXPECT_EQ(Count(other), 1UL);
+        EXPECT_EQ(assigned == fill, 1);
+        copy.SetPattern(nullptr, a, b);
+        EXPECT_EQ(Count(image), 3UL);
+    }
+    EXPECT_EQ(Count(image), 1UL);
+}
+
+TEST(Fill, DuplicateCopiesTheImageAndLosesTheTargets) {
+    const auto image = Make<VEKPixelImage>(2, 2), old = Make<VEKPixelImage>(1, 1);
+    VEKPrtFillAttributes fill, target;
+    fill.SetPattern(image.Get(), VEKMathVector2D(1, 0), VEKMathVector2D(0, 1));
+    target.SetPattern(old.Get(), VEKMathVector2D(), VEKMathVector2D());
+    fill.Duplicate(target);
+    EXPECT_EQ(Count(old), 2UL) << "its reference is lost";
+    old->Release();
+    EXPECT_EQ(Count(image), 2UL);
+    EXPECT_EQ(fill == target, 0) << "equal but for the image's identity";
+    VEKPixelImage* copied = nullptr;
+    VEKMathVector2D first, second;
+    target.GetPattern(copied, first, second);
+    EXPECT_EQ(copied->GetWidth(), 2);
+    EXPECT_EQ(Count(copied), 1UL);
+
+    VEKPrtFillAttributes plain;
+    plain.Duplicate(target);
+    target.GetPattern(copied, first, second);
+    EXPECT_NE(copied, nullptr) << "without an image the target's stays";
+    VEKPrtFillAttributes failed;
+    WithFault(0, [&] { fill.Duplicate(failed); });
+    failed.GetPattern(copied, first, second);
+    EXPECT_EQ(copied, nullptr);
+    EXPECT_EQ(first, VEKMathVector2D(1, 0));
+}
+
+TEST(Fill, ComparesEveryFieldExactly) {
+    using F = VEKPrtFillAttributes;
+    void (*const changes[])(F&) = {
+        [](F& f) { f.SetFillStyle(VEKPrtFillPattern); },
+        [](F& f) { f.SetFillRule(VEKPrtFillNonZero); },
+        [](F& f) { f.SetFillColourIndex(1); },
+        [](F& f) { f.SetFillColourTransparency(0); },
+        [](F& f) { f.SetPattern(Make<VEKPixelImage>(1, 1).Get(), VEKMathVector2D(), VEKMathVector2D()); },
+        [](F& f) { f.SetPattern(nullptr, VEKMathVector2D(0, DBL_MIN), VEKMathVector2D()); },
+        [](F& f) { f.SetPattern(nullptr, VEKMathVector2D(), VEKMathVector2D(1, 0)); },
+        [](F& f) { f.SetPatternRefPoint(VEKMathPoint2D(0, 1)); }};
+    for (const auto change : changes) {
+        F fill, other;
+        EXPECT_EQ(fill == other, 1);
+        change(other);
+        EXPECT_EQ(fill == other, 0) << "change " << &change - changes;
+        EXPECT_EQ(F(other) == other, 1) << "copied after change " << &change - changes;
+    }
+    F fill;
+    VEKPrtFillStyle style;
+    VEKPrtFillRule rule;
+    unsigned char transparency = 0;
+    fill.GetFillStyle(style);
+    fill.GetFillRule(rule);
+    fill.GetFillColourTransparency(transparency);
+    EXPECT_EQ((std::vector<int>{style, rule, transparency}), (std::vector<int>{0, 1, 255}));
+}
+
+TEST(Text, ComparesEveryFieldAndBorrowsItsFont) {
+    using T = VEKPrtTextAttributes;
+    static VEKFont font("Sans");
+    void (*const changes[])(T&) = {[](T& t) { t.SetFont(&font); },
+                                   [](T& t) { t.SetWeight(VEKPrintTextWeightBold); },
+                                   [](T& t) { t.SetHeight(std::nextafter(10.0, 11.0)); },
+                                   [](T& t) { t.SetAnchor(VEKPrintTextAnchorTopLeft); },
+                                   [](T& t) { t.SetSlant(1.0F); },
+                                   [](T& t) { t.SetDirection(-1.0F); },
+                                   [](T& t) { t.SetExtraSpacing(0.5); },
+                                   [](T& t) { t.SetExpansion(0.5); },
+                                   [](T& t) { t.SetWritingMode(static_cast<VEKPrtTextWritingMode>(-7)); }};
+    for (const auto change : changes) {
+        T text, other;
+        EXPECT_EQ(text == other, 1);
+        change(other);
+        EXPECT_EQ(text == other, 0) << "change " << &change - changes;
+        text = other;
+        EXPECT_EQ(text == T(other), 1) << "copied after change " << &change - changes;
+    }
+    const T text;
+    VEKFont* held = &font;
+    VEKPrintTextAttribute weight, anchor;
+    double height = 0, spacing = 1, expansion = 0;
+    text.GetFont(held);
+    text.GetWeight(weight);
+    text.GetAnchor(anchor);
+    text.GetHeight(height);
+    text.GetExtraSpacing(spacing);
+    text.GetExpansion(expansion);
+    EXPECT_EQ(held, nullptr);
+    EXPECT_EQ((std::vector<double>{double(weight), double(anchor), height, spacing, expansion}),
+              (std::vector<double>{25, 29, 10, 0, 1}));
+}
+
+TEST(SmallRecords, CopyTheirField) {
+    VEKPrtMarkerAttributes marker;
+    VEKPrintMarkerAttribute style = VEKPrintMarkerDisc;
+    marker.GetMarkerStyle(style);
+    EXPECT_EQ(style, 0);
+    marker.SetMarkerStyle(VEKPrintMarkerSquare);
+    VEKPrtMarkerAttributes(marker).GetMarkerStyle(style);
+    EXPECT_EQ(style, VEKPrintMarkerSquare);
+
+    VEKPrtGroupAttributes group, other;
+    group.SetLinkURI("https://example.org");
+    other = VEKPrtGroupAttributes(group);
+    VEKPrintLinkURI link;
+    other.GetLinkURI(link);
+    EXPECT_STREQ(link.GetURI(), "https://example.org");
+    WithSelfCopy<VEKPrtGroupAttributes>([](const VEKPrtGroupAttributes& iCopy) {
+        VEKPrintLinkURI own("x");
+        iCopy.GetLinkURI(own);
+        EXPECT_EQ(own, VEKPrintLinkURI());
+    });
+}

@@ -1,0 +1,284 @@
+#include <functional>
+#include <sstream>
+#include <vector>
+
+#include "TestSupport.h"
+#include "VEKFont.h"
+
+namespace {
+
+using Point = VEKMathPoint2D;
+
+void Append(std::ostream& ioStream, const Point& iPoint) {
+    ioStream << iPoint.GetX() << ',' << iPoint.GetY();
+}
+template <class Value>
+void Append(std::ostream& ioStream, const Value& iValue) {
+    ioStream << iValue;
+}
+
+template <class... Values>
+std::string Row(const Values&... iValues) {
+    std::ostringstream row;
+    ((row << (row.tellp() > 0 ? " " : ""), Append(row, iValues)), ...);
+    return row.str();
+}
+
+// All getters of the geometry, in one line.
+std::string Geometry(const VEKPrtLineElt& e) {
+    Point a, b, c, d;
+    e.GetStartPoint(a);
+    e.GetEndPoint(b);
+    e.GetParameters(c, d);
+    EXPECT_TRUE(a == c && b == d);
+    return Row(a, b);
+}
+std::string Geometry(const VEKPrtRectangleElt& e) {
+    Point a, b;
+    e.GetPoints(a, b);
+    return Row(a, b);
+}
+std::string Geometry(const VEKPrtCircleElt& e) {
+    Point c, c2;
+    double r = 0, r2 = 0;
+    e.GetCenter(c);
+    e.GetRadius(r);
+    e.GetParameters(c2, r2);
+    EXPECT_TRUE(c == c2 && r == r2);
+    return Row(c, r);
+}
+std::string Geometry(const VEKPrtCircularArcElt& e) {
+    Point c, c2;
+    double r = 0, r2 = 0;
+    float s = 0, t = 0, s2 = 0, t2 = 0;
+    e.GetCenter(c);
+    e.GetRadius(r);
+    e.GetStartAngle(s);
+    e.GetEndAngle(t);
+    e.GetParameters(c2, r2, s2, t2);
+    EXPECT_TRUE(c == c2 && r == r2 && s == s2 && t == t2);
+    return Row(c, r, s, t);
+}
+std::string Geometry(const VEKPrtEllipseElt& e) {
+    Point c, c2;
+    double h = 0, v = 0, h2 = 0, v2 = 0;
+    float s = 0, s2 = 0;
+    e.GetCenter(c);
+    e.GetHorzRadius(h);
+    e.GetVertRadius(v);
+    e.GetSlope(s);
+    e.GetParameters(c2, h2, v2, s2);
+    EXPECT_TRUE(c == c2 && h == h2 && v == v2 && s == s2);
+    return Row(c, h, v, s);
+}
+std::string Geometry(const VEKPrtEllipticalArcElt& e) {
+    Point c, c2;
+    double h = 0, v = 0, h2 = 0, v2 = 0;
+    float s = 0, a = 0, b = 0, s2 = 0, a2 = 0, b2 = 0;
+    e.GetCenter(c);
+    e.GetHorzRadius(h);
+    e.GetVertRadius(v);
+    e.GetStartAngle(a);
+    e.GetEndAngle(b);
+    e.GetSlope(s);
+    e.GetParameters(c2, h2, v2, a2, b2, s2);
+    EXPECT_TRUE(c == c2 && h == h2 && v == v2 && a == a2 && b == b2 && s == s2);
+    return Row(c, h, v, a, b, s);
+}
+std::string Geometry(const VEKPrtMarkerElt& e) {
+    Point p, p2;
+    double s = 0, s2 = 0;
+    VEKPrtMarkerAttributes marker;
+    VEKPrintMarkerAttribute style;
+    e.GetPoint(p);
+    e.GetSize(s);
+    e.GetParameters(p2, s2);
+    e.GetMarkerAttributes(marker);
+    marker.GetMarkerStyle(style);
+    EXPECT_TRUE(p == p2 && s == s2);
+    return Row(p, s, style);
+}
+std::string Geometry(const VEKPrtTextElt& e) {
+    Point p, p2;
+    VEKUnicodeString t, t2;
+    VEKPrtTextAttributes attributes;
+    VEKFont* font = nullptr;
+    e.GetPosition(p);
+    e.GetText(t);
+    e.GetParameters(p2, t2);
+    e.GetTextAttributes(attributes);
+    attributes.GetFont(font);
+    EXPECT_TRUE(p == p2 && t == t2);
+    return Row(p, t.ToUtf8(), (font ? font->GetFamily() : "-"));
+}
+
+// A shape, what its constructors and its setters make of it, and what its copies must carry.
+template <class Shape>
+void Check(const char* iDefault, const VEKRef<Shape>& iConstructed, const char* iGeometry, Shape& ioSet,
+           const std::vector<std::function<void(Shape&)>>& iSetters, const char* iSet) {
+    EXPECT_EQ(Geometry(*Make<Shape>()), iDefault);
+    EXPECT_EQ(Geometry(*iConstructed), iGeometry);
+    for (const auto& set : iSetters)
+        set(ioSet);
+    EXPECT_EQ(Geometry(ioSet), iSet);
+    VEKPrtTransformAttributes transform;
+    transform.AddTranslation(VEKMathVector2D(1, 2));
+    ioSet.SetTransformAttributes(transform);
+    VEKPrtStrokeAttributes stroke;
+    const float dashes[] = {1, 2};
+    stroke.SetStrokeTypePattern(dashes, 2);
+    ioSet.SetStrokeAttributes(stroke);
+    const auto assigned = Make<Shape>();
+    *assigned = ioSet;
+    for (const auto& copy : {Make<Shape>(ioSet), assigned, Duplicated(ioSet)}) {
+        EXPECT_EQ(Geometry(*copy), iSet);
+        VEKPrtStrokeAttributes copiedStroke;
+        VEKPrtTransformAttributes copiedTransform;
+        copy->GetStrokeAttributes(copiedStroke);
+        copy->GetTransformAttributes(copiedTransform);
+        EXPECT_TRUE(copiedStroke == stroke);
+        VEKMathVector2D vector;
+        EXPECT_EQ(copiedTransform.GetTranslation(0, vector), 1);
+    }
+    WithSelfCopy<Shape>([&](const Shape& iCopy) { EXPECT_EQ(Geometry(iCopy), iDefault); });
+}
+
+} // namespace
+
+TEST(Shapes, StoreWhatTheyAreGiven) {
+    {
+        using S = VEKPrtLineElt;
+        Check<S>("0,0 0,0", Make<S>(Point(1, 2), Point(3, 4)), "1,2 3,4", *Make<S>(),
+                 {[](S& s) { s.SetParameters(Point(5, 6), Point(7, 8)); },
+                  [](S& s) { s.SetStartPoint(Point(9, 6)); }, [](S& s) { s.SetEndPoint(Point(-7, 8)); }},
+                 "9,6 -7,8");
+    }
+    {
+        using S = VEKPrtRectangleElt;
+        Check<S>("0,0 0,0", Make<S>(Point(3, 4), Point(1, 2)), "3,4 1,2", *Make<S>(),
+                 {[](S& s) { s.SetPoints(Point(8, 8), Point(7, 9)); }}, "8,8 7,9");
+    }
+    {
+        using S = VEKPrtCircleElt;
+        Check<S>("0,0 0", Make<S>(Point(1, 2), -3.0), "1,2 -3", *Make<S>(),
+                 {[](S& s) { s.SetParameters(Point(5, 6), 7.0); }, [](S& s) { s.SetRadius(8.0); },
+                  [](S& s) { s.SetCenter(Point(9, 9)); }},
+                 "9,9 8");
+    }
+    {
+        using S = VEKPrtCircularArcElt;
+        Check<S>("0,0 0 0 0", Make<S>(Point(1, 2), 3.0, 20.0F, 10.0F), "1,2 3 20 10", *Make<S>(),
+                 {[](S& s) { s.SetParameters(Point(5, 6), 7.0, 1.0F, 2.0F); },
+                  [](S& s) { s.SetStartAngle(400.0F); }, [](S& s) { s.SetEndAngle(-3.0F); },
+                  [](S& s) { s.SetRadius(8.0); }, [](S& s) { s.SetCenter(Point(9, 9)); }},
+                 "9,9 8 400 -3");
+    }
+    {
+        using S = VEKPrtEllipseElt;
+        Check<S>("0,0 0 0 0", Make<S>(Point(1, 2), 3.0, 4.0, 5.0F), "1,2 3 4 5", *Make<S>(),
+                 {[](S& s) { s.SetParameters(Point(5, 6), 7.0, 1.0, 2.0F); },
+                  [](S& s) { s.SetHorzRadius(8.0); }, [](S& s) { s.SetVertRadius(-3.0); },
+                  [](S& s) { s.SetSlope(11.0F); }, [](S& s) { s.SetCenter(Point(9, 9)); }},
+                 "9,9 8 -3 11");
+    }
+    {
+        using S = VEKPrtEllipticalArcElt;
+        Check<S>("0,0 0 0 0 0 0", Make<S>(Point(1, 2), 2.0, 1.0, 10.0F, 20.0F, 30.0F), "1,2 2 1 10 20 30",
+                 *Make<S>(),
+                 {[](S& s) { s.SetParameters(Point(5, 6), 7.0, 8.0, 1.0F, 2.0F, 3.0F); },
+                  [](S& s) { s.SetHorzRadius(4.0); }, [](S& s) { s.SetVertRadius(5.0); },
+                  [](S& s) { s.SetStartAngle(6.0F); }, [](S& s) { s.SetEndAngle(7.0F); },
+                  [](S& s) { s.SetSlope(12.0F); }, [](S& s) { s.SetCenter(Point(9, 9)); }},
+                 "9,9 4 5 6 7 12");
+    }
+    {
+        using S = VEKPrtMarkerElt;
+        Check<S>("0,0 0 0", Make<S>(Point(1, 2), -3.0), "1,2 -3 0", *Make<S>(),
+                 {[](S& s) { s.SetParameters(Point(5, 6), 7.0); }, [](S& s) { s.SetSize(8.0); },
+                  [](S& s) {
+                      VEKPrtMarkerAttributes marker;
+                      marker.SetMarkerStyle(VEKPrintMarkerDisc);
+                      s.SetMarkerAttributes(marker);
+                  },
+                  [](S& s) { s.SetPoint(Point(9, 9)); }},
+                 "9,9 8 4");
+    }
+    {
+        using S = VEKPrtTextElt;
+        static VEKFont font("Sans");
+        Check<S>("0,0  -", Make<S>(Point(1, 2), VEKUnicodeString("x")), "1,2 x -", *Make<S>(),
+                 {[](S& s) { s.SetParameters(Point(5, 6), "y"); }, [](S& s) { s.SetText("z"); },
+                  [](S& s) {
+                      VEKPrtTextAttributes text;
+                      text.SetFont(&font);
+                      s.SetTextAttributes(text);
+                  },
+                  [](S& s) { s.SetPosition(Point(9, 9)); }},
+                 "9,9 z Sans");
+    }
+}
+
+namespace {
+
+template <class Shape>
+class EveryFilled : public testing::Test {};
+TYPED_TEST_SUITE(EveryFilled, Filled);
+
+template <class Shape>
+VEKPrtDrawStyle StyleOf(const Shape& iShape) {
+    auto style = static_cast<VEKPrtDrawStyle>(-1);
+    iShape.GetDrawStyle(style);
+    return style;
+}
+
+template <class Shape>
+VEKPixelImage* ImageOf(const Shape& iShape) {
+    VEKPrtFillAttributes fill;
+    iShape.GetFillAttributes(fill);
+    VEKPixelImage* image = nullptr;
+    VEKMathVector2D first, second;
+    fill.GetPattern(image, first, second);
+    return image;
+}
+
+} // namespace
+
+TYPED_TEST(EveryFilled, KeepsAnyDrawStyle) {
+    const auto shape = Make<TypeParam>();
+    EXPECT_EQ(StyleOf(*shape), 1);
+    shape->SetDrawStyle(static_cast<VEKPrtDrawStyle>(-123456));
+    EXPECT_EQ(StyleOf(*shape), -123456);
+    EXPECT_EQ(StyleOf(*Make<TypeParam>(*shape)), -123456);
+    const auto assigned = Make<TypeParam>();
+    *assigned = *shape;
+    EXPECT_EQ(StyleOf(*assigned), -123456);
+    EXPECT_EQ(StyleOf(*Duplicated(*shape)), -123456);
+}
+
+template <class Shape>
+class DuplicateFill : public testing::Test {};
+TYPED_TEST_SUITE(DuplicateFill, Filled);
+
+TYPED_TEST(DuplicateFill, ShapesLeaveAReferenceBehind) {
+    constexpr bool isText = std::is_same<TypeParam, VEKPrtTextElt>::value;
+    constexpr bool isFigure = std::is_same<TypeParam, VEKPrtClosedFigureElt>::value;
+    const auto image = Make<VEKPixelImage>(1, 1);
+    const auto shape = Make<TypeParam>();
+    {
+        VEKPrtFillAttributes fill;
+        fill.SetPattern(image.Get(), VEKMathVector2D(), VEKMathVector2D());
+        shape->SetFillAttributes(fill);
+    }
+    EXPECT_EQ(Count(image), 2UL);
+    {
+        const auto copy = Make<TypeParam>(*shape), assigned = Make<TypeParam>();
+        *assigned = *shape;
+        EXPECT_EQ(Count(image), 4UL);
+        const auto duplicate = Duplicated(*shape);
+        EXPECT_EQ(ImageOf(*duplicate) == image.Get(), isText)
+            << "the text shares its image, the others copy it";
+        EXPECT_EQ(Count(image), isFigure ? 4UL : 5UL);
+    }
+    EXPECT_EQ(Count(image), isText || isFigure ? 2UL : 3UL);
+    if (!isText && !isFigure) image->Release();
+}

@@ -1,0 +1,101 @@
+#include "TestSupport.h"
+
+#include <cstdlib>
+#include <new>
+
+#if defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define __SANITIZE_ADDRESS__ 1
+#endif
+#endif
+#if defined(__SANITIZE_ADDRESS__)
+#include <sanitizer/lsan_interface.h>
+#define LSAN_DISABLE() __lsan_disable()
+#define LSAN_ENABLE() __lsan_enable()
+#else
+#define LSAN_DISABLE() static_cast<void>(0)
+#define LSAN_ENABLE() static_cast<void>(0)
+#endif
+
+namespace {
+
+long g_blocks = 0;
+long g_allocations = 0;
+long g_demandedLeak = 0;
+
+struct Faults {
+    bool on = false;
+    bool sticky = false;
+    long countdown = 0;
+    long hits = 0;
+} g_faults;
+
+bool MustFail() {
+    if (!g_faults.on) return false;
+    const bool fail = g_faults.countdown == 0 || (g_faults.sticky && g_faults.countdown < 0);
+    --g_faults.countdown;
+    g_faults.hits += fail ? 1 : 0;
+    return fail;
+}
+
+void* Allocate(std::size_t iSize) noexcept {
+    ++g_allocations;
+    void* const block = MustFail() ? nullptr : std::malloc(iSize ? iSize : 1);
+    g_blocks += block ? 1 : 0;
+    return block;
+}
+
+void Deallocate(void* iBlock) noexcept {
+    g_blocks -= iBlock ? 1 : 0;
+    std::free(iBlock);
+}
+
+// After every test: no framework object is left that the behaviour does not demand.
+class LiveObjectCheck : public testing::EmptyTestEventListener {
+    void OnTestStart(const testing::TestInfo&) override {
+        _before = VEKBaseUnknown::CountLiveObjects();
+        g_demandedLeak = 0;
+    }
+    void OnTestEnd(const testing::TestInfo&) override {
+        EXPECT_EQ(VEKBaseUnknown::CountLiveObjects() - _before, g_demandedLeak) << "objects left alive";
+    }
+    long _before = 0;
+};
+
+} // namespace
+
+void* operator new(std::size_t iSize) {
+    void* const block = Allocate(iSize);
+    if (!block) throw std::bad_alloc();
+    return block;
+}
+void* operator new[](std::size_t iSize) { return operator new(iSize); }
+void* operator new(std::size_t iSize, const std::nothrow_t&) noexcept { return Allocate(iSize); }
+void* operator new[](std::size_t iSize, const std::nothrow_t&) noexcept { return Allocate(iSize); }
+void operator delete(void* iBlock) noexcept { Deallocate(iBlock); }
+void operator delete[](void* iBlock) noexcept { Deallocate(iBlock); }
+void operator delete(void* iBlock, std::size_t) noexcept { Deallocate(iBlock); }
+void operator delete[](void* iBlock, std::size_t) noexcept { Deallocate(iBlock); }
+void operator delete(void* iBlock, const std::nothrow_t&) noexcept { Deallocate(iBlock); }
+void operator delete[](void* iBlock, const std::nothrow_t&) noexcept { Deallocate(iBlock); }
+
+long LiveBlocks() { return g_blocks; }
+long Allocations() { return g_allocations; }
+
+AllocationFaults::AllocationFaults(long iNth, bool iSticky) { g_faults = {true, iSticky, iNth, 0}; }
+long AllocationFaults::Stop() {
+    g_faults.on = false;
+    return g_faults.hits;
+}
+
+DemandedLeak::DemandedLeak(long iObjects) {
+    g_demandedLeak += iObjects;
+    LSAN_DISABLE();
+}
+DemandedLeak::~DemandedLeak() { LSAN_ENABLE(); }
+
+int main(int argc, char** argv) {
+    testing::InitGoogleTest(&argc, argv);
+    testing::UnitTest::GetInstance()->listeners().Append(new LiveObjectCheck);
+    return RUN_ALL_TESTS();
+}

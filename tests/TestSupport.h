@@ -1,0 +1,98 @@
+// What the tests share: counts of live objects and memory blocks, failing allocations, small conveniences.
+#ifndef TestSupport_H
+#define TestSupport_H
+
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <utility>
+
+#include "AllElements.h"
+#include "VEKPixelImage.h"
+#include "VEKRef.h"
+
+/// Blocks that the process has from any form of operator new.
+long LiveBlocks();
+/// Requests made so far.
+long Allocations();
+
+/// Makes the \p iNth allocation (from 0) fail, and with \p iSticky all that follow, until Stop.
+class AllocationFaults {
+public:
+    AllocationFaults(long iNth, bool iSticky);
+    ~AllocationFaults() { Stop(); }
+    AllocationFaults(const AllocationFaults&) = delete;
+    AllocationFaults& operator=(const AllocationFaults&) = delete;
+    /// How many allocations were made to fail.
+    long Stop();
+};
+
+/// Runs an operation that allocates at most once too often: \p iFail (from 0) fails, and must be reached.
+template <class Operation>
+void WithFault(long iNth, Operation iOperation) {
+    AllocationFaults faults(iNth, false);
+    iOperation();
+    EXPECT_EQ(faults.Stop(), 1) << "allocation " << iNth << " was not reached";
+}
+
+/// The behaviour demands that \p iObjects framework objects are lost in this test; without this, one that is
+/// alive at the end of a test fails it.  What is allocated in the scope is no leak to the sanitizer.
+class DemandedLeak {
+public:
+    explicit DemandedLeak(long iObjects = 0);
+    ~DemandedLeak();
+    DemandedLeak(const DemandedLeak&) = delete;
+    DemandedLeak& operator=(const DemandedLeak&) = delete;
+};
+
+template <class T, class... Arguments>
+VEKRef<T> Make(Arguments&&... iArguments) {
+    return VEKRef<T>::Adopt(new T(std::forward<Arguments>(iArguments)...));
+}
+
+template <class T>
+unsigned long Count(T* iObject) {
+    iObject->AddRef();
+    return iObject->Release();
+}
+template <class T>
+unsigned long Count(const VEKRef<T>& iObject) {
+    return Count(iObject.Get());
+}
+
+/// The duplicate, typed; null when there is none.  The argument starts out poisoned and must be overwritten.
+template <class Element>
+VEKRef<Element> Duplicated(Element& ioSource) {
+    auto* copy = reinterpret_cast<VEKPrtGraphicPrimitiveElt*>(~std::uintptr_t{0});
+    ioSource.Duplicate(copy);
+    return VEKRef<Element>::Adopt(static_cast<Element*>(copy));
+}
+
+/// A copy constructed from itself, in place; the memory is filled with junk first.
+template <class T, class Check>
+void WithSelfCopy(Check iCheck) {
+    alignas(T) unsigned char memory[sizeof(T)];
+    std::fill(std::begin(memory), std::end(memory), static_cast<unsigned char>(0xA5));
+    T* const object = reinterpret_cast<T*>(memory);
+    ::new (memory) T(*object);
+    iCheck(*object);
+    object->~T();
+}
+
+template <class Element>
+std::string Id(const Element& iElement) {
+    VEKUnicodeString id;
+    iElement.GetID(id);
+    return id.ToUtf8();
+}
+
+template <class Container>
+auto ChildrenOf(Container& ioContainer) {
+    VEKListPtrVEKPrtGraphicPrimitiveElt* children = nullptr;
+    ioContainer.GetChildren(children);
+    return children;
+}
+
+#endif
