@@ -6,7 +6,7 @@ using Child = VEKPrtGraphicPrimitiveElt;
 
 template <class Container>
 class EveryContainer : public testing::Test {};
-TYPED_TEST_SUITE(EveryContainer, Containers);
+TYPED_TEST_SUITE(EveryContainer, Containers, );
 
 VEKRef<VEKPrtLineElt> Line(const char* iId) {
     auto line = Make<VEKPrtLineElt>();
@@ -96,7 +96,7 @@ namespace {
 
 template <class Container>
 class ContainerAssign : public testing::Test {};
-TYPED_TEST_SUITE(ContainerAssign, Containers);
+TYPED_TEST_SUITE(ContainerAssign, Containers, );
 
 } // namespace
 
@@ -202,7 +202,7 @@ namespace {
 using Boxes = testing::Types<VEKPrtPatternElt, VEKPrtSymbolElt>;
 template <class Box>
 class BoxContainer : public testing::Test {};
-TYPED_TEST_SUITE(BoxContainer, Boxes);
+TYPED_TEST_SUITE(BoxContainer, Boxes, );
 
 } // namespace
 

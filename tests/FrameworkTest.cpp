@@ -126,7 +126,7 @@ TEST(Ref, AdoptsOrShares) {
     VEKPrtLineElt* const line = ref.Get();
     const auto shared = VEKRef<VEKPrtLineElt>::Share(line);
     EXPECT_EQ(Count(line), 2UL);
-    ref = ref;
+    ref = *&ref;
     ref = VEKRef<VEKPrtLineElt>();
     EXPECT_EQ(Count(line), 1UL);
 }

@@ -52,7 +52,7 @@ const Row& RowOf(const std::type_info& iType) {
 
 template <class Element>
 class EveryElement : public testing::Test {};
-TYPED_TEST_SUITE(EveryElement, AllElements);
+TYPED_TEST_SUITE(EveryElement, AllElements, );
 
 } // namespace
 

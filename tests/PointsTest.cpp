@@ -39,11 +39,11 @@ constexpr bool copiesFirst = !isDisjoint<Element>;
 
 template <class Element>
 class EveryPointArray : public testing::Test {};
-TYPED_TEST_SUITE(EveryPointArray, PointArrays);
+TYPED_TEST_SUITE(EveryPointArray, PointArrays, );
 
 template <class Element>
 class PointArrayList : public testing::Test {};
-TYPED_TEST_SUITE(PointArrayList, PointArrays);
+TYPED_TEST_SUITE(PointArrayList, PointArrays, );
 
 const double g_five[] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10};
 

@@ -222,7 +222,7 @@ namespace {
 
 template <class Shape>
 class EveryFilled : public testing::Test {};
-TYPED_TEST_SUITE(EveryFilled, Filled);
+TYPED_TEST_SUITE(EveryFilled, Filled, );
 
 template <class Shape>
 VEKPrtDrawStyle StyleOf(const Shape& iShape) {
@@ -257,7 +257,7 @@ TYPED_TEST(EveryFilled, KeepsAnyDrawStyle) {
 
 template <class Shape>
 class DuplicateFill : public testing::Test {};
-TYPED_TEST_SUITE(DuplicateFill, Filled);
+TYPED_TEST_SUITE(DuplicateFill, Filled, );
 
 TYPED_TEST(DuplicateFill, ShapesLeaveAReferenceBehind) {
     constexpr bool isText = std::is_same<TypeParam, VEKPrtTextElt>::value;

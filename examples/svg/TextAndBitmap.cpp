@@ -43,6 +43,7 @@ Anchor AnchorOf(VEKPrintTextAttribute iAnchor) {
 
 // One character above the other, upright; the first one where the text begins.
 void WriteVertically(XmlWriter& ioXml, const std::string& iText, double iHeight, double iSpacing) {
+    ioXml.Text({}); // from here on no white space is added, which the text would keep
     std::size_t begin = 0;
     for (int row = 0; begin < iText.size(); ++row) {
         std::size_t end = begin + 1;

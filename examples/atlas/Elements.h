@@ -1,0 +1,52 @@
+// Short ways to make elements of a drawing.
+#ifndef ATLAS_ELEMENTS_H
+#define ATLAS_ELEMENTS_H
+
+#include <new>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "Geometry.h"
+#include "VEKPrintTextAttribute.h"
+#include "VEKPrtLineElt.h"
+#include "VEKPrtPolyPolygonElt.h"
+#include "VEKPrtPolylineElt.h"
+#include "VEKPrtRectangleElt.h"
+#include "VEKPrtTextElt.h"
+#include "VEKRef.h"
+
+class VEKFont;
+
+/// A new object of the model.  The framework's `new` yields null when memory is out; this one throws.
+template <class T, class... Arguments>
+VEKRef<T> Make(Arguments&&... iArguments) {
+    T* const object = new T(std::forward<Arguments>(iArguments)...);
+    if (!object) throw std::bad_alloc();
+    return VEKRef<T>::Adopt(object);
+}
+
+/// A line by the index of its colour in the page's table and its width in page units.
+struct Pen {
+    unsigned int colour = 0;
+    double width = 0.0;
+};
+
+struct TextStyle {
+    VEKFont* font = nullptr;
+    double size = 0.0;
+    unsigned int colour = 0;
+    VEKPrintTextAttribute anchor = VEKPrintTextAnchorBaselineLeft;
+    VEKPrintTextAttribute weight = VEKPrintTextWeightRegular;
+    double spacing = 0.0;
+};
+
+VEKRef<VEKPrtPolyPolygonElt> MakeArea(const std::vector<Path>& iRings, unsigned int iColour);
+VEKRef<VEKPrtPolylineElt> MakeLine(const Path& iLine, const Pen& iPen);
+VEKRef<VEKPrtPolylineElt> MakeClosedLine(const Path& iRing, const Pen& iPen);
+VEKRef<VEKPrtLineElt> MakeSegment(const Point& iFrom, const Point& iTo, const Pen& iPen);
+VEKRef<VEKPrtRectangleElt> MakeFilledBox(const Box& iBox, unsigned int iColour);
+VEKRef<VEKPrtRectangleElt> MakeOutlinedBox(const Box& iBox, const Pen& iPen);
+VEKRef<VEKPrtTextElt> MakeText(const Point& iPosition, const std::string& iText, const TextStyle& iStyle);
+
+#endif

@@ -1,0 +1,35 @@
+// Reads countries and the arcs that they share from TopoJSON.
+#ifndef ATLAS_TOPOJSON_H
+#define ATLAS_TOPOJSON_H
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "Geometry.h"
+
+struct Country {
+    std::string id;   // empty when the file gives none
+    std::string name; // empty when the file gives none
+    /// Each polygon is an outline followed by its holes.
+    std::vector<std::vector<Path>> polygons;
+};
+
+struct Arc {
+    Path path;
+    /// Positions in Topology::countries, ascending: one makes the arc a coast, more make it a border.
+    std::vector<std::size_t> users;
+};
+
+struct Topology {
+    std::vector<Arc> arcs;
+    std::vector<Country> countries;
+};
+
+/// Reads the collection "countries", or else the first one that has polygons.
+///
+/// Throws AtlasError, whose message says what is wrong with \p iText.  Null geometries, points and lines are
+/// left out, and so are rings of fewer than three points, which generalised data contains.
+Topology ReadTopology(const std::string& iText);
+
+#endif
