@@ -1,3 +1,5 @@
+#include <climits>
+
 #include "TestSupport.h"
 #include "VEKFont.h"
 #include "VEKListPtrVEKMathPoint2D.h"
@@ -118,7 +120,7 @@ TEST(PixelImage, ClonesOrYieldsNull) {
     EXPECT_EQ(copy->GetRow(2), nullptr);
     for (const long nth : {0L, 1L})
         WithFault(nth, [&] { EXPECT_EQ(image->Clone(), nullptr); });
-    EXPECT_EQ(Make<VEKPixelImage>(1 << 30, 1 << 30)->GetWidth() * Make<VEKPixelImage>(-1, 5)->GetHeight(), 0);
+    EXPECT_EQ(Make<VEKPixelImage>(INT_MAX, INT_MAX)->GetWidth() * Make<VEKPixelImage>(-1, 5)->GetHeight(), 0);
 }
 
 TEST(Ref, AdoptsOrShares) {

@@ -216,7 +216,7 @@ TEST(Nurbs, DrawsACircleAndHonoursTheBounds) {
 }
 
 TEST(Nurbs, RefusesNonsense) {
-    const double points[] = {0, 0, 1, 1, 2, 0}, knots[] = {0, 0, 0, 1, 1, 1},
+    const double points[] = {0, 0, 1, 1, 2, 0}, knots[] = {0, 0, 0, 1, 1, 1, 1},
                  decreasing[] = {0, 0, 1, 0, 1, 1};
     const double ones[] = {1, 1, 1}, zero[] = {1, 0, 1}, infinite[] = {0, 0, INFINITY, 1, 2, 0};
     using N = VEKPrtNURBSElt;

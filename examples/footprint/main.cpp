@@ -42,6 +42,12 @@ void* Counted(std::size_t iSize) noexcept {
 
 void* operator new(std::size_t iSize, const std::nothrow_t&) noexcept { return Counted(iSize); }
 void* operator new[](std::size_t iSize, const std::nothrow_t&) noexcept { return Counted(iSize); }
+void* operator new(std::size_t iSize) {
+    void* const block = Counted(iSize);
+    if (!block) throw std::bad_alloc();
+    return block;
+}
+void* operator new[](std::size_t iSize) { return operator new(iSize); }
 void operator delete(void* iBlock) noexcept { std::free(iBlock); }
 void operator delete[](void* iBlock) noexcept { std::free(iBlock); }
 void operator delete(void* iBlock, std::size_t) noexcept { std::free(iBlock); }

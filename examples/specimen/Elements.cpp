@@ -149,7 +149,8 @@ void DrawNurbs(const Cell& c) {
 
 void DrawMarkers(const Cell& c) {
     for (int style = 0; style < 8; ++style) {
-        const double x = 8 + 11.3 * (style % 4), y = 30 - 17 * (style / 4);
+        const int column = style % 4, row = style / 4;
+        const double x = 8 + 11.3 * column, y = 30 - 17 * row;
         const auto marker = Make<VEKPrtMarkerElt>(Point(x, y), 6.0);
         VEKPrtMarkerAttributes attributes;
         attributes.SetMarkerStyle(static_cast<VEKPrintMarkerAttribute>(style));

@@ -17,14 +17,14 @@ VEKPrtFillAttributes Fill(unsigned iColour) {
 
 VEKRef<VEKPrtLineElt> Cell::Line(double iX1, double iY1, double iX2, double iY2, unsigned iColour,
                                  double iWidth) const {
-    const auto line = Make<VEKPrtLineElt>(VEKMathPoint2D(iX1, iY1), VEKMathPoint2D(iX2, iY2));
+    auto line = Make<VEKPrtLineElt>(VEKMathPoint2D(iX1, iY1), VEKMathPoint2D(iX2, iY2));
     AddStroked(line, iColour, iWidth);
     return line;
 }
 
 VEKRef<VEKPrtTextElt> Cell::Text(double iX, double iY, const char* iText, double iHeight,
                                  VEKPrintTextAttribute iAnchor) const {
-    const auto text = Make<VEKPrtTextElt>(VEKMathPoint2D(iX, iY), VEKUnicodeString(iText));
+    auto text = Make<VEKPrtTextElt>(VEKMathPoint2D(iX, iY), VEKUnicodeString(iText));
     VEKPrtTextAttributes attributes;
     attributes.SetFont(fonts.sans.get());
     attributes.SetHeight(iHeight);

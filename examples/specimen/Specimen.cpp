@@ -113,7 +113,8 @@ Specimen BuildSpecimen() {
             group->SetID(content->id);
             group->SetTitle(content->heading);
             const double x = frame + cells % columns * cellWidth;
-            const double y = sheetHeight - frame - (cells / columns + 1) * cellHeight;
+            const int row = cells / columns;
+            const double y = sheetHeight - frame - (row + 1) * cellHeight;
             group->SetTransformAttributes(Translation(x, y));
             const Cell cell(specimen, palette, *group);
             cell.AddPainted(Make<VEKPrtRectangleElt>(Point(0, 0), Point(cellWidth, cellHeight)), palette.grey,

@@ -29,7 +29,8 @@ public:
         for (int j = 0; j <= degree; ++j) {
             const int i = span - degree + j;
             const double w = _weights[i];
-            d[static_cast<std::size_t>(j)] = {_points[2 * i] * w, _points[2 * i + 1] * w, w};
+            const double* const point = _points + 2 * static_cast<std::ptrdiff_t>(i);
+            d[static_cast<std::size_t>(j)] = {point[0] * w, point[1] * w, w};
         }
         for (int level = 1; level <= degree; ++level) {
             for (int j = degree; j >= level; --j) {

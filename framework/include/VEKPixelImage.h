@@ -11,6 +11,9 @@ public:
     /// 0 x 0 when a side is not positive or memory is out.
     VEKPixelImage(int iWidth, int iHeight);
     ~VEKPixelImage() override;
+    // Copies are made by Clone alone, which can report that memory is out.
+    VEKPixelImage(const VEKPixelImage&) = delete;
+    VEKPixelImage& operator=(const VEKPixelImage&) = delete;
 
     /// A new image of the same pixels, with one reference, which is the caller's; null when memory is out.
     virtual VEKPixelImage* Clone() const;
@@ -26,10 +29,6 @@ public:
                   unsigned char iAlpha = 255);
 
 private:
-    // Copies are made by Clone alone, which can report that memory is out.
-    VEKPixelImage(const VEKPixelImage&) = delete;
-    VEKPixelImage& operator=(const VEKPixelImage&) = delete;
-
     int _width = 0;
     int _height = 0;
     unsigned char* _pixels = nullptr;

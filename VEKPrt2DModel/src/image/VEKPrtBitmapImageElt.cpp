@@ -9,7 +9,7 @@ VEKPrtBitmapImageElt::VEKPrtBitmapImageElt() = default;
 VEKPrtBitmapImageElt::VEKPrtBitmapImageElt(const VEKMathPoint2D& iOrigin, double iWidth, double iHeight,
                                            double iOrientation, VEKPixelImage* iImage)
     : _origin(iOrigin), _width(iWidth), _height(iHeight), _orientation(static_cast<float>(iOrientation)) {
-    SetPixelImage(iImage);
+    HoldImage(iImage);
 }
 
 VEKPrtBitmapImageElt::~VEKPrtBitmapImageElt() {

@@ -1,6 +1,8 @@
 #include "VEKPrtNURBSElt.h"
 
+#include <algorithm>
 #include <cstdint>
+#include <iterator>
 #include <utility>
 
 #include "ElementProtocol.h"
@@ -90,42 +92,42 @@ void VEKPrtNURBSElt::Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) {
 void VEKPrtNURBSElt::SetParameters(int iOrder, int iCount, const double* iControlPoints, const double* iKnots,
                                    float iFirstBound, float iSecondBound, const double* iWeights) {
     struct Held {
-        double* array;
+        double** array;
         std::int64_t count;
+        const double* argument;
     };
-    const Held held[] = {{_controlPoints, 2 * std::int64_t{_heldCount}},
-                         {_knots, KnotCount(_heldOrder, _heldCount)},
-                         {_weights, _heldCount}};
+    const Held held[] = {{&_controlPoints, 2 * std::int64_t{_heldCount}, iControlPoints},
+                         {&_knots, KnotCount(_heldOrder, _heldCount), iKnots},
+                         {&_weights, _heldCount, iWeights}};
     const auto readable = [&held](const double* iArray, std::int64_t iWanted) {
         for (const Held& own : held)
-            iWanted = vekprt::CountReadable<double>(iArray, iWanted, own.array, own.count);
+            iWanted = vekprt::CountReadable<double>(iArray, iWanted, *own.array, own.count);
         return iWanted;
     };
-    const auto isRead = [&](const Held& iOwn) {
-        return vekprt::LiesIn<double>(iControlPoints, iOwn.array, iOwn.count) ||
-               vekprt::LiesIn<double>(iKnots, iOwn.array, iOwn.count) ||
-               vekprt::LiesIn<double>(iWeights, iOwn.array, iOwn.count);
-    };
+    const std::int64_t coordinates = readable(iControlPoints, 2 * std::int64_t{iCount});
+    const std::int64_t knots = readable(iKnots, KnotCount(iOrder, iCount) + 1) - 1;
+    const std::int64_t weights = readable(iWeights, std::int64_t{iCount} + 1) - 1;
+
     double* unused[3] = {};
-    const auto drop = [&](int iWhich, double*& ioArray, const double* iArgument) {
-        if (ioArray == iArgument) return;
-        if (isRead(held[iWhich])) unused[iWhich] = std::exchange(ioArray, nullptr);
-        vekprt::DeleteArray(ioArray);
-    };
-    drop(0, _controlPoints, iControlPoints);
-    drop(1, _knots, iKnots);
-    drop(2, _weights, iWeights);
+    for (int i = 0; i < 3; ++i) {
+        double*& array = *held[i].array;
+        if (array == held[i].argument) continue;
+        const bool isRead =
+            std::any_of(std::begin(held), std::end(held), [array, count = held[i].count](const Held& iOther) {
+                return vekprt::LiesIn<double>(iOther.argument, array, count);
+            });
+        if (isRead) unused[i] = std::exchange(array, nullptr);
+        vekprt::DeleteArray(array);
+    }
 
     _count = iCount;
     _firstBound = iFirstBound;
     _order = iOrder;
     _secondBound = iSecondBound;
     if (iCount > 0 && iControlPoints && iKnots && iWeights && NewArrays()) {
-        const std::int64_t knotsRead = readable(iKnots, KnotCount(iOrder, iCount) + 1);
-        const std::int64_t weightsRead = readable(iWeights, std::int64_t{iCount} + 1);
-        vekprt::CopyArray(_controlPoints, iControlPoints, readable(iControlPoints, 2 * std::int64_t{iCount}));
-        vekprt::CopyArray(_knots, iKnots, knotsRead - 1, 1);
-        vekprt::CopyArray(_weights, iWeights, weightsRead - 1, 1);
+        vekprt::CopyArray(_controlPoints, iControlPoints, coordinates);
+        vekprt::CopyArray(_knots, iKnots, knots, 1);
+        vekprt::CopyArray(_weights, iWeights, weights, 1);
     }
     for (double* array : unused)
         vekprt::DeleteArray(array);
