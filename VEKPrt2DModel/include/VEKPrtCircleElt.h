@@ -22,8 +22,7 @@ public:
 
     VEKPRT_DECLARE_META_FAMILY
 
-    /// The copy has a pattern image of its own.  The one shared meanwhile is not given back: the source's
-    /// image keeps one reference more for ever.
+    /// \copydoc VEKPrtRectangleElt::Duplicate
     void Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) override;
 
     virtual void SetCenter(const VEKMathPoint2D& iCenter);

@@ -34,13 +34,9 @@ public:
 
     void Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) override;
 
-    /// Replaces the points by a copy of \p iCount points (x0, y0, x1, y1, ...).
-    ///
-    /// A count of 0 leaves an array of no length, a negative count no array; the count is kept as given,
-    /// also when memory is out and there is no array.  A null \p iPoints gives points at (0, 0).
+    /// \copydoc VEKPrtPolylineElt::SetPoints
     virtual void SetPoints(const double* iPoints, int iCount);
-
-    /// Lends the array: valid until the next SetPoints, assignment or destruction.
+    /// \copydoc VEKPrtPolylineElt::GetPoints
     virtual void GetPoints(double*& oPoints, int& oCount) const;
     virtual void SetStrokeAttributes(const VEKPrtStrokeAttributes& iAttributes);
     virtual void GetStrokeAttributes(VEKPrtStrokeAttributes& oAttributes) const;

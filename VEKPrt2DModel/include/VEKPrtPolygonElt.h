@@ -34,17 +34,12 @@ public:
 
     VEKPRT_DECLARE_META_FAMILY
 
-    /// The copy has a pattern image of its own.  The one shared meanwhile is not given back: the source's
-    /// image keeps one reference more for ever.
+    /// \copydoc VEKPrtRectangleElt::Duplicate
     void Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) override;
 
-    /// Replaces the points by a copy of \p iCount points (x0, y0, x1, y1, ...).
-    ///
-    /// A count of 0 leaves an array of no length, a negative count no array; the count is kept as given,
-    /// also when memory is out and there is no array.  A null \p iPoints gives points at (0, 0).
+    /// \copydoc VEKPrtPolylineElt::SetPoints
     virtual void SetPoints(const double* iPoints, int iCount);
-
-    /// Lends the array: valid until the next SetPoints, assignment or destruction.
+    /// \copydoc VEKPrtPolylineElt::GetPoints
     virtual void GetPoints(double*& oPoints, int& oCount) const;
     virtual void SetDrawStyle(VEKPrtDrawStyle iStyle);
     virtual void GetDrawStyle(VEKPrtDrawStyle& oStyle) const;
