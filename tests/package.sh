@@ -19,7 +19,7 @@ find_package(VEKPrt2DModel 1 REQUIRED)
 add_executable(client main.cpp)
 target_link_libraries(client PRIVATE VEKPrt2DModel::VEKPrt2DModel)
 END
-cmake -S "$work/client" -B "$work/client/build" -DCMAKE_PREFIX_PATH="$work/stage" > "$work/client.log"
+cmake -G Ninja -S "$work/client" -B "$work/client/build" -DCMAKE_PREFIX_PATH="$work/stage" > "$work/client.log"
 cmake --build "$work/client/build" >> "$work/client.log"
 "$work/client/build/client"
 echo "package: find_package works"
@@ -46,7 +46,7 @@ add_subdirectory("$source" model)
 add_executable(embedded main.cpp)
 target_link_libraries(embedded PRIVATE VEKPrt2DModel::VEKPrt2DModel)
 END
-cmake -S "$work/embedded" -B "$work/embedded/build" > "$work/embedded.log"
+cmake -G Ninja -S "$work/embedded" -B "$work/embedded/build" > "$work/embedded.log"
 cmake --build "$work/embedded/build" -j2 >> "$work/embedded.log"
 [ ! -e "$work/embedded/build/model/framework" ] || { echo "package: the host's framework was not used" >&2; exit 1; }
 "$work/embedded/build/embedded"

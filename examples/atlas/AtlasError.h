@@ -1,6 +1,6 @@
 // What ends the program: one line for the user.
-#ifndef ATLAS_ERROR_H
-#define ATLAS_ERROR_H
+#ifndef AtlasError_H
+#define AtlasError_H
 
 #include <stdexcept>
 

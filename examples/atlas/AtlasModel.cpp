@@ -14,7 +14,7 @@ constexpr Sheet kA4Landscape{297.0, 210.0, 0.8};
 constexpr Sheet kA4Portrait{210.0, 297.0, 0.8};
 
 /// The map of the world comes first.  Its centre puts the cut through Bering Strait, where least is cut.
-constexpr PageSpec kPages[] = {
+constexpr PageLayout kPages[] = {
     {"world", "THE WORLD", kA3Landscape, {11.0, 0.0}, 90e6, 15.0, true},
     {"europe", "EUROPE", kA3Landscape, {13.0, 54.0}, 17e6, 5.0, false},
     {"africa", "AFRICA", kA3Portrait, {17.5, 3.0}, 30e6, 10.0, false},
@@ -30,7 +30,7 @@ class Links {
 public:
     explicit Links(std::size_t iCountries) : _areas(iCountries), _regions(iCountries) {}
 
-    void Note(std::size_t iCountry, const PageSpec& iRegion, double iArea) {
+    void Note(std::size_t iCountry, const PageLayout& iRegion, double iArea) {
         // On the ground: areas on paper would favour the maps of larger scale.  Of regions that show a
         // country as a whole, rounding must not choose.
         const double ground = iArea * iRegion.scale * iRegion.scale;
@@ -39,8 +39,8 @@ public:
         _regions[iCountry] = iRegion.file;
     }
 
-    std::vector<const char*> For(const PageSpec& iSpec) const {
-        return iSpec.isWorld ? _regions : std::vector<const char*>(_regions.size(), kPages[0].file);
+    std::vector<const char*> For(const PageLayout& iLayout) const {
+        return iLayout.isWorld ? _regions : std::vector<const char*>(_regions.size(), kPages[0].file);
     }
 
 private:
@@ -56,11 +56,11 @@ Atlas::Atlas(const Topology& iTopology)
     const std::size_t count = iTopology.countries.size();
     std::vector<std::unique_ptr<PageBuilder>> builders;
     Links links(count);
-    for (const PageSpec& spec : kPages) {
-        builders.push_back(std::make_unique<PageBuilder>(spec, iTopology, _titleFont, _labelFont));
-        for (std::size_t i = 0; i < count && !spec.isWorld; ++i)
-            links.Note(i, spec, builders.back()->ShownArea(i));
-        _pageNames.emplace_back(spec.file);
+    for (const PageLayout& layout : kPages) {
+        builders.push_back(std::make_unique<PageBuilder>(layout, iTopology, _titleFont, _labelFont));
+        for (std::size_t i = 0; i < count && !layout.isWorld; ++i)
+            links.Note(i, layout, builders.back()->ShownArea(i));
+        _pageNames.emplace_back(layout.file);
     }
     const std::vector<std::size_t> colours = ColourCountries(iTopology, CountLandColours());
     for (std::size_t i = 0; i < builders.size(); ++i)

@@ -1,6 +1,6 @@
 // Builds the pages of the atlas as a drawing model.
-#ifndef ATLAS_MODEL_H
-#define ATLAS_MODEL_H
+#ifndef AtlasModel_H
+#define AtlasModel_H
 
 #include <string>
 #include <vector>

@@ -1,6 +1,6 @@
 // Cuts rings and polylines to a box, and changes how densely they are sampled.
-#ifndef ATLAS_CLIP_H
-#define ATLAS_CLIP_H
+#ifndef Clip_H
+#define Clip_H
 
 #include <vector>
 

@@ -1,6 +1,6 @@
 // Chooses colours that keep neighbouring countries apart.
-#ifndef ATLAS_COLOURING_H
-#define ATLAS_COLOURING_H
+#ifndef Colouring_H
+#define Colouring_H
 
 #include <cstddef>
 #include <vector>

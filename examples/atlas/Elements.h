@@ -1,30 +1,20 @@
 // Short ways to make elements of a drawing.
-#ifndef ATLAS_ELEMENTS_H
-#define ATLAS_ELEMENTS_H
+#ifndef Elements_H
+#define Elements_H
 
-#include <new>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "Geometry.h"
+#include "Make.h"
 #include "VEKPrintTextAttribute.h"
 #include "VEKPrtLineElt.h"
 #include "VEKPrtPolyPolygonElt.h"
 #include "VEKPrtPolylineElt.h"
 #include "VEKPrtRectangleElt.h"
 #include "VEKPrtTextElt.h"
-#include "VEKRef.h"
 
 class VEKFont;
-
-/// A new object of the model.  The framework's `new` yields null when memory is out; this one throws.
-template <class T, class... Arguments>
-VEKRef<T> Make(Arguments&&... iArguments) {
-    T* const object = new T(std::forward<Arguments>(iArguments)...);
-    if (!object) throw std::bad_alloc();
-    return VEKRef<T>::Adopt(object);
-}
 
 /// A line by the index of its colour in the page's table and its width in page units.
 struct Pen {

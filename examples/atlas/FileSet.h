@@ -1,6 +1,6 @@
 // Writes several files so that each is complete or absent.
-#ifndef ATLAS_FILE_SET_H
-#define ATLAS_FILE_SET_H
+#ifndef FileSet_H
+#define FileSet_H
 
 #include <filesystem>
 #include <string>

@@ -1,6 +1,6 @@
 // Points, paths and boxes of the atlas.
-#ifndef ATLAS_GEOMETRY_H
-#define ATLAS_GEOMETRY_H
+#ifndef Geometry_H
+#define Geometry_H
 
 #include <vector>
 

@@ -1,6 +1,6 @@
 // Finds places for names on a map.
-#ifndef ATLAS_LABELS_H
-#define ATLAS_LABELS_H
+#ifndef Labels_H
+#define Labels_H
 
 #include <string>
 #include <vector>

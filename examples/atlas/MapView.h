@@ -1,6 +1,6 @@
 // From rings and lines on the globe to rings and lines on a page.
-#ifndef ATLAS_MAP_VIEW_H
-#define ATLAS_MAP_VIEW_H
+#ifndef MapView_H
+#define MapView_H
 
 #include <vector>
 

@@ -55,18 +55,18 @@ private:
     std::map<std::string, int> _seen;
 };
 
-std::unique_ptr<Projection> ProjectionFor(const PageSpec& iSpec) {
-    if (iSpec.isWorld) return std::make_unique<EqualEarth>(iSpec.centre.x);
-    return std::make_unique<LambertAzimuthal>(iSpec.centre);
+std::unique_ptr<Projection> ProjectionFor(const PageLayout& iLayout) {
+    if (iLayout.isWorld) return std::make_unique<EqualEarth>(iLayout.centre.x);
+    return std::make_unique<LambertAzimuthal>(iLayout.centre);
 }
 
 /// Maps of regions fill their frame and leave room above and below it for title and scale bar; that of the
 /// world is so much wider than high that it has the room inside.
-Box FrameOf(const PageSpec& iSpec) {
-    const Sheet& sheet = iSpec.sheet;
+Box FrameOf(const PageLayout& iLayout) {
+    const Sheet& sheet = iLayout.sheet;
     const double side = 14.0 * sheet.textScale;
-    const double top = iSpec.isWorld ? side : 25.0 * sheet.textScale;
-    const double bottom = iSpec.isWorld ? side : 22.0 * sheet.textScale;
+    const double top = iLayout.isWorld ? side : 25.0 * sheet.textScale;
+    const double bottom = iLayout.isWorld ? side : 22.0 * sheet.textScale;
     return {side, bottom, sheet.width - side, sheet.height - top};
 }
 
@@ -74,11 +74,11 @@ Box FrameOf(const PageSpec& iSpec) {
 
 std::size_t CountLandColours() { return std::size(kLand); }
 
-PageBuilder::PageBuilder(const PageSpec& iSpec, const Topology& iTopology, VEKFont& ioTitleFont,
+PageBuilder::PageBuilder(const PageLayout& iLayout, const Topology& iTopology, VEKFont& ioTitleFont,
                          VEKFont& ioLabelFont)
-    : _spec(iSpec), _topology(iTopology), _titleFont(ioTitleFont), _labelFont(ioLabelFont),
-      _projection(ProjectionFor(iSpec)), _view(*_projection, iSpec.scale, FrameOf(iSpec)),
-      _page(Make<VEKPrtImageElt>(VEKMathPoint2D(), iSpec.sheet.width, iSpec.sheet.height,
+    : _layout(iLayout), _topology(iTopology), _titleFont(ioTitleFont), _labelFont(ioLabelFont),
+      _projection(ProjectionFor(iLayout)), _view(*_projection, iLayout.scale, FrameOf(iLayout)),
+      _page(Make<VEKPrtImageElt>(VEKMathPoint2D(), iLayout.sheet.width, iLayout.sheet.height,
                                  VEKPrtImageMillimetre, VEKMath2x2Matrix())) {
     for (const Country& country : iTopology.countries)
         _shown.push_back(Show(country));
@@ -108,15 +108,15 @@ PageBuilder::Shown PageBuilder::Show(const Country& iCountry) const {
 
 VEKRef<VEKPrtImageElt> PageBuilder::Build(const std::vector<std::size_t>& iColours,
                                           const std::vector<const char*>& iLinks) {
-    _page->SetID(_spec.file);
-    _page->SetTitle(_spec.title);
+    _page->SetID(_layout.file);
+    _page->SetTitle(_layout.title);
     MakeColours();
-    _page->AddChild(MakeFilledBox({0.0, 0.0, _spec.sheet.width, _spec.sheet.height}, _paper).Get());
+    _page->AddChild(MakeFilledBox({0.0, 0.0, _layout.sheet.width, _layout.sheet.height}, _paper).Get());
     _page->AddChild(MakeArea({_view.Outline()}, _ocean).Get());
     AddGraticule();
     AddCountries(iColours, iLinks);
-    AddArcs("borders", true, {_border, 0.2 * _spec.sheet.textScale});
-    AddArcs("coast", false, {_coast, 0.16 * _spec.sheet.textScale});
+    AddArcs("borders", true, {_border, 0.2 * _layout.sheet.textScale});
+    AddArcs("coast", false, {_coast, 0.16 * _layout.sheet.textScale});
     AddLabels();
     AddFrame();
     AddTitle();
@@ -153,15 +153,15 @@ VEKRef<VEKPrtGroupElt> PageBuilder::AddGroup(const char* iID) {
 
 void PageBuilder::AddGraticule() {
     const VEKRef<VEKPrtGroupElt> group = AddGroup("graticule");
-    const Pen pen{_graticule, 0.15 * _spec.sheet.textScale};
-    const double step = _spec.graticule;
+    const Pen pen{_graticule, 0.15 * _layout.sheet.textScale};
+    const double step = _layout.graticule;
     const auto add = [&](const Point& iFrom, const Point& iTo) {
         for (const Path& piece : _view.GridLines({iFrom, iTo}))
             group->AddChild(MakeLine(piece, pen).Get());
     };
     const Box& window = _view.Window();
     // Meridians end short of a pole that is a point, where they would run together.
-    const double end = _spec.isWorld ? 90.0 : 90.0 - step;
+    const double end = _layout.isWorld ? 90.0 : 90.0 - step;
     const double south = std::max(window.minY, -end);
     const double north = std::min(window.maxY, end);
     for (double longitude = std::ceil(window.minX / step) * step; longitude <= window.maxX; longitude += step)
@@ -208,7 +208,7 @@ void PageBuilder::AddLabels() {
     std::stable_sort(order.begin(), order.end(), [this](std::size_t iLeft, std::size_t iRight) {
         return _shown[iLeft].area > _shown[iRight].area;
     });
-    const double scale = _spec.sheet.textScale;
+    const double scale = _layout.sheet.textScale;
     LabelPlacer placer(_view, 1.4 * scale, 6.0 * scale);
     for (const std::size_t i : order) {
         Label label;
@@ -219,24 +219,24 @@ void PageBuilder::AddLabels() {
 }
 
 void PageBuilder::AddFrame() {
-    const double scale = _spec.sheet.textScale;
+    const double scale = _layout.sheet.textScale;
     const VEKRef<VEKPrtGroupElt> group = AddGroup("frame");
-    if (_spec.isWorld) group->AddChild(MakeClosedLine(_view.Outline(), {_coast, 0.3 * scale}).Get());
+    if (_layout.isWorld) group->AddChild(MakeClosedLine(_view.Outline(), {_coast, 0.3 * scale}).Get());
     group->AddChild(MakeOutlinedBox(_view.Frame(), {_ink, 0.2 * scale}).Get());
     group->AddChild(MakeOutlinedBox(_view.Frame().Grown(kNeatlineGap * scale), {_ink, 0.7 * scale}).Get());
 }
 
 void PageBuilder::AddTitle() {
-    const double scale = _spec.sheet.textScale;
+    const double scale = _layout.sheet.textScale;
     const Box& frame = _view.Frame();
-    const std::string about = std::string(_projection->Name()) + ", " + ScaleText(_spec.scale);
+    const std::string about = std::string(_projection->Name()) + ", " + ScaleText(_layout.scale);
     TextStyle title{&_titleFont, 11.0 * scale, _ink};
     title.spacing = 1.6 * scale;
     TextStyle small{&_labelFont, 3.2 * scale, _softInk};
     Point place{frame.minX - kNeatlineGap * scale, frame.maxY + 6.5 * scale};
     Point aboutPlace{frame.maxX + kNeatlineGap * scale, place.y};
     small.anchor = VEKPrintTextAnchorBaselineRight;
-    if (_spec.isWorld) {
+    if (_layout.isWorld) {
         place = {frame.Centre().x, frame.maxY - 23.0};
         aboutPlace = {place.x, place.y - 8.5};
         title.size = 15.0;
@@ -244,20 +244,20 @@ void PageBuilder::AddTitle() {
         title.anchor = VEKPrintTextAnchorBaselineCentre;
         small.anchor = VEKPrintTextAnchorBaselineCentre;
     }
-    _page->AddChild(MakeText(place, _spec.title, title).Get());
+    _page->AddChild(MakeText(place, _layout.title, title).Get());
     _page->AddChild(MakeText(aboutPlace, about, small).Get());
 }
 
 std::pair<Point, Point> PageBuilder::Foot() const {
-    const double scale = _spec.sheet.textScale;
+    const double scale = _layout.sheet.textScale;
     const Box& frame = _view.Frame();
-    const double margin = _spec.isWorld ? -12.0 : kNeatlineGap * scale;
-    const double baseline = _spec.isWorld ? frame.minY + 12.0 : frame.minY - 12.3 * scale;
+    const double margin = _layout.isWorld ? -12.0 : kNeatlineGap * scale;
+    const double baseline = _layout.isWorld ? frame.minY + 12.0 : frame.minY - 12.3 * scale;
     return {{frame.minX - margin, baseline}, {frame.maxX + margin, baseline}};
 }
 
 void PageBuilder::AddScaleBar() {
-    const double scale = _spec.sheet.textScale;
+    const double scale = _layout.sheet.textScale;
     const VEKRef<VEKPrtGroupElt> group = AddGroup("scale-bar");
     const double unit = _view.MillimetresPerKilometre();
     int step = 1; // kilometres to a field of the bar
@@ -280,12 +280,12 @@ void PageBuilder::AddScaleBar() {
     const double end = corner.x + fields * field;
     group->AddChild(MakeOutlinedBox({corner.x, bottom, end, top}, pen).Get());
     style.anchor = VEKPrintTextAnchorBaselineLeft;
-    const char* const where = _spec.isWorld ? "km along the equator" : "km at the centre of the map";
+    const char* const where = _layout.isWorld ? "km along the equator" : "km at the centre of the map";
     group->AddChild(MakeText({end + 5.0 * scale, corner.y}, where, style).Get());
 }
 
 void PageBuilder::AddCredit() {
-    TextStyle style{&_labelFont, 2.8 * _spec.sheet.textScale, _softInk};
+    TextStyle style{&_labelFont, 2.8 * _layout.sheet.textScale, _softInk};
     style.anchor = VEKPrintTextAnchorBaselineRight;
     _page->AddChild(MakeText(Foot().second, "Data: Natural Earth, public domain", style).Get());
 }

@@ -1,6 +1,6 @@
 // Builds one page of the atlas.
-#ifndef ATLAS_PAGE_H
-#define ATLAS_PAGE_H
+#ifndef Page_H
+#define Page_H
 
 #include <cstddef>
 #include <memory>
@@ -25,7 +25,7 @@ struct Sheet {
     double textScale; // what suits A3 is too large for A4
 };
 
-struct PageSpec {
+struct PageLayout {
     const char* file;
     const char* title;
     Sheet sheet;
@@ -42,7 +42,8 @@ std::size_t CountLandColours();
 class PageBuilder {
 public:
     /// All arguments are borrowed; the fonts must outlive the page.
-    PageBuilder(const PageSpec& iSpec, const Topology& iTopology, VEKFont& ioTitleFont, VEKFont& ioLabelFont);
+    PageBuilder(const PageLayout& iLayout, const Topology& iTopology, VEKFont& ioTitleFont,
+                VEKFont& ioLabelFont);
 
     /// Of the country's largest polygon, in square millimetres; 0 for a country that the map does not show.
     double ShownArea(std::size_t iCountry) const { return _shown[iCountry].area; }
@@ -75,7 +76,7 @@ private:
     void AddScaleBar();
     void AddCredit();
 
-    const PageSpec& _spec;
+    const PageLayout& _layout;
     const Topology& _topology;
     VEKFont& _titleFont;
     VEKFont& _labelFont;

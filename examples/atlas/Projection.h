@@ -1,6 +1,6 @@
 // Map projections of a spherical earth.
-#ifndef ATLAS_PROJECTION_H
-#define ATLAS_PROJECTION_H
+#ifndef Projection_H
+#define Projection_H
 
 #include "Geometry.h"
 

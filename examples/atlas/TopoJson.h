@@ -1,6 +1,6 @@
 // Reads countries and the arcs that they share from TopoJSON.
-#ifndef ATLAS_TOPOJSON_H
-#define ATLAS_TOPOJSON_H
+#ifndef TopoJson_H
+#define TopoJson_H
 
 #include <cstddef>
 #include <string>

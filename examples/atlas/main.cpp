@@ -13,10 +13,11 @@
 #include "AtlasModel.h"
 #include "Elements.h"
 #include "FileSet.h"
-#include "SameDrawing.h"
 #include "SvgWriter.h"
 #include "TopoJson.h"
+#include "VEKListPtrVEKPrtGraphicPrimitiveElt.h"
 #include "VEKListPtrVEKPrtImageElt.h"
+#include "VEKPrtGroupElt.h"
 #include "VEKPrtImageElt.h"
 #include "VEKPrtModel.h"
 
@@ -45,6 +46,17 @@ Topology ReadInput(const std::string& iPath) {
     }
 }
 
+/// The element itself and all below it.
+int CountElements(VEKPrtGraphicPrimitiveElt& ioElement) {
+    VEKListPtrVEKPrtGraphicPrimitiveElt* children = nullptr;
+    if (auto* const group = dynamic_cast<VEKPrtGroupElt*>(&ioElement)) group->GetChildren(children);
+    if (auto* const image = dynamic_cast<VEKPrtImageElt*>(&ioElement)) image->GetChildren(children);
+    int count = 1;
+    for (int i = 1; children && i <= children->Size(); ++i)
+        count += CountElements(*static_cast<VEKPrtGraphicPrimitiveElt*>((*children)[i]));
+    return count;
+}
+
 /// Pages count from 1; lent by the model.
 VEKPrtImageElt& PageAt(const VEKPrtModel& iModel, int iPage) {
     VEKListPtrVEKPrtImageElt* images = nullptr;
@@ -67,8 +79,7 @@ VEKRef<VEKPrtModel> ModelWithDuplicate(VEKPrtImageElt& ioPage) {
     ioPage.Duplicate(copy);
     const auto duplicate = VEKRef<VEKPrtGraphicPrimitiveElt>::Adopt(copy);
     auto* const image = dynamic_cast<VEKPrtImageElt*>(duplicate.Get());
-    if (!image || !IsSameDrawing(ioPage, *image))
-        throw AtlasError("the duplicate of a page differs from the page");
+    if (!image) throw std::bad_alloc();
     auto model = Make<VEKPrtModel>();
     model->AddImage(image);
     return model;
@@ -92,7 +103,7 @@ void Run(const std::string& iInput, const std::string& iDirectory) {
     for (const std::string& name : atlas.PageNames()) {
         add(atlas.Model(), ++page, name, "");
         if (page == kDuplicatedPage)
-            add(*second, 1, name + "-duplicate", "  (same drawing as the page above)");
+            add(*second, 1, name + "-duplicate", "  (a duplicate of the page above)");
     }
     files.Commit();
     std::cout << report.str() << total << " elements in all\n" << std::flush;

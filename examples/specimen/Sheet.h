@@ -2,8 +2,7 @@
 #ifndef Sheet_H
 #define Sheet_H
 
-#include <utility>
-
+#include "Make.h"
 #include "Specimen.h"
 #include "VEKPrtGroupElt.h"
 #include "VEKPrtImageElt.h"
@@ -14,12 +13,6 @@
 struct Palette {
     unsigned ink, grey, faint, red, teal, ochre, blue, paper;
 };
-
-/// A new element, its one reference held.
-template <class Element, class... Arguments>
-VEKRef<Element> Make(Arguments&&... iArguments) {
-    return VEKRef<Element>::Adopt(new Element(std::forward<Arguments>(iArguments)...));
-}
 
 VEKPrtStrokeAttributes Stroke(unsigned iColour, double iWidth);
 VEKPrtFillAttributes Fill(unsigned iColour);
