@@ -8,9 +8,10 @@
 /// Declares the seven members by which the framework identifies an element class at run time.
 ///
 /// The first call of any of them but CreateItself registers the class and fills its cache, the exported
-/// variable meta_object__<length of the name><name>; the cache is never cleared.  ClassName and IsA yield the
-/// same string; both and ClassId yield null, and IsAKindOf 0, while the class could not be registered
-/// because memory is out.  CreateItself always yields null: no element is created by name.
+/// variable meta_object__ followed by the length of the name and the name; the cache is never cleared.
+/// ClassName and IsA yield the same string; both and ClassId yield null, and IsAKindOf 0, while the class
+/// could not be registered because memory is out.  CreateItself always yields null: no element is created
+/// by name.
 #define VEKPRT_DECLARE_META_FAMILY                                                                           \
     static VEKMetaClass* MetaObject();                                                                       \
     static const char* ClassId();                                                                            \

@@ -71,6 +71,7 @@ void VEKPrtFillAttributes::SetPattern(VEKPixelImage* iImage, const VEKMathVector
     _firstVector = iFirst;
     _secondVector = iSecond;
 }
+
 void VEKPrtFillAttributes::GetPattern(VEKPixelImage*& oImage, VEKMathVector2D& oFirst,
                                       VEKMathVector2D& oSecond) {
     oImage = _image;

@@ -6,6 +6,7 @@
 VEKPRT_IMPLEMENT_ELEMENT(VEKPrtBitmapImageElt, 20)
 
 VEKPrtBitmapImageElt::VEKPrtBitmapImageElt() = default;
+
 VEKPrtBitmapImageElt::VEKPrtBitmapImageElt(const VEKMathPoint2D& iOrigin, double iWidth, double iHeight,
                                            double iOrientation, VEKPixelImage* iImage)
     : _origin(iOrigin), _width(iWidth), _height(iHeight), _orientation(static_cast<float>(iOrientation)) {
@@ -49,6 +50,7 @@ void VEKPrtBitmapImageElt::SetSize(double iWidth, double iHeight) {
     _width = iWidth;
     _height = iHeight;
 }
+
 void VEKPrtBitmapImageElt::GetSize(double& oWidth, double& oHeight) const {
     oWidth = _width;
     oHeight = _height;
@@ -71,6 +73,7 @@ void VEKPrtBitmapImageElt::SetParameters(const VEKMathPoint2D& iOrigin, double i
     if (iImage && iImage == _image) _image->Release();
     _image = iImage;
 }
+
 void VEKPrtBitmapImageElt::GetParameters(VEKMathPoint2D& oOrigin, double& oWidth, double& oHeight,
                                          double& oOrientation, VEKPixelImage*& oImage) const {
     oOrigin = _origin;

@@ -47,6 +47,7 @@ void VEKPrtImageElt::SetSize(double iWidth, double iHeight) {
     _width = iWidth;
     _height = iHeight;
 }
+
 void VEKPrtImageElt::GetSize(double& oWidth, double& oHeight) const {
     oWidth = _width;
     oHeight = _height;

@@ -18,6 +18,7 @@ std::int64_t KnotCount(int iOrder, int iCount) { return std::int64_t{iOrder} + i
 VEKPRT_IMPLEMENT_ELEMENT(VEKPrtNURBSElt, 14)
 
 VEKPrtNURBSElt::VEKPrtNURBSElt() = default;
+
 VEKPrtNURBSElt::VEKPrtNURBSElt(int iOrder, int iCount, const double* iControlPoints, const double* iKnots,
                                float iFirstBound, float iSecondBound, const double* iWeights)
     : _order(iOrder), _count(iCount), _firstBound(iFirstBound), _secondBound(iSecondBound) {
@@ -132,6 +133,7 @@ void VEKPrtNURBSElt::SetParameters(int iOrder, int iCount, const double* iContro
     for (double* array : unused)
         vekprt::DeleteArray(array);
 }
+
 void VEKPrtNURBSElt::GetParameters(int& oOrder, int& oCount, double*& oControlPoints, double*& oKnots,
                                    float& oFirstBound, float& oSecondBound, double*& oWeights) const {
     oOrder = _order;

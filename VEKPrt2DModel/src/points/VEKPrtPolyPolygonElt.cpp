@@ -1,11 +1,11 @@
 #include "VEKPrtPolyPolygonElt.h"
 
-#include "ElementProtocol.h"
 #include <algorithm>
 #include <cstdint>
 #include <limits>
 #include <numeric>
 
+#include "ElementProtocol.h"
 #include "OwnedArray.h"
 
 namespace {
@@ -22,6 +22,7 @@ std::int64_t Total(const int* iCounts, int iPolygonCount) {
 VEKPRT_IMPLEMENT_ELEMENT(VEKPrtPolyPolygonElt, 20)
 
 VEKPrtPolyPolygonElt::VEKPrtPolyPolygonElt() = default;
+
 VEKPrtPolyPolygonElt::VEKPrtPolyPolygonElt(const double* iPoints, const int* iCounts, int iPolygonCount)
     : _polygonCount(iPolygonCount) {
     FillArrays(iPoints, unlimited, iCounts, iPolygonCount, false);
@@ -89,6 +90,7 @@ void VEKPrtPolyPolygonElt::SetPoints(const double* iPoints, const int* iCounts, 
     vekprt::DeleteArray(oldPoints);
     vekprt::DeleteArray(oldCounts);
 }
+
 void VEKPrtPolyPolygonElt::GetPoints(double*& oPoints, int*& oCounts, int& oPolygonCount) const {
     oPoints = _points;
     oCounts = _counts;

@@ -33,6 +33,7 @@ void VEKPrtCircleElt::SetParameters(const VEKMathPoint2D& iCenter, double iRadiu
     _center = iCenter;
     _radius = iRadius;
 }
+
 void VEKPrtCircleElt::GetParameters(VEKMathPoint2D& oCenter, double& oRadius) const {
     oCenter = _center;
     oRadius = _radius;

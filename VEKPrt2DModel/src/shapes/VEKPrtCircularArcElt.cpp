@@ -43,6 +43,7 @@ void VEKPrtCircularArcElt::SetParameters(const VEKMathPoint2D& iCenter, double i
     _startAngle = iStartAngle;
     _endAngle = iEndAngle;
 }
+
 void VEKPrtCircularArcElt::GetParameters(VEKMathPoint2D& oCenter, double& oRadius, float& oStartAngle,
                                          float& oEndAngle) const {
     oCenter = _center;

@@ -43,6 +43,7 @@ void VEKPrtEllipseElt::SetParameters(const VEKMathPoint2D& iCenter, double iHorz
     _vertRadius = iVertRadius;
     _slope = iSlope;
 }
+
 void VEKPrtEllipseElt::GetParameters(VEKMathPoint2D& oCenter, double& oHorzRadius, double& oVertRadius,
                                      float& oSlope) const {
     oCenter = _center;

@@ -54,6 +54,7 @@ void VEKPrtEllipticalArcElt::SetParameters(const VEKMathPoint2D& iCenter, double
     _endAngle = iEndAngle;
     _slope = iSlope;
 }
+
 void VEKPrtEllipticalArcElt::GetParameters(VEKMathPoint2D& oCenter, double& oHorzRadius, double& oVertRadius,
                                            float& oStartAngle, float& oEndAngle, float& oSlope) const {
     oCenter = _center;

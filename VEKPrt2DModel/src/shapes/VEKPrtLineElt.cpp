@@ -30,9 +30,11 @@ void VEKPrtLineElt::SetParameters(const VEKMathPoint2D& iStart, const VEKMathPoi
     _startPoint = iStart;
     _endPoint = iEnd;
 }
+
 void VEKPrtLineElt::GetParameters(VEKMathPoint2D& oStart, VEKMathPoint2D& oEnd) const {
     oStart = _startPoint;
     oEnd = _endPoint;
 }
+
 VEKPRT_IMPLEMENT_RECORD(VEKPrtLineElt, StrokeAttributes, _stroke)
 VEKPRT_IMPLEMENT_RECORD(VEKPrtLineElt, TransformAttributes, _transform)

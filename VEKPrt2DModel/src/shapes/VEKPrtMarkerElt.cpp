@@ -30,10 +30,12 @@ void VEKPrtMarkerElt::SetParameters(const VEKMathPoint2D& iPoint, double iSize) 
     _point = iPoint;
     _size = iSize;
 }
+
 void VEKPrtMarkerElt::GetParameters(VEKMathPoint2D& oPoint, double& oSize) const {
     oPoint = _point;
     oSize = _size;
 }
+
 VEKPRT_IMPLEMENT_RECORD(VEKPrtMarkerElt, MarkerAttributes, _marker)
 VEKPRT_IMPLEMENT_RECORD(VEKPrtMarkerElt, StrokeAttributes, _stroke)
 VEKPRT_IMPLEMENT_RECORD(VEKPrtMarkerElt, TransformAttributes, _transform)

@@ -29,6 +29,7 @@ void VEKPrtRectangleElt::SetPoints(const VEKMathPoint2D& iFirst, const VEKMathPo
     _firstCorner = iFirst;
     _secondCorner = iSecond;
 }
+
 void VEKPrtRectangleElt::GetPoints(VEKMathPoint2D& oFirst, VEKMathPoint2D& oSecond) const {
     oFirst = _firstCorner;
     oSecond = _secondCorner;

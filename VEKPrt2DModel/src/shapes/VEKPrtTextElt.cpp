@@ -36,6 +36,7 @@ void VEKPrtTextElt::SetParameters(const VEKMathPoint2D& iPosition, const VEKUnic
     _position = iPosition;
     _text = iText;
 }
+
 void VEKPrtTextElt::GetParameters(VEKMathPoint2D& oPosition, VEKUnicodeString& oText) const {
     oPosition = _position;
     oText = _text;
