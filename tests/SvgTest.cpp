@@ -3,12 +3,13 @@
 #include <libxml/xpath.h>
 #include <libxml/xpathInternals.h>
 
+#include <algorithm>
 #include <cmath>
-#include <functional>
-#include <map>
+#include <fstream>
 #include <set>
 #include <sstream>
 
+#include "AtlasModel.h"
 #include "Nurbs.h"
 #include "Specimen.h"
 #include "SvgWriter.h"
@@ -78,17 +79,59 @@ struct Page {
     }
 };
 
-// How often each class stands in a tree, closed figures counting as one.
-void CountClasses(const VEKListPtrVEKPrtGraphicPrimitiveElt* iList, std::map<std::string, int>& ioCounts) {
+// Gives every element below a list an identifier of its own, and counts the classes.  Regions and what is in
+// them are drawn as one path with their figure.
+void Identify(const VEKListPtrVEKPrtGraphicPrimitiveElt* iList, std::set<std::string>& ioIds,
+              std::set<std::string>& ioClasses) {
     for (int i = 1; iList && i <= iList->Size(); ++i) {
         auto* const element = static_cast<VEKPrtGraphicPrimitiveElt*>((*iList)[i]);
-        ++ioCounts[element->IsA()];
+        ioClasses.insert(element->IsA());
+        const std::string id = "element-" + std::to_string(ioIds.size());
+        if (ioIds.count(Id(*element)) == 0) {
+            element->SetID(id.c_str());
+            ioIds.insert(id);
+        }
         VEKListPtrVEKPrtGraphicPrimitiveElt* children = nullptr;
         if (auto* const group = dynamic_cast<VEKPrtGroupElt*>(element)) group->GetChildren(children);
         if (auto* const symbol = dynamic_cast<VEKPrtSymbolElt*>(element)) symbol->GetChildren(children);
         if (auto* const pattern = dynamic_cast<VEKPrtPatternElt*>(element)) pattern->GetChildren(children);
-        CountClasses(children, ioCounts);
+        Identify(children, ioIds, ioClasses);
     }
+}
+
+// Every element of the page stands in the document once, and in colours of the page's table.
+void ExpectWholePage(const VEKPrtModel& iModel, int iPage, std::size_t iClasses) {
+    VEKListPtrVEKPrtImageElt* images = nullptr;
+    iModel.GetImages(images);
+    auto* const page = static_cast<VEKPrtImageElt*>((*images)[iPage]);
+    std::set<std::string> ids, classes, colours = {"none", ""};
+    Identify(ChildrenOf(*page), ids, classes);
+    EXPECT_EQ(classes.size(), iClasses);
+
+    std::ostringstream text, warnings;
+    ASSERT_TRUE(WriteSvg(iModel, iPage, text, warnings));
+    EXPECT_EQ(warnings.str(), "");
+    const Document document(text.str());
+    for (const std::string& id : ids)
+        EXPECT_EQ(document.Count("//*[@id='" + id + "']"), 1) << id;
+
+    VEKPrtColourTable* table = nullptr;
+    page->GetColourTable(table);
+    int colourCount = 0;
+    table->GetColourCount(colourCount);
+    for (int i = 0; i < colourCount; ++i) {
+        unsigned char rgb[3];
+        table->GetColour(static_cast<unsigned>(i), rgb[0], rgb[1], rgb[2]);
+        char name[8];
+        std::snprintf(name, sizeof name, "#%02x%02x%02x", rgb[0], rgb[1], rgb[2]);
+        colours.insert(name);
+    }
+    for (const char* const attribute : {"//@stroke", "//@fill[not(starts-with(., 'url'))]"})
+        for (const std::string& used : document.All(attribute))
+            EXPECT_EQ(colours.count(used), 1U) << used;
+    for (const std::string& reference : document.All("//@fill[starts-with(., 'url')] | //@clip-path"))
+        EXPECT_EQ(document.Count("//*[@id='" + reference.substr(5, reference.size() - 6) + "']"), 1)
+            << reference;
 }
 
 template <class Element>
@@ -175,12 +218,113 @@ TEST(Svg, AttributesAreTheRecords) {
 TEST(Svg, SurvivesACycle) {
     Page page;
     const auto outer = Make<VEKPrtGroupElt>(), inner = Make<VEKPrtGroupElt>();
-    outer->AddChild(inner.Get());
-    inner->AddChild(outer.Get());
+    for (int i = 0; i < 2; ++i)
+        outer->AddChild(inner.Get());
+    for (int i = 0; i < 2; ++i)
+        inner->AddChild(outer.Get());
     page.image->AddChild(outer.Get());
-    Document document(page.Text());
+    const Document document(page.Text());
+    EXPECT_EQ(document.Count("//s:g"), 4) << "the page, the outer group and the inner one twice";
     EXPECT_NE(page.warnings, "");
-    inner->RemoveChild(outer.Get());
+    for (int i = 0; i < 2; ++i)
+        inner->RemoveChild(outer.Get());
+}
+
+TEST(Svg, IdentifiersStandOnce) {
+    Page page;
+    const auto group = Make<VEKPrtGroupElt>(), other = Make<VEKPrtGroupElt>();
+    const auto symbol = Make<VEKPrtSymbolElt>(VEKMathPoint2D(), 1.0, 1.0);
+    group->SetID("svg-clip-1");
+    other->SetID("twice");
+    page.image->AddChild(group.Get());
+    for (int i = 0; i < 2; ++i)
+        page.image->AddChild(other.Get());
+    page.image->AddChild(symbol.Get());
+    const Document document(page.Text());
+    EXPECT_EQ(document.Count("//*[@id='twice']"), 1);
+    EXPECT_EQ(document.Count("//*[@id='svg-clip-1']"), 1);
+    EXPECT_EQ(document.Count("//s:clipPath[concat('url(#', @id, ')') = //s:g/@clip-path]"), 1);
+}
+
+TEST(Svg, TextKeepsItsOwnWhiteSpaceOnly) {
+    Page page;
+    const auto text = Make<VEKPrtTextElt>(VEKMathPoint2D(1, 2), VEKUnicodeString(" a  b "));
+    text->SetTitle("title");
+    VEKPrtTextAttributes attributes;
+    attributes.SetAnchor(VEKPrintTextAnchorMiddleCentre);
+    text->SetTextAttributes(attributes);
+    page.image->AddChild(text.Get());
+    EXPECT_EQ(Document(page.Text()).String("//s:text"), "title a  b ");
+    EXPECT_NEAR(std::stod(Document(page.Text()).String("//s:text/@y")), 3.6, 1e-9);
+    attributes.SetWritingMode(VEKPrtTextVertical);
+    text->SetTextAttributes(attributes);
+    text->SetText("Ae\u0301");
+    const Document vertical(page.Text());
+    EXPECT_EQ(vertical.Count("//s:tspan"), 2) << "an accent stays with its letter";
+    EXPECT_EQ(vertical.String("//s:text"), "titleAe\u0301");
+    EXPECT_NEAR(std::stod(vertical.String("//s:text/@y")), -1.4, 1e-9) << "the middle of the column";
+}
+
+TEST(Svg, FixedWidthsWithstandTransforms) {
+    Page page;
+    const auto group = Make<VEKPrtGroupElt>();
+    VEKPrtTransformAttributes transform;
+    transform.AddScaleX(8.0);
+    transform.AddScaleY(2.0);
+    group->SetTransformAttributes(transform);
+    for (const auto style : {VEKPrintLineStyleScaled, VEKPrintLineStyleFixed}) {
+        const auto line = Make<VEKPrtLineElt>();
+        VEKPrtStrokeAttributes stroke;
+        stroke.SetStrokeWidth(2.0);
+        stroke.SetStrokeStyle(style);
+        stroke.SetStrokeType(VEKPrintLineTypeDotted);
+        line->SetStrokeAttributes(stroke);
+        group->AddChild(line.Get());
+    }
+    page.image->AddChild(group.Get());
+    const Document document(page.Text());
+    EXPECT_EQ(document.String("//s:line[1]/@stroke-width"), "2");
+    EXPECT_EQ(document.String("//s:line[2]/@stroke-width"), "0.5");
+    EXPECT_EQ(document.String("//s:line[2]/@stroke-dasharray"), "0.5 1");
+}
+
+TEST(Svg, FiguresTurnPrimitivesThatRunTheOtherWay) {
+    Page page;
+    const auto figure = Make<VEKPrtClosedFigureElt>();
+    const auto region = Make<VEKPrtClosedFigureRegionElt>();
+    const double quadratic[] = {6, 0, 5, 5, 4, 0};
+    // Along the x axis; the second line and the curve are given from right to left.
+    region->AddChild(Make<VEKPrtLineElt>(VEKMathPoint2D(0, 0), VEKMathPoint2D(2, 0)).Get());
+    region->AddChild(Make<VEKPrtLineElt>(VEKMathPoint2D(4, 0), VEKMathPoint2D(2, 0)).Get());
+    region->AddChild(Make<VEKPrtPolyQuadraticBezierElt>(quadratic, 3).Get());
+    region->AddChild(Make<VEKPrtLineElt>(VEKMathPoint2D(8, 1), VEKMathPoint2D(9, 1)).Get());
+    VEKPrtTransformAttributes transform;
+    transform.AddScaleX(10.0);
+    region->SetTransformAttributes(transform);
+    figure->AddChild(region.Get());
+    page.image->AddChild(figure.Get());
+    EXPECT_EQ(Document(page.Text()).String("//s:path/@d"), "M0,0 L20,0 L40,0 Q50,5 60,0 L80,1 L90,1 Z");
+}
+
+TEST(Svg, LeavesOutWhatCannotBeDrawn) {
+    Page page;
+    const double bad[] = {0, 0, NAN, 1}, good[] = {0, 0, 1, 1};
+    const int counts[] = {2};
+    const VEKMathPoint2D nowhere(INFINITY, 0);
+    const VEKRef<VEKPrtGraphicPrimitiveElt> elements[] = {
+        VEKRef<VEKPrtGraphicPrimitiveElt>::Adopt(new VEKPrtPolylineElt(bad, 2)),
+        VEKRef<VEKPrtGraphicPrimitiveElt>::Adopt(new VEKPrtPolyPolygonElt(bad, counts, 1)),
+        VEKRef<VEKPrtGraphicPrimitiveElt>::Adopt(new VEKPrtLineElt(nowhere, nowhere)),
+        VEKRef<VEKPrtGraphicPrimitiveElt>::Adopt(new VEKPrtCircularArcElt(nowhere, 1.0, 0.0F, NAN)),
+        VEKRef<VEKPrtGraphicPrimitiveElt>::Adopt(new VEKPrtTextElt(nowhere, VEKUnicodeString("x"))),
+        VEKRef<VEKPrtGraphicPrimitiveElt>::Adopt(new VEKPrtRectangleElt(nowhere, nowhere)),
+        VEKRef<VEKPrtGraphicPrimitiveElt>::Adopt(new VEKPrtPolylineElt(good, 2)),
+    };
+    for (const auto& element : elements)
+        page.image->AddChild(element.Get());
+    const Document document(page.Text());
+    EXPECT_EQ(document.Count("//s:g/*"), 1);
+    EXPECT_EQ(std::count(page.warnings.begin(), page.warnings.end(), '\n'), 6) << page.warnings;
 }
 
 TEST(Svg, NumbersRoundTrip) {
@@ -234,55 +378,19 @@ TEST(Nurbs, RefusesNonsense) {
     }
 }
 
-TEST(SpecimenSheet, HoldsEveryElementOnceInItsOwnColours) {
+TEST(SpecimenSheet, IsPlottedWhole) {
     const Specimen specimen = BuildSpecimen();
-    std::ostringstream text, warnings;
-    ASSERT_TRUE(WriteSvg(*specimen.model, 1, text, warnings));
-    EXPECT_EQ(warnings.str(), "");
-    const Document document(text.str());
+    // All classes but the base, the page and the figure's regions.
+    ExpectWholePage(*specimen.model, 1, 20);
+}
 
-    VEKListPtrVEKPrtImageElt* images = nullptr;
-    specimen.model->GetImages(images);
-    auto* const page = static_cast<VEKPrtImageElt*>((*images)[1]);
-    std::map<std::string, int> counts;
-    CountClasses(ChildrenOf(*page), counts);
-    EXPECT_EQ(counts.size(), 20U) << "all but the base, the page and the figure's regions";
-    const auto sum = [&](std::initializer_list<const char*> iNames) {
-        int total = 0;
-        for (const char* const name : iNames)
-            total += counts[std::string("VEKPrt") + name + "Elt"];
-        return total;
-    };
-    EXPECT_EQ(document.Count("//s:line"), sum({"Line"}));
-    EXPECT_EQ(document.Count("//s:circle"), sum({"Circle"}));
-    EXPECT_EQ(document.Count("//s:ellipse"), sum({"Ellipse"}));
-    EXPECT_EQ(document.Count("//s:text"), sum({"Text"}));
-    EXPECT_EQ(document.Count("//s:image[not(parent::s:pattern)]"), sum({"BitmapImage"}));
-    EXPECT_EQ(document.Count("//s:a"), 1);
-    EXPECT_EQ(document.Count("//s:rect[not(parent::s:clipPath)]"), sum({"Rectangle"}) + sum({"Pattern"}));
-    EXPECT_EQ(document.Count("//s:clipPath"), sum({"Symbol"}));
-    EXPECT_EQ(document.Count("//s:pattern[not(s:image)]"), sum({"Pattern"}));
-    EXPECT_EQ(document.Count("//s:path"),
-              sum({"CircularArc", "EllipticalArc", "Polyline", "Polygon", "DisjointPolyline", "PolyPolygon",
-                   "PolyCubicBezier", "PolyQuadraticBezier", "NURBS", "Marker", "ClosedFigure"}));
-
-    VEKPrtColourTable* table = nullptr;
-    page->GetColourTable(table);
-    int colourCount = 0;
-    table->GetColourCount(colourCount);
-    std::set<std::string> colours = {"none", ""};
-    for (int i = 0; i < colourCount; ++i) {
-        unsigned char rgb[3];
-        table->GetColour(static_cast<unsigned>(i), rgb[0], rgb[1], rgb[2]);
-        char name[8];
-        std::snprintf(name, sizeof name, "#%02x%02x%02x", rgb[0], rgb[1], rgb[2]);
-        colours.insert(name);
-    }
-    for (const char* const attribute : {"//@stroke", "//@fill[not(starts-with(., 'url'))]"})
-        for (const std::string& used : document.All(attribute))
-            EXPECT_EQ(colours.count(used), 1U) << used;
-    for (const std::string& id : document.All("//@fill[starts-with(., 'url')]"))
-        EXPECT_EQ(document.Count("//*[@id='" + id.substr(5, id.size() - 6) + "']"), 1) << id;
+TEST(AtlasPages, ArePlottedWhole) {
+    std::ifstream file(EXAMPLE_DATA "/countries-110m.json");
+    std::ostringstream text;
+    text << file.rdbuf();
+    const Atlas atlas(ReadTopology(text.str()));
+    for (const int page : {1, 6})
+        ExpectWholePage(atlas.Model(), page, 6);
 }
 
 TEST(SpecimenSheet, DuplicateDrawsTheSame) {

@@ -1,5 +1,6 @@
 #include "AtlasModel.h"
 
+#include <algorithm>
 #include <memory>
 
 #include "Colouring.h"
@@ -25,33 +26,43 @@ constexpr PageLayout kPages[] = {
     {"antarctica", "ANTARCTICA", kA4Landscape, {0.0, -90.0}, 36e6, 10.0, false},
 };
 
-/// Where a click on a country leads: from the world to the region that shows most of it, and back.
+/// Where a click on a country leads: from the world to the region that shows most of it, and of those that
+/// show it as a whole to the one in whose middle it lies; from a region back to the world.
 class Links {
 public:
-    explicit Links(std::size_t iCountries) : _areas(iCountries), _regions(iCountries) {}
+    explicit Links(std::size_t iCountries) : _best(iCountries) {}
 
-    void Note(std::size_t iCountry, const PageLayout& iRegion, double iArea) {
-        // On the ground: areas on paper would favour the maps of larger scale.  Of regions that show a
-        // country as a whole, rounding must not choose.
+    void Note(std::size_t iCountry, const PageLayout& iRegion, double iArea, double iOffset) {
+        // On the ground: areas on paper would favour the maps of larger scale.
         const double ground = iArea * iRegion.scale * iRegion.scale;
-        if (ground <= _areas[iCountry] * 1.001) return;
-        _areas[iCountry] = ground;
-        _regions[iCountry] = iRegion.file;
+        Best& best = _best[iCountry];
+        constexpr double rounding = 1.01;
+        if (ground <= 0.0 || ground * rounding < best.ground) return;
+        if (ground < best.ground * rounding && iOffset >= best.offset) return;
+        best = {ground, iOffset, iRegion.file};
     }
 
     std::vector<const char*> For(const PageLayout& iLayout) const {
-        return iLayout.isWorld ? _regions : std::vector<const char*>(_regions.size(), kPages[0].file);
+        std::vector<const char*> links(_best.size(), kPages[0].file);
+        if (iLayout.isWorld)
+            std::transform(_best.begin(), _best.end(), links.begin(),
+                           [](const Best& iBest) { return iBest.file; });
+        return links;
     }
 
 private:
-    std::vector<double> _areas;
-    std::vector<const char*> _regions; // null for a country that only the world shows
+    struct Best {
+        double ground = 0.0;
+        double offset = 0.0;
+        const char* file = nullptr; // of a country that only the world shows
+    };
+    std::vector<Best> _best;
 };
 
 } // namespace
 
 Atlas::Atlas(const Topology& iTopology)
-    : _titleFont("DejaVu Serif"), _labelFont("DejaVu Sans"), _model(Make<VEKPrtModel>()) {
+    : _titleFont("DejaVu Serif, serif"), _labelFont("DejaVu Sans, sans-serif"), _model(Make<VEKPrtModel>()) {
     // All pages lay out their countries before any is built: the world links to the others.
     const std::size_t count = iTopology.countries.size();
     std::vector<std::unique_ptr<PageBuilder>> builders;
@@ -59,7 +70,7 @@ Atlas::Atlas(const Topology& iTopology)
     for (const PageLayout& layout : kPages) {
         builders.push_back(std::make_unique<PageBuilder>(layout, iTopology, _titleFont, _labelFont));
         for (std::size_t i = 0; i < count && !layout.isWorld; ++i)
-            links.Note(i, layout, builders.back()->ShownArea(i));
+            links.Note(i, layout, builders.back()->ShownArea(i), builders.back()->ShownOffset(i));
         _pageNames.emplace_back(layout.file);
     }
     const std::vector<std::size_t> colours = ColourCountries(iTopology, CountLandColours());

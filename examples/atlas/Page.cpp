@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cctype>
 #include <cmath>
-#include <map>
 #include <new>
+#include <set>
 
 #include "Elements.h"
 #include "Labels.h"
@@ -47,12 +47,14 @@ public:
         std::string id = "country-" + iCountry.id;
         std::replace_if(
             id.begin(), id.end(), [](unsigned char c) { return !std::isalnum(c) && c != '-'; }, '-');
-        const int count = ++_seen[id];
-        return count == 1 ? id : id + "-" + std::to_string(count);
+        std::string name = id;
+        for (int count = 2; !_taken.insert(name).second; ++count)
+            name = id + "-" + std::to_string(count);
+        return name;
     }
 
 private:
-    std::map<std::string, int> _seen;
+    std::set<std::string> _taken;
 };
 
 std::unique_ptr<Projection> ProjectionFor(const PageLayout& iLayout) {
@@ -104,6 +106,16 @@ PageBuilder::Shown PageBuilder::Show(const Country& iCountry) const {
         }
     }
     return shown;
+}
+
+double PageBuilder::ShownOffset(std::size_t iCountry) const {
+    Path points;
+    for (const Path& ring : _shown[iCountry].largest)
+        points.insert(points.end(), ring.begin(), ring.end());
+    const Box frame = FrameOf(_layout);
+    const Point centre = BoundsOf(points).Centre();
+    return std::hypot((centre.x - frame.Centre().x) / frame.Width(),
+                      (centre.y - frame.Centre().y) / frame.Height());
 }
 
 VEKRef<VEKPrtImageElt> PageBuilder::Build(const std::vector<std::size_t>& iColours,

@@ -48,6 +48,9 @@ public:
     /// Of the country's largest polygon, in square millimetres; 0 for a country that the map does not show.
     double ShownArea(std::size_t iCountry) const { return _shown[iCountry].area; }
 
+    /// How far from the middle of the map that polygon lies, in widths and heights of the map.
+    double ShownOffset(std::size_t iCountry) const;
+
     /// \p iColours and \p iLinks are by country.  A link is the name of another page, or null.  Meant to be
     /// called once.
     VEKRef<VEKPrtImageElt> Build(const std::vector<std::size_t>& iColours,

@@ -95,6 +95,31 @@ void DrawWidths(const Cell& c) {
     }
 }
 
+// Lines of one width, as they are and in groups that are enlarged.
+void DrawStrokeStyles(const Cell& c) {
+    c.Text(5, 38, "scaled", 2.6);
+    c.Text(28, 38, "fixed", 2.6);
+    for (int row = 0; row < 3; ++row) {
+        const double scale = 1 + 1.5 * row, y = 31 - 11 * row;
+        for (int style = 0; style < 2; ++style) {
+            const auto group = Make<VEKPrtGroupElt>();
+            VEKPrtTransformAttributes transform;
+            transform.AddTranslation(VEKMathVector2D(style == 0 ? 5 : 28, y));
+            transform.AddScaleX(scale);
+            transform.AddScaleY(scale);
+            group->SetTransformAttributes(transform);
+            const auto line = Make<VEKPrtLineElt>(Point(0, 0), Point(17 / scale, 0));
+            VEKPrtStrokeAttributes stroke = Stroke(c.palette.blue, 0.8);
+            stroke.SetStrokeStyle(style == 0 ? VEKPrintLineStyleScaled : VEKPrintLineStyleFixed);
+            line->SetStrokeAttributes(stroke);
+            group->AddChild(line.Get());
+            c.Add(group);
+        }
+        static const char* const names[] = {"0.8, scale 1", "0.8, scale 2.5", "0.8, scale 4"};
+        c.Text(25, y - 5, names[row], 1.9, VEKPrintTextAnchorBaselineCentre);
+    }
+}
+
 void DrawStrokeTransparency(const Cell& c) {
     c.AddPainted(Make<VEKPrtRectangleElt>(Point(5, 18), Point(45, 24)), c.palette.ink, c.palette.ink,
                  VEKPrtDrawInterior);
@@ -194,22 +219,23 @@ void DrawAnchors(const Cell& c) {
             c.Text(x, y, "Hxg", 4, static_cast<VEKPrintTextAttribute>(anchor));
             c.Mark(x, y);
         }
-        c.Text(15, y - 6.5, names[row], 1.9, VEKPrintTextAnchorBaselineCentre);
+        c.Text(25, y - 6, names[row], 1.9, VEKPrintTextAnchorBaselineCentre);
     }
 }
 
 void DrawWeights(const Cell& c) {
     static const char* const names[] = {"Light", "Regular", "Medium", "Bold", "Black"};
+    c.Text(25, 38.5, "each as near as the font has it", 1.9, VEKPrintTextAnchorBaselineCentre);
     for (int i = 0; i < 5; ++i)
-        Cell::Retouch(c.Text(25, 33 - 7.2 * i, names[i], 5, VEKPrintTextAnchorBaselineCentre),
+        Cell::Retouch(c.Text(25, 31 - 7 * i, names[i], 5, VEKPrintTextAnchorBaselineCentre),
                       [&](VEKPrtTextAttributes& ioText) {
                           ioText.SetWeight(static_cast<VEKPrintTextAttribute>(VEKPrintTextWeightLight + i));
                       });
 }
 
 void DrawSlantDirection(const Cell& c) {
-    Cell::Retouch(c.Text(5, 30, "slant 15", 5), [](VEKPrtTextAttributes& ioText) { ioText.SetSlant(15.0F); });
-    Cell::Retouch(c.Text(28, 30, "slant −15", 4),
+    Cell::Retouch(c.Text(4, 30, "slant 15", 4), [](VEKPrtTextAttributes& ioText) { ioText.SetSlant(15.0F); });
+    Cell::Retouch(c.Text(27, 30, "slant −15", 4),
                   [](VEKPrtTextAttributes& ioText) { ioText.SetSlant(-15.0F); });
     c.Mark(25, 6);
     for (const int angle : {0, 45, 90, 135}) {
@@ -303,6 +329,7 @@ const CellContent g_attributeCells[] = {
     {"line-types", "Line types", "SetStrokeType", DrawLineTypes},
     {"dash-pattern", "Dash pattern", "SetStrokeTypePattern", DrawDashPattern},
     {"widths", "Line widths", "SetStrokeWidth", DrawWidths},
+    {"stroke-styles", "Line styles", "SetStrokeStyle", DrawStrokeStyles},
     {"stroke-transparency", "Stroke transparency", "SetStrokeColourTransparency", DrawStrokeTransparency},
     {"fill-transparency", "Fill transparency", "SetFillColourTransparency", DrawFillTransparency},
     {"fill-rules", "Fill rules", "SetFillRule", DrawFillRules},

@@ -170,24 +170,24 @@ void DrawText(const Cell& c) {
 }
 
 void DrawBitmap(const Cell& c) {
+    // Ripples round a point off the middle, so that a turned picture shows it.
     constexpr int size = 96;
-    const auto image = VEKRef<VEKPixelImage>::Adopt(new VEKPixelImage(size, size));
+    const auto image = Make<VEKPixelImage>(size, size);
     for (int y = 0; y < size; ++y) {
         for (int x = 0; x < size; ++x) {
-            const double u = (x - size / 2.0) / (size / 2.0), v = (size / 2.0 - y) / (size / 2.0);
-            const double r = std::hypot(u, v);
-            const double height = std::sin(9 * r) / (1 + r);
+            const double r = std::hypot(x - 0.3 * size, y - 0.35 * size) / size;
+            const double height = std::sin(18 * r) / (1 + 2 * r);
             const auto shade = [&](double iLow, double iHigh) {
                 return static_cast<unsigned char>(
                     std::clamp(iLow + (iHigh - iLow) * (height + 1) / 2, 0.0, 255.0));
             };
-            image->SetPixel(x, y, shade(16, 240), shade(90, 225), shade(120, 190), r < 1 ? 255 : 0);
+            image->SetPixel(x, y, shade(16, 240), shade(90, 225), shade(120, 190));
         }
     }
     c.Add(Make<VEKPrtBitmapImageElt>(Point(5, 6), 26.0, 30.0, 0.0, image.Get()));
-    c.Add(Make<VEKPrtBitmapImageElt>(Point(39, 8), 13.0, 13.0, 30.0, image.Get()));
-    c.Text(40, 32, "turned 30°", 2.2, VEKPrintTextAnchorBaselineCentre);
-    c.Mark(39, 8);
+    c.Add(Make<VEKPrtBitmapImageElt>(Point(38.5, 9), 11.0, 11.0, 30.0, image.Get()));
+    c.Text(40.5, 28, "turned 30°", 2.2, VEKPrintTextAnchorBaselineCentre);
+    c.Mark(38.5, 9);
 }
 
 void DrawGroup(const Cell& c) {
@@ -281,6 +281,7 @@ void DrawClosedFigure(const Cell& c) {
     hole->AddChild(Make<VEKPrtCircleElt>(Point(33, 25), 6.0).Get());
     figure->AddChild(hole.Get());
     c.AddPainted(figure, c.palette.ink, c.palette.blue, VEKPrtDrawBoth, 0.6);
+    c.Text(47, 1.4, "three VEKPrtClosedFigureRegionElt", 1.9, VEKPrintTextAnchorBaselineRight);
 }
 
 } // namespace

@@ -58,20 +58,20 @@ void DrawBorder(const Cell& c) {
 
 void DrawTitleBlock(const Cell& c, double iWidth, int iCells) {
     const auto bold = [](VEKPrtTextAttributes& ioText) { ioText.SetWeight(VEKPrintTextWeightBold); };
-    for (const double y : {14.0, 34.0})
+    for (const double y : {14.0, 38.0})
         c.Line(0, y, iWidth, y, c.palette.ink, 0.35);
-    for (const double x : {50.0, 100.0})
-        c.Line(x, 0, x, 14, c.palette.ink, 0.35);
-    Cell::Retouch(c.Text(6, 42, "VEKPrt2DModel", 9), bold);
-    c.Text(6, 25.5, "Specimen sheet: every element class and every attribute that can be seen", 3.4);
-    c.Text(6, 19.5, "Angles in degrees, counter-clockwise; the first transform of a list is the outermost.",
-           2.4);
+    for (int i = 1; i < 3; ++i)
+        c.Line(iWidth * i / 3, 0, iWidth * i / 3, 14, c.palette.ink, 0.35);
+    Cell::Retouch(c.Text(5, 43.5, "VEKPrt2DModel", 8), bold);
+    c.Text(5, 32, "Specimen sheet", 4);
+    c.Text(5, 27, "Every element class, and every attribute that can be seen,", 2.6);
+    c.Text(5, 23, "on one page, a VEKPrtImageElt.  Angles are degrees,", 2.6);
+    c.Text(5, 19, "counter-clockwise; the first of several transforms is outermost.", 2.6);
     const std::string count = std::to_string(iCells) + " cells";
-    const char* const fields[][2] = {
-        {"Format", "A3, 420 × 297 mm"}, {"Units", "millimetres, y up"}, {"Contents", count.c_str()}};
+    const char* const fields[][2] = {{"Format", "A3"}, {"Units", "mm, y up"}, {"Contents", count.c_str()}};
     for (int i = 0; i < 3; ++i) {
-        c.Text(50 * i + 3, 9.6, fields[i][0], 2);
-        c.Text(50 * i + 3, 3.6, fields[i][1], 3.2);
+        c.Text(iWidth * i / 3 + 5, 9.6, fields[i][0], 2);
+        c.Text(iWidth * i / 3 + 5, 3.6, fields[i][1], 3.2);
     }
 }
 

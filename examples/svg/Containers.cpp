@@ -1,4 +1,7 @@
 // Elements that hold others.
+#include <algorithm>
+#include <cmath>
+
 #include "Handlers.h"
 #include "Style.h"
 #include "VEKListPtrVEKPrtClosedFigureRegionElt.h"
@@ -13,31 +16,44 @@
 namespace {
 
 template <class Container>
-VEKListPtrVEKPrtGraphicPrimitiveElt* ChildrenOf(Container& ioContainer) {
-    VEKListPtrVEKPrtGraphicPrimitiveElt* children = nullptr;
-    ioContainer.GetChildren(children);
-    return children;
-}
-
-template <class Container>
-Box BoxOf(const Container& iContainer) {
+Area BoxOf(const SvgPage& iPage, const Container& iContainer) {
     VEKMathPoint2D origin;
-    Box box = {};
+    Area box = {};
     iContainer.GetOrigin(origin);
     iContainer.GetSize(box.width, box.height);
     box.x = origin.GetX();
     box.y = origin.GetY();
+    box.map = iPage.map;
     return box;
 }
 
-void BoxAttributes(XmlWriter& ioXml, const Box& iBox) {
+void BoxAttributes(XmlWriter& ioXml, const Area& iBox) {
     ioXml.Attribute("x", iBox.x);
     ioXml.Attribute("y", iBox.y);
     ioXml.Attribute("width", iBox.width);
     ioXml.Attribute("height", iBox.height);
 }
 
-bool HasArea(const Box& iBox) { return iBox.width > 0.0 && iBox.height > 0.0; }
+// What covers the area, in the coordinates of iMap.
+Area Covering(const Area& iArea, const Affine& iMap) {
+    const Affine toLocal = iMap.Inverse() * iArea.map;
+    double low[2] = {INFINITY, INFINITY}, high[2] = {-INFINITY, -INFINITY};
+    for (const double x : {iArea.x, iArea.x + iArea.width}) {
+        for (const double y : {iArea.y, iArea.y + iArea.height}) {
+            const VEKMathPoint2D corner = toLocal(x, y);
+            const double xy[2] = {corner.GetX(), corner.GetY()};
+            for (int i = 0; i < 2; ++i) {
+                low[i] = std::min(low[i], xy[i]);
+                high[i] = std::max(high[i], xy[i]);
+            }
+        }
+    }
+    return {low[0], low[1], high[0] - low[0], high[1] - low[1], iMap};
+}
+
+bool HasArea(const Area& iBox) {
+    return iBox.width > 0.0 && iBox.height > 0.0 && std::isfinite(iBox.x + iBox.y + iBox.width + iBox.height);
+}
 
 // Null for what a list does not hold.
 VEKPrtClosedFigureRegionElt* RegionAt(const VEKListPtrVEKPrtClosedFigureRegionElt& iRegions, int iPosition) {
@@ -68,7 +84,7 @@ void Write(SvgPage& ioPage, VEKPrtGroupElt& ioGroup) {
     WriteChildren(ioPage, ChildrenOf(ioGroup));
 }
 
-// A page on a page: its children, under its matrix and in its own colours.
+// A page on a page: its children, under its matrix and, if it has them, in its own colours.
 void Write(SvgPage& ioPage, VEKPrtImageElt& ioNestedImage) {
     VEKMath2x2Matrix matrix;
     ioNestedImage.GetMatrix(matrix);
@@ -77,17 +93,19 @@ void Write(SvgPage& ioPage, VEKPrtImageElt& ioNestedImage) {
     SvgElement element(ioPage, ioNestedImage, "g");
     element.Transform(transform).Content();
     VEKPrtColourTable* const outer = ioPage.colours;
-    ioNestedImage.GetColourTable(ioPage.colours);
+    VEKPrtColourTable* own = nullptr;
+    ioNestedImage.GetColourTable(own);
+    if (own) ioPage.colours = own;
     WriteChildren(ioPage, ChildrenOf(ioNestedImage));
     ioPage.colours = outer;
 }
 
 void Write(SvgPage& ioPage, VEKPrtSymbolElt& ioSymbol) {
-    const Box box = BoxOf(ioSymbol);
-    const Box outer = ioPage.area;
-    const std::string clip = HasArea(box) ? ioPage.NewId("clip") : std::string();
     SvgElement element(ioPage, ioSymbol, "g");
     element.Transform(TransformOf(ioSymbol));
+    const Area box = BoxOf(ioPage, ioSymbol);
+    const Area outer = ioPage.area;
+    const std::string clip = HasArea(box) ? ioPage.NewId("clip") : std::string();
     if (!clip.empty()) element.Attribute("clip-path", "url(#" + clip + ")");
     element.Content();
     if (!clip.empty()) {
@@ -104,13 +122,17 @@ void Write(SvgPage& ioPage, VEKPrtSymbolElt& ioSymbol) {
 }
 
 void Write(SvgPage& ioPage, VEKPrtPatternElt& ioPattern) {
-    const Box tile = BoxOf(ioPattern);
+    const Area tile = BoxOf(ioPage, ioPattern);
     SvgElement element(ioPage, ioPattern, "g");
     element.Content();
-    if (!HasArea(tile)) {
+    if (!HasArea(tile) || ioPage.map.Determinant() == 0.0) {
         ioPage.Warn(ioPattern, "a pattern whose box has no area");
         return;
     }
+    const std::vector<Elementary> transforms = TransformsOf(TransformOf(ioPattern));
+    std::string transformList;
+    for (const Elementary& transform : transforms)
+        transformList += (transformList.empty() ? "" : " ") + transform.svg;
     const std::string id = ioPage.NewId("pattern");
     XmlWriter& xml = ioPage.xml;
     xml.Start("defs");
@@ -118,16 +140,16 @@ void Write(SvgPage& ioPage, VEKPrtPatternElt& ioPattern) {
     xml.Attribute("id", id);
     xml.Attribute("patternUnits", "userSpaceOnUse");
     BoxAttributes(xml, tile);
-    xml.OptionalAttribute("patternTransform", TransformList(TransformOf(ioPattern)));
+    xml.OptionalAttribute("patternTransform", transformList);
     // The content keeps the coordinates of its surroundings, not of the tile.
     xml.Start("g");
-    xml.Attribute("transform", "translate(" + Point(-tile.x, -tile.y) + ")");
+    xml.Attribute("transform", "translate(" + Pair(-tile.x, -tile.y) + ")");
     WriteChildren(ioPage, ChildrenOf(ioPattern));
     xml.End();
     xml.End();
     xml.End();
     xml.Start("rect");
-    BoxAttributes(xml, ioPage.area);
+    BoxAttributes(xml, Covering(ioPage.area, ioPage.map));
     xml.Attribute("fill", "url(#" + id + ")");
     xml.End();
 }
@@ -135,19 +157,21 @@ void Write(SvgPage& ioPage, VEKPrtPatternElt& ioPattern) {
 void Write(SvgPage& ioPage, VEKPrtClosedFigureElt& ioFigure) {
     VEKListPtrVEKPrtClosedFigureRegionElt* regions = nullptr;
     ioFigure.GetChildren(regions);
-    Path path;
+    PathData path;
+    const Affine outer = ioPage.map;
+    ioPage.map = outer * Compose(TransformOf(ioFigure));
     for (int position = 1; regions && position <= regions->Size(); ++position)
         if (VEKPrtClosedFigureRegionElt* const region = RegionAt(*regions, position)) {
             AppendToRegion(ioPage, path, *region, Affine());
             path.Close();
         }
-    const VEKPrtDrawStyle style = DrawStyleOf(ioFigure);
-    const VEKPrtFillAttributes fill = FillOf(ioFigure);
-    const std::string paint = PreparePaint(ioPage, ioFigure, style, fill);
+    ioPage.map = outer;
+    if (!path.IsFinite() && !ioPage.AreFinite(ioFigure, {NAN})) return;
+    const Appearance look = AppearanceOf(ioPage, ioFigure);
     SvgElement(ioPage, ioFigure, "path")
-        .Attribute("d", path.Data())
+        .Attribute("d", path.Text())
         .Transform(TransformOf(ioFigure))
-        .Paint(style, StrokeOf(ioFigure), fill, paint);
+        .Paint(look);
 }
 
 // A region on its own has no appearance but that of its children.

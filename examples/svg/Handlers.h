@@ -2,7 +2,7 @@
 #ifndef Handlers_H
 #define Handlers_H
 
-class Path;
+class PathData;
 class VEKListPtrVEKPrtGraphicPrimitiveElt;
 class VEKPrtBitmapImageElt;
 class VEKPrtCircleElt;
@@ -63,21 +63,22 @@ void Write(SvgPage& ioPage, VEKPrtTextElt& ioText);
 void WriteBare(SvgPage& ioPage, VEKPrtGraphicPrimitiveElt& ioBare);
 
 /// Appends an element, seen through \p iMap, to the outline of a region.
-void AppendToRegion(SvgPage& ioPage, Path& ioPath, VEKPrtGraphicPrimitiveElt& ioElement, const Affine& iMap);
+void AppendToRegion(SvgPage& ioPage, PathData& ioPath, VEKPrtGraphicPrimitiveElt& ioElement,
+                    const Affine& iMap);
 
 // The geometry of those classes that can be part of an outline, without their transforms.
-void Outline(SvgPage& ioPage, Path& ioPath, const VEKPrtCircleElt& iCircle);
-void Outline(SvgPage& ioPage, Path& ioPath, const VEKPrtCircularArcElt& iArc);
-void Outline(SvgPage& ioPage, Path& ioPath, const VEKPrtDisjointPolylineElt& iSegments);
-void Outline(SvgPage& ioPage, Path& ioPath, const VEKPrtEllipseElt& iEllipse);
-void Outline(SvgPage& ioPage, Path& ioPath, const VEKPrtEllipticalArcElt& iArc);
-void Outline(SvgPage& ioPage, Path& ioPath, const VEKPrtLineElt& iLine);
-void Outline(SvgPage& ioPage, Path& ioPath, const VEKPrtNURBSElt& iCurve);
-void Outline(SvgPage& ioPage, Path& ioPath, const VEKPrtPolyCubicBezierElt& iCurve);
-void Outline(SvgPage& ioPage, Path& ioPath, const VEKPrtPolyPolygonElt& iPolygons);
-void Outline(SvgPage& ioPage, Path& ioPath, const VEKPrtPolyQuadraticBezierElt& iCurve);
-void Outline(SvgPage& ioPage, Path& ioPath, const VEKPrtPolygonElt& iPolygon);
-void Outline(SvgPage& ioPage, Path& ioPath, const VEKPrtPolylineElt& iPolyline);
-void Outline(SvgPage& ioPage, Path& ioPath, const VEKPrtRectangleElt& iRectangle);
+void Outline(SvgPage& ioPage, PathData& ioPath, const VEKPrtCircleElt& iCircle);
+void Outline(SvgPage& ioPage, PathData& ioPath, const VEKPrtCircularArcElt& iArc);
+void Outline(SvgPage& ioPage, PathData& ioPath, const VEKPrtDisjointPolylineElt& iSegments);
+void Outline(SvgPage& ioPage, PathData& ioPath, const VEKPrtEllipseElt& iEllipse);
+void Outline(SvgPage& ioPage, PathData& ioPath, const VEKPrtEllipticalArcElt& iArc);
+void Outline(SvgPage& ioPage, PathData& ioPath, const VEKPrtLineElt& iLine);
+void Outline(SvgPage& ioPage, PathData& ioPath, const VEKPrtNURBSElt& iCurve);
+void Outline(SvgPage& ioPage, PathData& ioPath, const VEKPrtPolyCubicBezierElt& iCurve);
+void Outline(SvgPage& ioPage, PathData& ioPath, const VEKPrtPolyPolygonElt& iPolygons);
+void Outline(SvgPage& ioPage, PathData& ioPath, const VEKPrtPolyQuadraticBezierElt& iCurve);
+void Outline(SvgPage& ioPage, PathData& ioPath, const VEKPrtPolygonElt& iPolygon);
+void Outline(SvgPage& ioPage, PathData& ioPath, const VEKPrtPolylineElt& iPolyline);
+void Outline(SvgPage& ioPage, PathData& ioPath, const VEKPrtRectangleElt& iRectangle);
 
 #endif

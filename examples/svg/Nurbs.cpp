@@ -72,11 +72,12 @@ double Distance(const VEKMathPoint2D& iA, const VEKMathPoint2D& iB) {
     return std::hypot(iA.GetX() - iB.GetX(), iA.GetY() - iB.GetY());
 }
 
-// Halves the interval until its middle, and its quarters, lie on the chord; appends all but the first point.
+// Halves the interval, a few times in any case, until its middle is that of the chord; appends all but the
+// first point.
 void Subdivide(const Curve& iCurve, double iFrom, double iTo, const VEKMathPoint2D& iFirst,
                const VEKMathPoint2D& iLast, double iTolerance, int iDepth,
                std::vector<VEKMathPoint2D>& ioPoints) {
-    constexpr int least = 3, most = 14;
+    constexpr int least = 3, most = 10;
     const double middle = iFrom + (iTo - iFrom) / 2.0;
     const VEKMathPoint2D point = iCurve.At(middle);
     const VEKMathPoint2D chord((iFirst.GetX() + iLast.GetX()) / 2.0, (iFirst.GetY() + iLast.GetY()) / 2.0);
@@ -113,6 +114,10 @@ std::vector<VEKMathPoint2D> SampleNurbs(const VEKPrtNURBSElt& iCurve, double iTo
     const double last = std::min(curve.Last(), static_cast<double>(secondBound));
     if (!(first < last)) return fail("bounds outside the range of the knots");
 
+    // Never finer than a millionth of the curve: a page without size asks for no tolerance at all.
+    const auto ends = std::minmax_element(points, points + 2 * static_cast<std::ptrdiff_t>(count));
+    const double tolerance = std::max(iTolerance, (*ends.second - *ends.first) * 1e-6);
+
     // Span by span: the curve may have a corner at a knot.
     std::vector<double> stops{first};
     std::copy_if(knots, knots + order + count, std::back_inserter(stops),
@@ -120,6 +125,6 @@ std::vector<VEKMathPoint2D> SampleNurbs(const VEKPrtNURBSElt& iCurve, double iTo
     stops.push_back(last);
     std::vector<VEKMathPoint2D> samples{curve.At(first)};
     for (std::size_t i = 1; i < stops.size(); ++i)
-        Subdivide(curve, stops[i - 1], stops[i], samples.back(), curve.At(stops[i]), iTolerance, 0, samples);
+        Subdivide(curve, stops[i - 1], stops[i], samples.back(), curve.At(stops[i]), tolerance, 0, samples);
     return samples;
 }

@@ -10,42 +10,49 @@ namespace {
 
 double Radians(double iDegrees) { return iDegrees * 3.14159265358979323846 / 180.0; }
 
-// The transform at one position; identity for what has no value.
-Affine Elementary(const VEKPrtTransformAttributes& iTransforms, unsigned iIndex,
-                  VEKPrintTransformType iKind) {
-    Affine map;
+// The transform at one position; no text for what has no value.
+Elementary TransformAt(const VEKPrtTransformAttributes& iTransforms, unsigned iIndex,
+                       VEKPrintTransformType iKind) {
+    double scale = 1;
     float angle = 0;
     VEKMathVector2D vector;
-    VEKMath2x2Matrix matrix;
+    VEKMath2x2Matrix m;
     switch (iKind) {
-    case VEKPrintTransformMatrix:
-        iTransforms.GetMatrix(iIndex, matrix);
-        map = {matrix.GetCoef(1, 1), matrix.GetCoef(2, 1), matrix.GetCoef(1, 2), matrix.GetCoef(2, 2), 0, 0};
-        break;
+    case VEKPrintTransformMatrix: {
+        if (iTransforms.GetMatrix(iIndex, m) != 1) break;
+        const Affine map = {m.GetCoef(1, 1), m.GetCoef(2, 1), m.GetCoef(1, 2), m.GetCoef(2, 2), 0, 0};
+        return {Matrix(map), map};
+    }
     case VEKPrintTransformTranslation:
-        iTransforms.GetTranslation(iIndex, vector);
-        map.e = vector.GetX();
-        map.f = vector.GetY();
-        break;
-    case VEKPrintTransformRotation:
-        iTransforms.GetRotation(iIndex, angle);
-        map.a = map.d = std::cos(Radians(angle));
-        map.b = std::sin(Radians(angle));
-        map.c = -map.b;
-        break;
-    case VEKPrintTransformScaleX: iTransforms.GetScaleX(iIndex, map.a); break;
-    case VEKPrintTransformScaleY: iTransforms.GetScaleY(iIndex, map.d); break;
+        if (iTransforms.GetTranslation(iIndex, vector) != 1) break;
+        return {"translate(" + Pair(vector.GetX(), vector.GetY()) + ")",
+                {1, 0, 0, 1, vector.GetX(), vector.GetY()}};
+    case VEKPrintTransformRotation: {
+        if (iTransforms.GetRotation(iIndex, angle) != 1) break;
+        const double cosine = std::cos(Radians(angle)), sine = std::sin(Radians(angle));
+        return {"rotate(" + Number(angle) + ")", {cosine, sine, -sine, cosine, 0, 0}};
+    }
+    case VEKPrintTransformScaleX:
+        if (iTransforms.GetScaleX(iIndex, scale) != 1) break;
+        return {"scale(" + Pair(scale, 1) + ")", {scale, 0, 0, 1, 0, 0}};
+    case VEKPrintTransformScaleY:
+        if (iTransforms.GetScaleY(iIndex, scale) != 1) break;
+        return {"scale(" + Pair(1, scale) + ")", {1, 0, 0, scale, 0, 0}};
     case VEKPrintTransformSkewX:
-        iTransforms.GetSkewX(iIndex, angle);
-        map.c = std::tan(Radians(angle));
-        break;
+        if (iTransforms.GetSkewX(iIndex, angle) != 1) break;
+        return {"skewX(" + Number(angle) + ")", {1, 0, std::tan(Radians(angle)), 1, 0, 0}};
     case VEKPrintTransformSkewY:
-        iTransforms.GetSkewY(iIndex, angle);
-        map.b = std::tan(Radians(angle));
-        break;
+        if (iTransforms.GetSkewY(iIndex, angle) != 1) break;
+        return {"skewY(" + Number(angle) + ")", {1, std::tan(Radians(angle)), 0, 1, 0, 0}};
     default: break;
     }
-    return map;
+    return {};
+}
+
+// Ends that meet are seldom equal to the last bit.
+bool Meet(const VEKMathPoint2D& iA, const VEKMathPoint2D& iB) {
+    constexpr double near = 1e-6;
+    return std::hypot(iA.GetX() - iB.GetX(), iA.GetY() - iB.GetY()) <= near;
 }
 
 } // namespace
@@ -55,55 +62,64 @@ Affine Affine::operator*(const Affine& iInner) const {
             b * iInner.c + d * iInner.d, a * iInner.e + c * iInner.f + e, b * iInner.e + d * iInner.f + f};
 }
 
-Affine Compose(const VEKPrtTransformAttributes& iTransforms) {
+double Affine::Scale() const { return std::sqrt(std::fabs(Determinant())); }
+
+Affine Affine::Inverse() const {
+    const double det = Determinant();
+    return {d / det, -b / det, -c / det, a / det, (c * f - d * e) / det, (b * e - a * f) / det};
+}
+
+std::vector<Elementary> TransformsOf(const VEKPrtTransformAttributes& iTransforms) {
     unsigned count = 0;
     VEKPrintTransformType* kinds = nullptr;
     iTransforms.GetTransformTab(count, kinds);
+    std::vector<Elementary> transforms;
+    for (unsigned i = 0; kinds && i < count; ++i) {
+        Elementary transform = TransformAt(iTransforms, i, kinds[i]);
+        if (!transform.svg.empty()) transforms.push_back(std::move(transform));
+    }
+    return transforms;
+}
+
+Affine Compose(const VEKPrtTransformAttributes& iTransforms) {
     Affine map;
-    for (unsigned i = 0; kinds && i < count; ++i)
-        map = map * Elementary(iTransforms, i, kinds[i]);
+    for (const Elementary& transform : TransformsOf(iTransforms))
+        map = map * transform.map;
     return map;
 }
 
-void Path::Add(char iCommand, const std::vector<VEKMathPoint2D>& iPoints) {
-    if (!_data.empty()) _data += ' ';
-    _data += iCommand;
-    for (const VEKMathPoint2D& point : iPoints) {
-        if (_data.back() != iCommand) _data += ' ';
-        _data += Point(point.GetX(), point.GetY());
-    }
-    _last = iPoints.back();
-    _open = true;
+std::string Matrix(const Affine& iMap) {
+    std::string text = "matrix(";
+    for (const double value : {iMap.a, iMap.b, iMap.c, iMap.d, iMap.e, iMap.f})
+        text += (text.back() == '(' ? "" : " ") + Number(value);
+    return text + ")";
 }
 
-void Path::QuadraticTo(const double* iTwoPoints) {
+void PathData::Add(char iCommand, std::vector<VEKMathPoint2D> iPoints) {
+    for (const VEKMathPoint2D& point : iPoints)
+        _finite = _finite && std::isfinite(point.GetX()) && std::isfinite(point.GetY());
+    const bool open = !_segments.empty() && _segments.back().command != 'Z';
+    if (iCommand != 'Z' || open) _segments.push_back({iCommand, std::move(iPoints)});
+}
+
+void PathData::QuadraticTo(const double* iTwoPoints) {
     const double* const p = iTwoPoints;
     Add('Q', {_map(p[0], p[1]), _map(p[2], p[3])});
 }
 
-void Path::CubicTo(const double* iThreePoints) {
+void PathData::CubicTo(const double* iThreePoints) {
     const double* const p = iThreePoints;
     Add('C', {_map(p[0], p[1]), _map(p[2], p[3]), _map(p[4], p[5])});
 }
 
-void Path::Close() {
-    if (_open) _data += " Z";
-    _open = false;
-}
-
-void Path::Join(double iX, double iY) {
-    // Ends that meet are seldom equal to the last bit, and a line too short to see does no harm but to joins.
-    constexpr double near = 1e-6;
-    const VEKMathPoint2D point = _map(iX, iY);
-    if (!_open) {
-        MoveTo(iX, iY);
-    } else if (std::hypot(point.GetX() - _last.GetX(), point.GetY() - _last.GetY()) > near) {
-        LineTo(iX, iY);
+void PathData::Arc(const VEKMathPoint2D& iCentre, double iRadiusX, double iRadiusY, double iSlope,
+                   double iStart, double iEnd) {
+    const VEKMathPoint2D start = OnEllipse(iCentre, iRadiusX, iRadiusY, iSlope, iStart);
+    MoveTo(start.GetX(), start.GetY());
+    if (!_finite || !std::isfinite(iEnd)) {
+        _finite = false;
+        return;
     }
-}
-
-void Path::Arc(const VEKMathPoint2D& iCentre, double iRadiusX, double iRadiusY, double iSlope, double iStart,
-               double iEnd) {
     // Pieces of 45 degrees at most: off the true arc by less than 5 millionths of the radius.
     const int pieces = std::max(1, static_cast<int>(std::ceil((iEnd - iStart) / 45.0 - 1e-9)));
     const double step = Radians(iEnd - iStart) / pieces;
@@ -125,6 +141,50 @@ void Path::Arc(const VEKMathPoint2D& iCentre, double iRadiusX, double iRadiusY, 
         CubicTo(unit);
     }
     _map = outer;
+}
+
+bool PathData::IsOneOpenLine() const {
+    return std::count_if(_segments.begin(), _segments.end(),
+                         [](const Segment& s) { return s.command == 'M' || s.command == 'Z'; }) == 1;
+}
+
+// Of one open line: each segment runs from the end of the one before.
+PathData PathData::Reversed() const {
+    PathData reversed;
+    reversed.Add('M', {_segments.back().points.back()});
+    for (std::size_t i = _segments.size() - 1; i > 0; --i) {
+        std::vector<VEKMathPoint2D> points(_segments[i].points.rbegin() + 1, _segments[i].points.rend());
+        points.push_back(_segments[i - 1].points.back());
+        reversed.Add(_segments[i].command, std::move(points));
+    }
+    return reversed;
+}
+
+void PathData::Join(const PathData& iPrimitive) {
+    _finite = _finite && iPrimitive._finite;
+    if (iPrimitive._segments.empty()) return;
+    const bool open = !_segments.empty() && _segments.back().command != 'Z';
+    const auto first = iPrimitive._segments.begin();
+    if (!open || !iPrimitive.IsOneOpenLine()) {
+        _segments.insert(_segments.end(), first, iPrimitive._segments.end());
+        return;
+    }
+    const VEKMathPoint2D last = _segments.back().points.back();
+    const bool begins = Meet(last, first->points.back());
+    if (!begins && Meet(last, iPrimitive._segments.back().points.back())) return Join(iPrimitive.Reversed());
+    if (!begins) Add('L', first->points);
+    _segments.insert(_segments.end(), first + 1, iPrimitive._segments.end());
+}
+
+std::string PathData::Text() const {
+    std::string text;
+    for (const Segment& segment : _segments) {
+        if (!text.empty()) text += ' ';
+        text += segment.command;
+        for (std::size_t i = 0; i < segment.points.size(); ++i)
+            text += (i ? " " : "") + Pair(segment.points[i].GetX(), segment.points[i].GetY());
+    }
+    return text;
 }
 
 double ArcEnd(double iStart, double iEnd) {

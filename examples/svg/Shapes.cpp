@@ -1,6 +1,7 @@
 // Shapes and point sequences.
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 #include "Handlers.h"
 #include "Nurbs.h"
@@ -22,7 +23,7 @@
 
 namespace {
 
-/// The points of a sequence, none for a count without an array, or with a value that is not finite.
+/// The points of a sequence, none for a count without an array.
 struct Points {
     const double* xy = nullptr;
     int count = 0;
@@ -30,29 +31,25 @@ struct Points {
 };
 
 template <class Element>
-Points PointsOf(const SvgPage& iPage, const Element& iElement) {
+Points PointsOf(const Element& iElement) {
     double* xy = nullptr;
     int count = 0;
     iElement.GetPoints(xy, count);
-    if (!xy || count <= 0) return {};
-    const auto finite = [](double iValue) { return std::isfinite(iValue); };
-    if (std::all_of(xy, xy + 2 * static_cast<std::ptrdiff_t>(count), finite)) return {xy, count};
-    iPage.Warn(iElement, "points that are not finite");
-    return {};
+    return xy && count > 0 ? Points{xy, count} : Points();
 }
 
-void AppendPolyline(Path& ioPath, const Points& iPoints) {
-    if (iPoints.count > 0) ioPath.Join(iPoints[0][0], iPoints[0][1]);
+void AppendPolyline(PathData& ioPath, const Points& iPoints) {
+    if (iPoints.count > 0) ioPath.MoveTo(iPoints[0][0], iPoints[0][1]);
     for (int i = 1; i < iPoints.count; ++i)
         ioPath.LineTo(iPoints[i][0], iPoints[i][1]);
 }
 
 // A start, then iStep points a piece.
 template <class Element>
-void AppendCurve(const SvgPage& iPage, Path& ioPath, const Element& iCurve, int iStep,
-                 void (Path::*iAppend)(const double*)) {
-    const Points points = PointsOf(iPage, iCurve);
-    if (points.count > 0) ioPath.Join(points[0][0], points[0][1]);
+void AppendCurve(const SvgPage& iPage, PathData& ioPath, const Element& iCurve, int iStep,
+                 void (PathData::*iAppend)(const double*)) {
+    const Points points = PointsOf(iCurve);
+    if (points.count > 0) ioPath.MoveTo(points[0][0], points[0][1]);
     int used = 1;
     for (; used + iStep <= points.count; used += iStep)
         (ioPath.*iAppend)(points[used]);
@@ -65,24 +62,28 @@ struct EllipseShape {
     float slope = 0, start = 0, end = 0;
 };
 
-void AppendArc(Path& ioPath, const EllipseShape& iArc, double iEnd) {
-    const VEKMathPoint2D start = OnEllipse(iArc.centre, iArc.radiusX, iArc.radiusY, iArc.slope, iArc.start);
-    ioPath.Join(start.GetX(), start.GetY());
+void AppendArc(PathData& ioPath, const EllipseShape& iArc, double iEnd) {
     ioPath.Arc(iArc.centre, iArc.radiusX, iArc.radiusY, iArc.slope, iArc.start, iEnd);
 }
 
+// False, with a warning, for a path that has a point which is not finite.
 template <class Element>
-std::string OutlineData(SvgPage& ioPage, const Element& iElement) {
-    Path path;
+bool OutlineText(SvgPage& ioPage, const Element& iElement, std::string& oText) {
+    const Affine outer = ioPage.map;
+    ioPage.map = outer * Compose(TransformOf(iElement));
+    PathData path;
     Outline(ioPage, path, iElement);
-    return path.Data();
+    ioPage.map = outer;
+    oText = path.Text();
+    return path.IsFinite() || ioPage.AreFinite(iElement, {NAN});
 }
 
 template <class Element>
 void WriteStroked(SvgPage& ioPage, const Element& iElement) {
-    const std::string data = OutlineData(ioPage, iElement);
+    std::string text;
+    if (!OutlineText(ioPage, iElement, text)) return;
     SvgElement(ioPage, iElement, "path")
-        .Attribute("d", data)
+        .Attribute("d", text)
         .Transform(TransformOf(iElement))
         .NoFill()
         .Stroke(StrokeOf(iElement));
@@ -90,26 +91,23 @@ void WriteStroked(SvgPage& ioPage, const Element& iElement) {
 
 template <class Element>
 void WritePainted(SvgPage& ioPage, const Element& iElement) {
-    const VEKPrtDrawStyle style = DrawStyleOf(iElement);
-    const VEKPrtFillAttributes fill = FillOf(iElement);
-    const std::string data = OutlineData(ioPage, iElement);
-    const std::string paint = PreparePaint(ioPage, iElement, style, fill);
-    SvgElement(ioPage, iElement, "path")
-        .Attribute("d", data)
-        .Transform(TransformOf(iElement))
-        .Paint(style, StrokeOf(iElement), fill, paint);
+    std::string text;
+    if (!OutlineText(ioPage, iElement, text)) return;
+    const Appearance look = AppearanceOf(ioPage, iElement);
+    SvgElement(ioPage, iElement, "path").Attribute("d", text).Transform(TransformOf(iElement)).Paint(look);
 }
 
-const char* MarkerData(VEKPrintMarkerAttribute iStyle) {
+// In the square from -0.5 to 0.5; none for the round ones.
+std::vector<std::vector<double>> MarkerLines(VEKPrintMarkerAttribute iStyle) {
     switch (iStyle) {
-    case VEKPrintMarkerCross: return "M-.5,-.5 L.5,.5 M-.5,.5 L.5,-.5";
-    case VEKPrintMarkerAsterisk: return "M0,-.5 V.5 M-.433,-.25 L.433,.25 M-.433,.25 L.433,-.25";
+    case VEKPrintMarkerCross: return {{-.5, -.5, .5, .5}, {-.5, .5, .5, -.5}};
+    case VEKPrintMarkerAsterisk: return {{0, -.5, 0, .5}, {-.433, -.25, .433, .25}, {-.433, .25, .433, -.25}};
+    case VEKPrintMarkerSquare: return {{-.5, -.5, .5, -.5, .5, .5, -.5, .5, -.5, -.5}};
+    case VEKPrintMarkerDiamond: return {{0, -.5, .5, 0, 0, .5, -.5, 0, 0, -.5}};
+    case VEKPrintMarkerTriangle: return {{-.5, -.4, .5, -.4, 0, .5, -.5, -.4}};
     case VEKPrintMarkerCircle:
-    case VEKPrintMarkerDisc: return "M-.5,0 A.5,.5 0 1 1 .5,0 A.5,.5 0 1 1 -.5,0 Z";
-    case VEKPrintMarkerSquare: return "M-.5,-.5 H.5 V.5 H-.5 Z";
-    case VEKPrintMarkerDiamond: return "M0,-.5 L.5,0 L0,.5 L-.5,0 Z";
-    case VEKPrintMarkerTriangle: return "M-.5,-.4 L.5,-.4 L0,.5 Z";
-    default: return "M-.5,0 H.5 M0,-.5 V.5";
+    case VEKPrintMarkerDisc: return {};
+    default: return {{-.5, 0, .5, 0}, {0, -.5, 0, .5}};
     }
 }
 
@@ -118,6 +116,7 @@ const char* MarkerData(VEKPrintMarkerAttribute iStyle) {
 void Write(SvgPage& ioPage, VEKPrtLineElt& ioLine) {
     VEKMathPoint2D start, end;
     ioLine.GetParameters(start, end);
+    if (!ioPage.AreFinite(ioLine, {start.GetX(), start.GetY(), end.GetX(), end.GetY()})) return;
     SvgElement(ioPage, ioLine, "line")
         .Attribute("x1", start.GetX())
         .Attribute("y1", start.GetY())
@@ -127,32 +126,31 @@ void Write(SvgPage& ioPage, VEKPrtLineElt& ioLine) {
         .Stroke(StrokeOf(ioLine));
 }
 
-void Outline(SvgPage&, Path& ioPath, const VEKPrtLineElt& iLine) {
+void Outline(SvgPage&, PathData& ioPath, const VEKPrtLineElt& iLine) {
     VEKMathPoint2D start, end;
     iLine.GetParameters(start, end);
-    ioPath.Join(start.GetX(), start.GetY());
+    ioPath.MoveTo(start.GetX(), start.GetY());
     ioPath.LineTo(end.GetX(), end.GetY());
 }
 
 void Write(SvgPage& ioPage, VEKPrtRectangleElt& ioRectangle) {
     VEKMathPoint2D first, second;
     ioRectangle.GetPoints(first, second);
-    const VEKPrtDrawStyle style = DrawStyleOf(ioRectangle);
-    const VEKPrtFillAttributes fill = FillOf(ioRectangle);
-    const std::string paint = PreparePaint(ioPage, ioRectangle, style, fill);
+    if (!ioPage.AreFinite(ioRectangle, {first.GetX(), first.GetY(), second.GetX(), second.GetY()})) return;
+    const Appearance look = AppearanceOf(ioPage, ioRectangle);
     SvgElement(ioPage, ioRectangle, "rect")
         .Attribute("x", std::min(first.GetX(), second.GetX()))
         .Attribute("y", std::min(first.GetY(), second.GetY()))
         .Attribute("width", std::fabs(second.GetX() - first.GetX()))
         .Attribute("height", std::fabs(second.GetY() - first.GetY()))
         .Transform(TransformOf(ioRectangle))
-        .Paint(style, StrokeOf(ioRectangle), fill, paint);
+        .Paint(look);
 }
 
-void Outline(SvgPage&, Path& ioPath, const VEKPrtRectangleElt& iRectangle) {
+void Outline(SvgPage&, PathData& ioPath, const VEKPrtRectangleElt& iRectangle) {
     VEKMathPoint2D first, second;
     iRectangle.GetPoints(first, second);
-    ioPath.Join(first.GetX(), first.GetY());
+    ioPath.MoveTo(first.GetX(), first.GetY());
     ioPath.LineTo(second.GetX(), first.GetY());
     ioPath.LineTo(second.GetX(), second.GetY());
     ioPath.LineTo(first.GetX(), second.GetY());
@@ -163,18 +161,17 @@ void Write(SvgPage& ioPage, VEKPrtCircleElt& ioCircle) {
     VEKMathPoint2D centre;
     double radius = 0;
     ioCircle.GetParameters(centre, radius);
-    const VEKPrtDrawStyle style = DrawStyleOf(ioCircle);
-    const VEKPrtFillAttributes fill = FillOf(ioCircle);
-    const std::string paint = PreparePaint(ioPage, ioCircle, style, fill);
+    if (!ioPage.AreFinite(ioCircle, {centre.GetX(), centre.GetY(), radius})) return;
+    const Appearance look = AppearanceOf(ioPage, ioCircle);
     SvgElement(ioPage, ioCircle, "circle")
         .Attribute("cx", centre.GetX())
         .Attribute("cy", centre.GetY())
         .Attribute("r", std::fabs(radius))
         .Transform(TransformOf(ioCircle))
-        .Paint(style, StrokeOf(ioCircle), fill, paint);
+        .Paint(look);
 }
 
-void Outline(SvgPage&, Path& ioPath, const VEKPrtCircleElt& iCircle) {
+void Outline(SvgPage&, PathData& ioPath, const VEKPrtCircleElt& iCircle) {
     EllipseShape shape;
     iCircle.GetParameters(shape.centre, shape.radiusX);
     shape.radiusY = shape.radiusX;
@@ -182,7 +179,7 @@ void Outline(SvgPage&, Path& ioPath, const VEKPrtCircleElt& iCircle) {
     ioPath.Close();
 }
 
-void Outline(SvgPage&, Path& ioPath, const VEKPrtCircularArcElt& iArc) {
+void Outline(SvgPage&, PathData& ioPath, const VEKPrtCircularArcElt& iArc) {
     EllipseShape shape;
     iArc.GetParameters(shape.centre, shape.radiusX, shape.start, shape.end);
     shape.radiusY = shape.radiusX;
@@ -192,9 +189,10 @@ void Outline(SvgPage&, Path& ioPath, const VEKPrtCircularArcElt& iArc) {
 void Write(SvgPage& ioPage, VEKPrtEllipseElt& ioEllipse) {
     EllipseShape shape;
     ioEllipse.GetParameters(shape.centre, shape.radiusX, shape.radiusY, shape.slope);
-    const VEKPrtDrawStyle style = DrawStyleOf(ioEllipse);
-    const VEKPrtFillAttributes fill = FillOf(ioEllipse);
-    const std::string paint = PreparePaint(ioPage, ioEllipse, style, fill);
+    if (!ioPage.AreFinite(
+            ioEllipse, {shape.centre.GetX(), shape.centre.GetY(), shape.radiusX, shape.radiusY, shape.slope}))
+        return;
+    const Appearance look = AppearanceOf(ioPage, ioEllipse);
     const std::string slope = "rotate(" + Number(shape.slope) + " " + Number(shape.centre.GetX()) + " " +
                               Number(shape.centre.GetY()) + ")";
     SvgElement(ioPage, ioEllipse, "ellipse")
@@ -203,48 +201,48 @@ void Write(SvgPage& ioPage, VEKPrtEllipseElt& ioEllipse) {
         .Attribute("rx", std::fabs(shape.radiusX))
         .Attribute("ry", std::fabs(shape.radiusY))
         .Transform(TransformOf(ioEllipse), shape.slope != 0.0F ? slope : std::string())
-        .Paint(style, StrokeOf(ioEllipse), fill, paint);
+        .Paint(look);
 }
 
-void Outline(SvgPage&, Path& ioPath, const VEKPrtEllipseElt& iEllipse) {
+void Outline(SvgPage&, PathData& ioPath, const VEKPrtEllipseElt& iEllipse) {
     EllipseShape shape;
     iEllipse.GetParameters(shape.centre, shape.radiusX, shape.radiusY, shape.slope);
     AppendArc(ioPath, shape, 360.0);
     ioPath.Close();
 }
 
-void Outline(SvgPage&, Path& ioPath, const VEKPrtEllipticalArcElt& iArc) {
+void Outline(SvgPage&, PathData& ioPath, const VEKPrtEllipticalArcElt& iArc) {
     EllipseShape shape;
     iArc.GetParameters(shape.centre, shape.radiusX, shape.radiusY, shape.start, shape.end, shape.slope);
     AppendArc(ioPath, shape, ArcEnd(shape.start, shape.end));
 }
 
-void Outline(SvgPage& ioPage, Path& ioPath, const VEKPrtPolylineElt& iPolyline) {
-    AppendPolyline(ioPath, PointsOf(ioPage, iPolyline));
+void Outline(SvgPage&, PathData& ioPath, const VEKPrtPolylineElt& iPolyline) {
+    AppendPolyline(ioPath, PointsOf(iPolyline));
 }
 
-void Outline(SvgPage& ioPage, Path& ioPath, const VEKPrtPolygonElt& iPolygon) {
-    AppendPolyline(ioPath, PointsOf(ioPage, iPolygon));
+void Outline(SvgPage&, PathData& ioPath, const VEKPrtPolygonElt& iPolygon) {
+    AppendPolyline(ioPath, PointsOf(iPolygon));
     ioPath.Close();
 }
 
-void Outline(SvgPage& ioPage, Path& ioPath, const VEKPrtDisjointPolylineElt& iSegments) {
-    const Points points = PointsOf(ioPage, iSegments);
+void Outline(SvgPage&, PathData& ioPath, const VEKPrtDisjointPolylineElt& iSegments) {
+    const Points points = PointsOf(iSegments);
     for (int i = 0; i + 1 < points.count; i += 2) {
         ioPath.MoveTo(points[i][0], points[i][1]);
         ioPath.LineTo(points[i + 1][0], points[i + 1][1]);
     }
 }
 
-void Outline(SvgPage& ioPage, Path& ioPath, const VEKPrtPolyCubicBezierElt& iCurve) {
-    AppendCurve(ioPage, ioPath, iCurve, 3, &Path::CubicTo);
+void Outline(SvgPage& ioPage, PathData& ioPath, const VEKPrtPolyCubicBezierElt& iCurve) {
+    AppendCurve(ioPage, ioPath, iCurve, 3, &PathData::CubicTo);
 }
 
-void Outline(SvgPage& ioPage, Path& ioPath, const VEKPrtPolyQuadraticBezierElt& iCurve) {
-    AppendCurve(ioPage, ioPath, iCurve, 2, &Path::QuadraticTo);
+void Outline(SvgPage& ioPage, PathData& ioPath, const VEKPrtPolyQuadraticBezierElt& iCurve) {
+    AppendCurve(ioPage, ioPath, iCurve, 2, &PathData::QuadraticTo);
 }
 
-void Outline(SvgPage& ioPage, Path& ioPath, const VEKPrtPolyPolygonElt& iPolygons) {
+void Outline(SvgPage& ioPage, PathData& ioPath, const VEKPrtPolyPolygonElt& iPolygons) {
     double* xy = nullptr;
     int* counts = nullptr;
     int polygonCount = 0;
@@ -260,11 +258,13 @@ void Outline(SvgPage& ioPage, Path& ioPath, const VEKPrtPolyPolygonElt& iPolygon
     }
 }
 
-void Outline(SvgPage& ioPage, Path& ioPath, const VEKPrtNURBSElt& iCurve) {
+void Outline(SvgPage& ioPage, PathData& ioPath, const VEKPrtNURBSElt& iCurve) {
+    const double scale = (ioPage.map * ioPath.Map()).Scale();
+    const double tolerance = scale > 0.0 ? ioPage.tolerance / scale : 0.0;
     std::string problem;
-    const std::vector<VEKMathPoint2D> samples = SampleNurbs(iCurve, ioPage.tolerance, problem);
+    const std::vector<VEKMathPoint2D> samples = SampleNurbs(iCurve, tolerance, problem);
     if (samples.empty()) return ioPage.Warn(iCurve, problem);
-    ioPath.Join(samples.front().GetX(), samples.front().GetY());
+    ioPath.MoveTo(samples.front().GetX(), samples.front().GetY());
     for (std::size_t i = 1; i < samples.size(); ++i)
         ioPath.LineTo(samples[i].GetX(), samples[i].GetY());
 }
@@ -279,30 +279,36 @@ void Write(SvgPage& ioPage, VEKPrtPolyCubicBezierElt& ioCurve) { WriteStroked(io
 void Write(SvgPage& ioPage, VEKPrtPolyQuadraticBezierElt& ioCurve) { WriteStroked(ioPage, ioCurve); }
 void Write(SvgPage& ioPage, VEKPrtNURBSElt& ioCurve) { WriteStroked(ioPage, ioCurve); }
 
-// The symbol is drawn in the unit square, so its stroke is thinned by as much as it is enlarged.
 void Write(SvgPage& ioPage, VEKPrtMarkerElt& ioMarker) {
     VEKMathPoint2D point;
     double size = 0;
     ioMarker.GetParameters(point, size);
+    if (!ioPage.AreFinite(ioMarker, {point.GetX(), point.GetY(), size})) return;
     VEKPrtMarkerAttributes marker;
     ioMarker.GetMarkerAttributes(marker);
     VEKPrintMarkerAttribute style = VEKPrintMarkerPlus;
     marker.GetMarkerStyle(style);
-    VEKPrtStrokeAttributes stroke = StrokeOf(ioMarker);
-    double width = 0;
-    stroke.GetStrokeWidth(width);
-    stroke.SetStrokeWidth(size != 0.0 ? width / std::fabs(size) : width);
-    unsigned colour = 0;
-    stroke.GetStrokeColourIndex(colour);
 
-    SvgElement element(ioPage, ioMarker, "path");
-    element.Attribute("d", MarkerData(style))
-        .Transform(TransformOf(ioMarker),
-                   "translate(" + Point(point.GetX(), point.GetY()) + ") scale(" + Number(size) + ")");
-    if (style == VEKPrintMarkerDisc) {
-        element.Attribute("fill", ioPage.Colour(ioMarker, colour));
-    } else {
-        element.NoFill();
+    PathData path;
+    path.SetMap({size, 0, 0, size, point.GetX(), point.GetY()});
+    for (const std::vector<double>& line : MarkerLines(style))
+        AppendPolyline(path, {line.data(), static_cast<int>(line.size() / 2)});
+    const bool disc = style == VEKPrintMarkerDisc;
+    if (disc || style == VEKPrintMarkerCircle) path.Arc(VEKMathPoint2D(), 0.5, 0.5, 0.0, 0.0, 360.0);
+
+    // The symbols have no fill of their own: the disc is filled as it is stroked.
+    VEKPrtStrokeAttributes stroke = StrokeOf(ioMarker);
+    Appearance look = {VEKPrtDrawBoth, stroke, {}, "none"};
+    if (disc) {
+        unsigned colour = 0;
+        unsigned char transparency = 255;
+        stroke.GetStrokeColourIndex(colour);
+        stroke.GetStrokeColourTransparency(transparency);
+        look.fill.SetFillColourTransparency(transparency);
+        look.paint = ioPage.Colour(ioMarker, colour);
     }
-    element.Stroke(stroke);
+    SvgElement(ioPage, ioMarker, "path")
+        .Attribute("d", path.Text())
+        .Transform(TransformOf(ioMarker))
+        .Paint(look);
 }

@@ -28,8 +28,9 @@ std::vector<double> DashesOf(VEKPrintLineAttribute iType) {
     }
 }
 
-// Empty for a solid line, and for a pattern that says nothing: a negative entry, or nothing but zeros.
-std::string DashArray(const VEKPrtStrokeAttributes& iStroke, double iWidth) {
+// All divided by iScale; empty for a solid line, and for a pattern that says nothing: a negative entry, or
+// nothing but zeros.
+std::string DashArray(const VEKPrtStrokeAttributes& iStroke, double iWidth, double iScale) {
     float* values = nullptr;
     unsigned char count = 0;
     iStroke.GetStrokeTypePattern(values, count);
@@ -49,7 +50,7 @@ std::string DashArray(const VEKPrtStrokeAttributes& iStroke, double iWidth) {
     if (!shows || !std::all_of(dashes.begin(), dashes.end(), usable)) return {};
     std::string list;
     for (const double dash : dashes)
-        list += (list.empty() ? "" : " ") + Number(dash);
+        list += (list.empty() ? "" : " ") + Number(dash / iScale);
     return list;
 }
 
@@ -65,7 +66,7 @@ const char* JoinOf(VEKPrintLineAttribute iJoin) {
 }
 
 // A tile of the pattern image: the unit square, upside down because y points up, laid over the parallelogram.
-std::string DefinePatternFill(SvgPage& ioPage, const VEKPixelImage& iImage, const Affine& iParallelogram) {
+std::string DefinePatternFill(SvgPage& ioPage, const std::string& iImageUri, const Affine& iParallelogram) {
     const std::string id = ioPage.NewId("fill");
     XmlWriter& xml = ioPage.xml;
     xml.Start("defs");
@@ -81,7 +82,7 @@ std::string DefinePatternFill(SvgPage& ioPage, const VEKPixelImage& iImage, cons
     xml.Attribute("preserveAspectRatio", "none");
     xml.Attribute("image-rendering", "optimizeSpeed");
     xml.Attribute("transform", "matrix(1 0 0 -1 0 1)");
-    xml.Attribute("xlink:href", PngDataUri(iImage));
+    xml.Attribute("xlink:href", iImageUri);
     xml.End();
     xml.End();
     xml.End();
@@ -95,6 +96,21 @@ void SvgPage::Warn(const VEKPrtGraphicPrimitiveElt& iElement, const std::string&
     iElement.GetID(id);
     warnings << "svg: " << iElement.IsA() << (id.IsEmpty() ? "" : " ") << id.ToUtf8() << ": " << iProblem
              << '\n';
+}
+
+bool SvgPage::AreFinite(const VEKPrtGraphicPrimitiveElt& iElement,
+                        std::initializer_list<double> iValues) const {
+    if (std::all_of(iValues.begin(), iValues.end(), [](double iValue) { return std::isfinite(iValue); }))
+        return true;
+    Warn(iElement, "values that are not finite");
+    return false;
+}
+
+std::string SvgPage::NewId(const char* iKind) {
+    for (;;) {
+        std::string id = "svg-" + std::string(iKind) + "-" + std::to_string(++definitions);
+        if (ids.insert(id).second) return id;
+    }
 }
 
 std::string SvgPage::Colour(const VEKPrtGraphicPrimitiveElt& iElement, unsigned iIndex) const {
@@ -111,16 +127,17 @@ std::string SvgPage::Colour(const VEKPrtGraphicPrimitiveElt& iElement, unsigned 
 }
 
 SvgElement::SvgElement(SvgPage& ioPage, const VEKPrtGraphicPrimitiveElt& iElement, const char* iName)
-    : _page(ioPage), _element(iElement) {
+    : _page(ioPage), _element(iElement), _outer(ioPage.map) {
     _page.xml.Start(iName);
     VEKUnicodeString id;
     iElement.GetID(id);
-    _page.xml.OptionalAttribute("id", id.ToUtf8());
+    if (!id.IsEmpty() && _page.ids.insert(id.ToUtf8()).second) _page.xml.Attribute("id", id.ToUtf8());
 }
 
 SvgElement::~SvgElement() {
     Content();
     _page.xml.End();
+    _page.map = _outer;
 }
 
 void SvgElement::Content() {
@@ -134,7 +151,11 @@ void SvgElement::Content() {
 }
 
 SvgElement& SvgElement::Transform(const VEKPrtTransformAttributes& iTransforms, const std::string& iOwn) {
-    std::string list = TransformList(iTransforms);
+    std::string list;
+    for (const Elementary& transform : TransformsOf(iTransforms)) {
+        list += (list.empty() ? "" : " ") + transform.svg;
+        _page.map = _page.map * transform.map;
+    }
     if (!list.empty() && !iOwn.empty()) list += ' ';
     _page.xml.OptionalAttribute("transform", list + iOwn);
     return *this;
@@ -156,32 +177,33 @@ SvgElement& SvgElement::Stroke(const VEKPrtStrokeAttributes& iStroke) {
         _page.Warn(_element, "a stroke width below 0");
         return NoStroke();
     }
+    // A fixed width is what it is on the page: the transforms are taken out of it, and out of the dashes.
+    const double scale = style == VEKPrintLineStyleFixed && _page.map.Scale() > 0.0 ? _page.map.Scale() : 1.0;
     XmlWriter& xml = _page.xml;
     xml.Attribute("stroke", _page.Colour(_element, colour));
-    xml.Attribute("stroke-width", width);
-    xml.OptionalAttribute("stroke-dasharray", DashArray(iStroke, width));
+    xml.Attribute("stroke-width", width / scale);
+    xml.OptionalAttribute("stroke-dasharray", DashArray(iStroke, width, scale));
     if (cap != VEKPrintLineCapButt) xml.Attribute("stroke-linecap", CapOf(cap));
     if (join != VEKPrintLineJoinMitre) xml.Attribute("stroke-linejoin", JoinOf(join));
     if (transparency != 255) xml.Attribute("stroke-opacity", Opacity(transparency));
-    if (style == VEKPrintLineStyleFixed) xml.Attribute("vector-effect", "non-scaling-stroke");
     return *this;
 }
 
 SvgElement& SvgElement::NoStroke() { return Attribute("stroke", "none"); }
 SvgElement& SvgElement::NoFill() { return Attribute("fill", "none"); }
 
-SvgElement& SvgElement::Paint(VEKPrtDrawStyle iStyle, const VEKPrtStrokeAttributes& iStroke,
-                              const VEKPrtFillAttributes& iFill, const std::string& iPaint) {
-    _page.xml.Attribute("fill", iPaint);
-    if (iPaint != "none") {
+SvgElement& SvgElement::Paint(const Appearance& iAppearance) {
+    _page.xml.Attribute("fill", iAppearance.paint);
+    if (iAppearance.paint != "none") {
+        VEKPrtFillAttributes fill(iAppearance.fill);
         VEKPrtFillRule rule = VEKPrtFillNonZero;
         unsigned char transparency = 255;
-        iFill.GetFillRule(rule);
-        VEKPrtFillAttributes(iFill).GetFillColourTransparency(transparency);
+        fill.GetFillRule(rule);
+        fill.GetFillColourTransparency(transparency);
         if (rule == VEKPrtFillEvenOdd) _page.xml.Attribute("fill-rule", "evenodd");
         if (transparency != 255) _page.xml.Attribute("fill-opacity", Opacity(transparency));
     }
-    return DrawsOutline(iStyle) ? Stroke(iStroke) : NoStroke();
+    return DrawsOutline(iAppearance.style) ? Stroke(iAppearance.stroke) : NoStroke();
 }
 
 std::string PreparePaint(SvgPage& ioPage, const VEKPrtGraphicPrimitiveElt& iElement, VEKPrtDrawStyle iStyle,
@@ -196,62 +218,14 @@ std::string PreparePaint(SvgPage& ioPage, const VEKPrtGraphicPrimitiveElt& iElem
         VEKPrtFillAttributes(iFill).GetPattern(image, first, second);
         iFill.GetPatternRefPoint(ref);
         const double area = first.GetX() * second.GetY() - first.GetY() * second.GetX();
-        if (image && std::isfinite(area) && area != 0.0)
+        const std::string uri = image ? PngDataUri(*image) : std::string();
+        if (!uri.empty() && std::isfinite(area) && area != 0.0)
             return DefinePatternFill(
-                ioPage, *image,
+                ioPage, uri,
                 {first.GetX(), first.GetY(), second.GetX(), second.GetY(), ref.GetX(), ref.GetY()});
         ioPage.Warn(iElement, "a fill pattern without an image, or with vectors that span nothing");
     }
     unsigned colour = 0;
     iFill.GetFillColourIndex(colour);
     return ioPage.Colour(iElement, colour);
-}
-
-std::string Matrix(const Affine& iMap) {
-    std::string text = "matrix(";
-    for (const double value : {iMap.a, iMap.b, iMap.c, iMap.d, iMap.e, iMap.f})
-        text += (text.back() == '(' ? "" : " ") + Number(value);
-    return text + ")";
-}
-
-std::string TransformList(const VEKPrtTransformAttributes& iTransforms) {
-    unsigned count = 0;
-    VEKPrintTransformType* kinds = nullptr;
-    iTransforms.GetTransformTab(count, kinds);
-    std::string list;
-    for (unsigned i = 0; kinds && i < count; ++i) {
-        std::string item;
-        double scale = 1;
-        float angle = 0;
-        VEKMathVector2D vector;
-        VEKMath2x2Matrix m;
-        switch (kinds[i]) {
-        case VEKPrintTransformMatrix:
-            if (iTransforms.GetMatrix(i, m) == 1)
-                item = Matrix({m.GetCoef(1, 1), m.GetCoef(2, 1), m.GetCoef(1, 2), m.GetCoef(2, 2), 0, 0});
-            break;
-        case VEKPrintTransformTranslation:
-            if (iTransforms.GetTranslation(i, vector) == 1)
-                item = "translate(" + Point(vector.GetX(), vector.GetY()) + ")";
-            break;
-        case VEKPrintTransformRotation:
-            if (iTransforms.GetRotation(i, angle) == 1) item = "rotate(" + Number(angle) + ")";
-            break;
-        case VEKPrintTransformScaleX:
-            if (iTransforms.GetScaleX(i, scale) == 1) item = "scale(" + Point(scale, 1) + ")";
-            break;
-        case VEKPrintTransformScaleY:
-            if (iTransforms.GetScaleY(i, scale) == 1) item = "scale(" + Point(1, scale) + ")";
-            break;
-        case VEKPrintTransformSkewX:
-            if (iTransforms.GetSkewX(i, angle) == 1) item = "skewX(" + Number(angle) + ")";
-            break;
-        case VEKPrintTransformSkewY:
-            if (iTransforms.GetSkewY(i, angle) == 1) item = "skewY(" + Number(angle) + ")";
-            break;
-        default: break;
-        }
-        if (!item.empty()) list += (list.empty() ? "" : " ") + item;
-    }
-    return list;
 }

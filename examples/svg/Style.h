@@ -2,8 +2,11 @@
 #ifndef Style_H
 #define Style_H
 
+#include <initializer_list>
 #include <ostream>
+#include <set>
 #include <string>
+#include <vector>
 
 #include "Path.h"
 #include "VEKPrtFillAttributes.h"
@@ -12,10 +15,13 @@
 #include "VEKPrtTransformAttributes.h"
 #include "Xml.h"
 
+class VEKListPtrVEKPrtGraphicPrimitiveElt;
 class VEKPrtColourTable;
 
-struct Box {
+/// A rectangle, in the coordinates that a map takes to those of the page.
+struct Area {
     double x, y, width, height;
+    Affine map;
 };
 
 /// One page on its way to SVG.
@@ -26,19 +32,35 @@ struct SvgPage {
     /// How far a drawn curve may be off, in page units.
     double tolerance;
     /// Where a pattern repeats: the box of the page or of the nearest symbol.
-    Box area;
-    int depth = 0;
+    Area area;
+    /// From the coordinates of the element being written to those of the page.
+    Affine map;
+    /// The containers around it.
+    std::vector<const VEKPrtGraphicPrimitiveElt*> ancestors;
+    /// What stands in the document already.
+    std::set<std::string> ids;
     int definitions = 0;
 
     void Warn(const VEKPrtGraphicPrimitiveElt& iElement, const std::string& iProblem) const;
+    /// Warns when one is not a finite number.
+    bool AreFinite(const VEKPrtGraphicPrimitiveElt& iElement, std::initializer_list<double> iValues) const;
     /// A name for a definition, unique in the document.
-    std::string NewId(const char* iKind) { return iKind + std::to_string(++definitions); }
+    std::string NewId(const char* iKind);
     /// "#rrggbb"; black for an index that the page's table does not have.
     std::string Colour(const VEKPrtGraphicPrimitiveElt& iElement, unsigned iIndex) const;
 };
 
-/// Writes one element: starts it with its identifier, and ends it after title, description and whatever is
-/// nested.
+/// How a closed shape is painted.
+struct Appearance {
+    VEKPrtDrawStyle style;
+    VEKPrtStrokeAttributes stroke;
+    VEKPrtFillAttributes fill;
+    /// A colour, "none", or a reference to a pattern.
+    std::string paint;
+};
+
+/// Writes one element: starts it with its identifier (unless another has it already), and ends it after
+/// title, description and whatever is nested.  Its transforms hold for what is written until then.
 class SvgElement {
 public:
     SvgElement(SvgPage& ioPage, const VEKPrtGraphicPrimitiveElt& iElement, const char* iName);
@@ -56,25 +78,20 @@ public:
     SvgElement& Stroke(const VEKPrtStrokeAttributes& iStroke);
     SvgElement& NoStroke();
     SvgElement& NoFill();
-    /// Stroke and fill as the draw style says; \p iPaint is what PreparePaint gave.
-    SvgElement& Paint(VEKPrtDrawStyle iStyle, const VEKPrtStrokeAttributes& iStroke,
-                      const VEKPrtFillAttributes& iFill, const std::string& iPaint);
+    SvgElement& Paint(const Appearance& iAppearance);
     /// Title and description; nested elements come after it.
     void Content();
 
 private:
     SvgPage& _page;
     const VEKPrtGraphicPrimitiveElt& _element;
+    Affine _outer;
     bool _inContent = false;
 };
 
-/// What fills an element: a colour, "none", or a reference to a pattern, which is written here and now.
+/// What fills an element; a pattern is written here and now.
 std::string PreparePaint(SvgPage& ioPage, const VEKPrtGraphicPrimitiveElt& iElement, VEKPrtDrawStyle iStyle,
                          const VEKPrtFillAttributes& iFill);
-
-/// The transforms as the value of a `transform` attribute.
-std::string TransformList(const VEKPrtTransformAttributes& iTransforms);
-std::string Matrix(const Affine& iMap);
 
 // Getters as functions: the attribute getters of the elements return through arguments.
 template <class Element>
@@ -95,11 +112,20 @@ VEKPrtTransformAttributes TransformOf(const Element& iElement) {
     iElement.GetTransformAttributes(transform);
     return transform;
 }
+/// Meant to be called before the element is started: a pattern comes first.
 template <class Element>
-VEKPrtDrawStyle DrawStyleOf(const Element& iElement) {
-    VEKPrtDrawStyle style = VEKPrtDrawOutline;
-    iElement.GetDrawStyle(style);
-    return style;
+Appearance AppearanceOf(SvgPage& ioPage, const Element& iElement) {
+    Appearance look = {VEKPrtDrawOutline, StrokeOf(iElement), FillOf(iElement), {}};
+    iElement.GetDrawStyle(look.style);
+    look.paint = PreparePaint(ioPage, iElement, look.style, look.fill);
+    return look;
+}
+/// The container's own list, null where it has none.
+template <class Container>
+VEKListPtrVEKPrtGraphicPrimitiveElt* ChildrenOf(Container& ioContainer) {
+    VEKListPtrVEKPrtGraphicPrimitiveElt* children = nullptr;
+    ioContainer.GetChildren(children);
+    return children;
 }
 
 #endif

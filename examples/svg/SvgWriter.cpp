@@ -38,7 +38,7 @@ namespace {
 struct Handler {
     VEKMetaClass* (*metaObject)();
     void (*write)(SvgPage&, VEKPrtGraphicPrimitiveElt&);
-    void (*outline)(SvgPage&, Path&, VEKPrtGraphicPrimitiveElt&, const Affine&);
+    void (*outline)(SvgPage&, PathData&, VEKPrtGraphicPrimitiveElt&, const Affine&);
 };
 
 template <class Element>
@@ -47,19 +47,20 @@ void WriteAs(SvgPage& ioPage, VEKPrtGraphicPrimitiveElt& ioElement) {
 }
 
 template <class Element>
-void OutlineAs(SvgPage& ioPage, Path& ioPath, VEKPrtGraphicPrimitiveElt& ioElement, const Affine& iMap) {
+void OutlineAs(SvgPage& ioPage, PathData& ioPath, VEKPrtGraphicPrimitiveElt& ioElement, const Affine& iMap) {
     auto& element = static_cast<Element&>(ioElement);
-    ioPath.SetMap(iMap * Compose(TransformOf(element)));
-    Outline(ioPage, ioPath, element);
+    PathData primitive;
+    primitive.SetMap(iMap * Compose(TransformOf(element)));
+    Outline(ioPage, primitive, element);
+    ioPath.Join(primitive);
 }
 
 template <class Container>
-void OutlineChildren(SvgPage& ioPage, Path& ioPath, VEKPrtGraphicPrimitiveElt& ioElement,
+void OutlineChildren(SvgPage& ioPage, PathData& ioPath, VEKPrtGraphicPrimitiveElt& ioElement,
                      const Affine& iMap) {
     auto& container = static_cast<Container&>(ioElement);
     const Affine map = iMap * Compose(TransformOf(container));
-    VEKListPtrVEKPrtGraphicPrimitiveElt* children = nullptr;
-    container.GetChildren(children);
+    const VEKListPtrVEKPrtGraphicPrimitiveElt* const children = ChildrenOf(container);
     for (int position = 1; children && position <= children->Size(); ++position)
         if (auto* const child = static_cast<VEKPrtGraphicPrimitiveElt*>((*children)[position]))
             AppendToRegion(ioPage, ioPath, *child, map);
@@ -110,12 +111,18 @@ const Handler* FindHandler(const VEKMetaClass* iClass) {
     return handler != std::end(g_handlers) ? handler : nullptr;
 }
 
-// A container can hold one that holds it in turn.
-bool TooDeep(SvgPage& ioPage, const VEKPrtGraphicPrimitiveElt& iElement) {
-    constexpr int deepest = 100;
-    if (ioPage.depth < deepest) return false;
-    ioPage.Warn(iElement, "nested too deeply");
-    return true;
+// Calls iWrite for an element unless that would go in a circle: a container can hold one that holds it in
+// turn.
+template <class Write>
+void Descend(SvgPage& ioPage, const VEKPrtGraphicPrimitiveElt& iElement, Write iWrite) {
+    constexpr std::size_t deepest = 1000;
+    std::vector<const VEKPrtGraphicPrimitiveElt*>& ancestors = ioPage.ancestors;
+    if (std::find(ancestors.begin(), ancestors.end(), &iElement) != ancestors.end())
+        return ioPage.Warn(iElement, "held by itself");
+    if (ancestors.size() >= deepest) return ioPage.Warn(iElement, "nested too deeply");
+    ancestors.push_back(&iElement);
+    iWrite();
+    ancestors.pop_back();
 }
 
 const char* UnitOf(VEKPrtImageUnits iUnits) {
@@ -144,26 +151,30 @@ void WritePage(VEKPrtImageElt& ioImage, std::ostream& ioStream, std::ostream& io
     ioImage.GetChildren(children);
 
     XmlWriter xml(ioStream);
-    const Box area{origin.GetX(), origin.GetY(), width, height};
-    SvgPage page{xml, ioWarnings, colours, std::max(width, height) * 1e-5, area};
-    // A metre is no unit of SVG.
-    const double unit = units == VEKPrtImageMetre ? 1000.0 : 1.0;
+    const Area area{origin.GetX(), origin.GetY(), width, height, {}};
+    SvgPage page{xml, ioWarnings, colours, std::max(width, height) * 1e-5, area, {}, {}, {}};
+    const Affine map{
+        matrix.GetCoef(1, 1), matrix.GetCoef(2, 1), matrix.GetCoef(1, 2), matrix.GetCoef(2, 2), 0, 0};
 
     ioStream << R"(<?xml version="1.0" encoding="UTF-8"?>)";
     SvgElement svg(page, ioImage, "svg");
     svg.Attribute("xmlns", "http://www.w3.org/2000/svg")
-        .Attribute("xmlns:xlink", "http://www.w3.org/1999/xlink")
-        .Attribute("width", Number(width * unit) + UnitOf(units))
-        .Attribute("height", Number(height * unit) + UnitOf(units))
-        .Attribute("viewBox", Number(area.x) + " " + Number(-(area.y + height)) + " " + Number(width) + " " +
-                                  Number(height))
-        .Content();
-    std::string flip = "scale(1,-1)";
-    if (matrix != VEKMath2x2Matrix())
-        flip += " " + Matrix({matrix.GetCoef(1, 1), matrix.GetCoef(2, 1), matrix.GetCoef(1, 2),
-                              matrix.GetCoef(2, 2), 0, 0});
+        .Attribute("xmlns:xlink", "http://www.w3.org/1999/xlink");
+    if (width > 0.0 && height > 0.0) {
+        // A metre is no unit of SVG.
+        const double unit = units == VEKPrtImageMetre ? 1000.0 : 1.0;
+        svg.Attribute("width", Number(width * unit) + UnitOf(units))
+            .Attribute("height", Number(height * unit) + UnitOf(units))
+            .Attribute("viewBox", Number(area.x) + " " + Number(-(area.y + height)) + " " + Number(width) +
+                                      " " + Number(height));
+    } else {
+        page.Warn(ioImage, "a page without size");
+    }
+    svg.Content();
     xml.Start("g");
-    xml.Attribute("transform", flip);
+    xml.Attribute("transform",
+                  "scale(1,-1)" + (matrix != VEKMath2x2Matrix() ? " " + Matrix(map) : std::string()));
+    page.map = map;
     WriteChildren(page, children);
     xml.End();
 }
@@ -173,19 +184,14 @@ void WritePage(VEKPrtImageElt& ioImage, std::ostream& ioStream, std::ostream& io
 void WriteElement(SvgPage& ioPage, VEKPrtGraphicPrimitiveElt& ioElement) {
     const Handler* const handler = FindHandler(ioElement.GetMetaObject());
     if (!handler) return ioPage.Warn(ioElement, "no handler for this class");
-    if (TooDeep(ioPage, ioElement)) return;
-    ++ioPage.depth;
-    handler->write(ioPage, ioElement);
-    --ioPage.depth;
+    Descend(ioPage, ioElement, [&] { handler->write(ioPage, ioElement); });
 }
 
-void AppendToRegion(SvgPage& ioPage, Path& ioPath, VEKPrtGraphicPrimitiveElt& ioElement, const Affine& iMap) {
+void AppendToRegion(SvgPage& ioPage, PathData& ioPath, VEKPrtGraphicPrimitiveElt& ioElement,
+                    const Affine& iMap) {
     const Handler* const handler = FindHandler(ioElement.GetMetaObject());
     if (!handler || !handler->outline) return ioPage.Warn(ioElement, "no part of an outline");
-    if (TooDeep(ioPage, ioElement)) return;
-    ++ioPage.depth;
-    handler->outline(ioPage, ioPath, ioElement, iMap);
-    --ioPage.depth;
+    Descend(ioPage, ioElement, [&] { handler->outline(ioPage, ioPath, ioElement, iMap); });
 }
 
 bool WriteSvg(const VEKPrtModel& iModel, int iPage, std::ostream& ioStream, std::ostream& ioWarnings) {

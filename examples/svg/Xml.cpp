@@ -35,7 +35,7 @@ std::string Number(double iValue) {
     return {text, result.ptr};
 }
 
-std::string Point(double iX, double iY) { return Number(iX) + "," + Number(iY); }
+std::string Pair(double iX, double iY) { return Number(iX) + "," + Number(iY); }
 
 void XmlWriter::Start(std::string_view iName) {
     CloseTag();

@@ -9,7 +9,7 @@
 
 /// The shortest decimal that reads back as the same double; "0" for what is not finite.
 std::string Number(double iValue);
-std::string Point(double iX, double iY);
+std::string Pair(double iX, double iY);
 
 class XmlWriter {
 public:

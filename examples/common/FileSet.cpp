@@ -1,10 +1,9 @@
 #include "FileSet.h"
 
 #include <fstream>
+#include <stdexcept>
 #include <system_error>
 #include <unistd.h>
-
-#include "AtlasError.h"
 
 namespace fs = std::filesystem;
 
@@ -27,17 +26,21 @@ void FileSet::Commit() {
     std::error_code error;
     fs::create_directories(_directory, error);
     // Some libraries call it an error that the directory is there already under another spelling.
-    if (!fs::is_directory(_directory)) throw AtlasError("cannot make directory " + _directory.string());
+    if (!fs::is_directory(_directory))
+        throw std::runtime_error("cannot make directory " + _directory.string());
+    for (const File& file : _files)
+        if (fs::is_directory(file.target, error))
+            throw std::runtime_error("cannot write " + file.target.string() + ": it is a directory");
     for (File& file : _files) {
         std::ofstream stream(file.temporary, std::ios::binary | std::ios::trunc);
         file.written = stream.is_open();
         stream << file.content;
         stream.close();
-        if (!stream) throw AtlasError("cannot write to directory " + _directory.string());
+        if (!stream) throw std::runtime_error("cannot write to directory " + _directory.string());
     }
     for (File& file : _files) {
         fs::rename(file.temporary, file.target, error);
-        if (error) throw AtlasError("cannot write " + file.target.string() + ": " + error.message());
+        if (error) throw std::runtime_error("cannot write " + file.target.string() + ": " + error.message());
         file.written = false;
     }
 }

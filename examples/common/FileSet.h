@@ -20,7 +20,7 @@ public:
     /// Returns the path that the file will have.
     std::filesystem::path Add(const std::string& iName, std::string iContent);
 
-    /// Makes the directory if it is missing.  Throws AtlasError when a file cannot be written.
+    /// Makes the directory if it is missing.  Throws std::runtime_error when a file cannot be written.
     void Commit();
 
 private:
