@@ -51,4 +51,13 @@ using Filled = testing::Types<VEKPrtRectangleElt, VEKPrtCircleElt, VEKPrtCircula
                               VEKPrtEllipticalArcElt, VEKPrtTextElt, VEKPrtPolygonElt, VEKPrtPolyPolygonElt,
                               VEKPrtClosedFigureElt>;
 
+using Stroked =
+    testing::Types<VEKPrtLineElt, VEKPrtRectangleElt, VEKPrtCircleElt, VEKPrtCircularArcElt, VEKPrtEllipseElt,
+                   VEKPrtEllipticalArcElt, VEKPrtMarkerElt, VEKPrtTextElt, VEKPrtPolylineElt,
+                   VEKPrtPolygonElt, VEKPrtDisjointPolylineElt, VEKPrtPolyCubicBezierElt,
+                   VEKPrtPolyQuadraticBezierElt, VEKPrtPolyPolygonElt, VEKPrtNURBSElt, VEKPrtClosedFigureElt>;
+// Those that have a transform but no stroke.
+using PlacedOnly = testing::Types<VEKPrtBitmapImageElt, VEKPrtGroupElt, VEKPrtPatternElt, VEKPrtSymbolElt,
+                                  VEKPrtClosedFigureRegionElt>;
+
 #endif

@@ -62,7 +62,9 @@ TYPED_TEST(EveryContainer, CopiesShareTheChildren) {
     const auto source = Make<TypeParam>();
     EXPECT_EQ(Ids(ChildrenOf(*Make<TypeParam>(*source))), "null");
     source->AddChild(a.Get());
+    ChildrenOf(*source)->Append(nullptr);
     source->AddChild(a.Get());
+    EXPECT_EQ(ChildrenOf(*Duplicated(*source))->Size(), 2) << "a null entry is passed over";
     {
         const auto copy = Make<TypeParam>(*source);
         EXPECT_EQ(Ids(ChildrenOf(*copy)), "aa");
@@ -134,8 +136,32 @@ TYPED_TEST(ContainerAssign, SurvivesReleasingItsSource) {
     source = VEKRef<TypeParam>();
     *target = soleOwned;
     EXPECT_EQ(Ids(ChildrenOf(*target)), "a");
+    VEKUnicodeString title;
+    target->GetTitle(title);
+    EXPECT_STREQ(title.ToUtf8(), "source");
     EXPECT_EQ(Count(a), 3UL) << "ours, the target's, and the one that the walk missed";
     a->Release();
+}
+
+TEST(ClosedFigure, SurvivesReleasingItsSource) {
+    const auto target = Make<VEKPrtClosedFigureElt>();
+    auto source = Make<VEKPrtClosedFigureElt>();
+    source->SetDrawStyle(VEKPrtDrawBoth);
+    source->AddChild(Make<VEKPrtClosedFigureRegionElt>().Get());
+    const VEKPrtClosedFigureElt& soleOwned = *source;
+    {
+        const auto region = Make<VEKPrtClosedFigureRegionElt>();
+        region->AddChild(source.Get());
+        target->AddChild(region.Get());
+    }
+    source = VEKRef<VEKPrtClosedFigureElt>();
+    *target = soleOwned;
+    VEKPrtDrawStyle style;
+    target->GetDrawStyle(style);
+    EXPECT_EQ(style, VEKPrtDrawBoth);
+    VEKListPtrVEKPrtClosedFigureRegionElt* regions = nullptr;
+    target->GetChildren(regions);
+    EXPECT_EQ(regions->Size(), 1);
 }
 
 TYPED_TEST(EveryContainer, SurvivesExhaustedMemory) {
@@ -159,6 +185,22 @@ TYPED_TEST(EveryContainer, SurvivesExhaustedMemory) {
     WithFault(0, [&] { *target = *container; });
     EXPECT_EQ(Ids(ChildrenOf(*target)), "null");
     EXPECT_EQ(Count(a), 2UL);
+}
+
+TYPED_TEST(EveryContainer, DuplicateIsStoredBeforeItsChildren) {
+    static VEKPrtGraphicPrimitiveElt *copy, *seen;
+    copy = seen = nullptr;
+    struct Witness : VEKPrtLineElt {
+        void Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) override {
+            seen = copy;
+            oCopy = nullptr;
+        }
+    };
+    const auto container = Make<TypeParam>();
+    container->AddChild(Make<Witness>().Get());
+    static_cast<Child&>(*container).Duplicate(copy);
+    EXPECT_EQ(seen, copy);
+    copy->Release();
 }
 
 TYPED_TEST(EveryContainer, DuplicatesWhatMemoryAllows) {
@@ -211,9 +253,18 @@ TYPED_TEST(BoxContainer, CopiesItsBoxAndTransform) {
     VEKPrtTransformAttributes transform;
     transform.AddSkewX(1.0F);
     box->SetTransformAttributes(transform);
-    const auto assigned = Make<TypeParam>();
+    const auto assigned = Make<TypeParam>(), set = Make<TypeParam>();
+    VEKMathPoint2D corner(9, 9);
+    double side = 9, other = 9;
+    set->GetOrigin(corner);
+    set->GetSize(side, other);
+    EXPECT_EQ(corner, VEKMathPoint2D());
+    EXPECT_EQ(side + other, 0.0);
+    set->SetOrigin(VEKMathPoint2D(1, 2));
+    set->SetSize(3, 4);
+    set->SetTransformAttributes(transform);
     *assigned = *box;
-    for (const auto& copy : {Make<TypeParam>(*box), assigned, Duplicated(*box)}) {
+    for (const auto& copy : {set, Make<TypeParam>(*box), assigned, Duplicated(*box)}) {
         VEKMathPoint2D origin;
         double width = 0, height = 0;
         copy->GetOrigin(origin);
@@ -293,6 +344,12 @@ TEST(ClosedFigure, HoldsItsRegionsCompletely) {
 }
 TEST(Model, HoldsItsImagesCompletely) {
     HoldsCompletely<VEKPrtModel, VEKPrtImageElt>();
+    const auto model = Make<VEKPrtModel>(), assigned = Make<VEKPrtModel>();
+    int host = 0;
+    model->SetImpl(&host);
+    *assigned = *model;
+    EXPECT_EQ(assigned->GetImpl(), &host);
+    EXPECT_EQ(Make<VEKPrtModel>(*model)->GetImpl(), nullptr);
     WithSelfCopy<VEKPrtModel>([](const VEKPrtModel& iCopy) { EXPECT_EQ(ImagesOf(iCopy), nullptr); });
 }
 
@@ -316,6 +373,10 @@ TEST(ClosedFigure, DuplicatesThroughTheRegionsOwnSlot) {
     figure->SetDrawStyle(VEKPrtDrawBoth);
     const auto copy = Duplicated(*figure);
     EXPECT_EQ(typed, 1);
+    VEKPrtGraphicPrimitiveElt* element = nullptr;
+    region->VEKPrtClosedFigureRegionElt::Duplicate(element);
+    EXPECT_EQ(typed, 1) << "neither slot calls the other";
+    EXPECT_TRUE(VEKRef<VEKPrtGraphicPrimitiveElt>::Adopt(element));
     VEKPrtDrawStyle style;
     copy->GetDrawStyle(style);
     EXPECT_EQ(style, VEKPrtDrawBoth);

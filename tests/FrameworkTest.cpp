@@ -19,6 +19,11 @@ TEST(BaseUnknown, CountsFromOneAndAssignsItsDataWordsOnly) {
     EXPECT_EQ(Count(second), 1UL);
     EXPECT_EQ(Make<VEKPrtLineElt>(*first)->GetImpl(), nullptr)
         << "copies start with the framework's defaults";
+    struct Thing : VEKBaseUnknown {};
+    const auto thing = Make<Thing>(), other = thing;
+    EXPECT_EQ(Count(Make<Thing>(*thing)), 1UL) << "a copy counts from 1";
+    EXPECT_EQ(thing->IsEqual(other.Get()), 1);
+    EXPECT_EQ(thing->IsEqual(first.Get()), 0);
     EXPECT_EQ(first->Release(), 1UL);
 }
 
@@ -42,6 +47,7 @@ TEST(MetaClass, RegistersOnceAndSurvivesExhaustedMemory) {
     EXPECT_EQ(meta->IsAKindOf("VEKBaseUnknown"), 1);
     EXPECT_EQ(meta->IsAKindOf("TestThin"), 0);
     EXPECT_EQ(meta->IsAKindOf(nullptr), 0);
+    EXPECT_EQ(fct_RetrieveMetaObject(nullptr, VEKTypeImplementation, nullptr, "VEKnull", "Test", 1), nullptr);
 }
 
 TEST(RawColl, PositionsCountFromOneAndGapsClose) {
@@ -76,6 +82,8 @@ TEST(RawColl, DropsWhatItCannotHold) {
     WithFault(0, [&] { EXPECT_EQ(VEKRawCollPV(full).Size(), 0); });
     other = full;
     EXPECT_EQ(other[1], &value);
+    other = VEKRawCollPV(0);
+    EXPECT_EQ(other.Size(), 0);
 }
 
 TEST(RawColl, GrowsInFewSteps) {
@@ -120,7 +128,8 @@ TEST(PixelImage, ClonesOrYieldsNull) {
     EXPECT_EQ(copy->GetRow(2), nullptr);
     for (const long nth : {0L, 1L})
         WithFault(nth, [&] { EXPECT_EQ(image->Clone(), nullptr); });
-    EXPECT_EQ(Make<VEKPixelImage>(INT_MAX, INT_MAX)->GetWidth() * Make<VEKPixelImage>(-1, 5)->GetHeight(), 0);
+    EXPECT_EQ(Make<VEKPixelImage>(INT_MAX, INT_MAX)->GetWidth(), 0);
+    EXPECT_EQ(Make<VEKPixelImage>(5, -1)->GetHeight(), 0);
 }
 
 TEST(Ref, AdoptsOrShares) {

@@ -13,6 +13,15 @@ int Add(VEKPrtColourTable& ioTable, int iRed) {
     return ioTable.AddColour(static_cast<unsigned char>(iRed), 2, 3, index);
 }
 
+// All three components, each another one, told apart by where they stand.
+int ColourAt(const VEKPrtColourTable& iTable, unsigned iIndex) {
+    unsigned char red = 77, green = 77, blue = 77;
+    const int status = iTable.GetColour(iIndex, red, green, blue);
+    const int colour = red * 65536 + green * 256 + blue;
+    EXPECT_EQ(status == 1, colour != 0x4D4D4D) << "outputs are written on success only";
+    return status == 1 ? colour : -1;
+}
+
 int RedAt(const VEKPrtColourTable& iTable, unsigned iIndex) {
     unsigned char red = 0, green = 0, blue = 0;
     return iTable.GetColour(iIndex, red, green, blue) == 1 ? red : -1;
@@ -42,6 +51,9 @@ TEST(ColourTable, AppendsAndFindsTheLowest) {
     EXPECT_EQ(table.ModifyColour(0, 1, 2, 4), 1);
     EXPECT_EQ(table.GetColourIndex(index, 1, 2, 3), 1);
     EXPECT_EQ(index, 1U);
+    EXPECT_EQ(table.ModifyColour(1, 4, 5, 6), 1);
+    EXPECT_EQ(ColourAt(table, 1), 0x040506);
+    EXPECT_EQ(ColourAt(table, 2), -1);
     EXPECT_EQ(table.ModifyColour(2, 0, 0, 0), -1);
     EXPECT_EQ(table.GetColourIndex(index, 3, 2, 1), -1);
 }
@@ -55,7 +67,8 @@ TEST(ColourTable, GrowsBy256WithOneSlotFree) {
         EXPECT_EQ(Allocations() - before, grows ? 3 : 0) << "colour " << i;
     }
     for (unsigned i = 0; i < 600; ++i)
-        ASSERT_EQ(RedAt(table, i), static_cast<int>(i % 256)) << i;
+        ASSERT_EQ(ColourAt(table, i), static_cast<int>(i % 256 * 65536 + 0x0203)) << i;
+    EXPECT_EQ(ColourAt(VEKPrtColourTable(table), 599), 599 % 256 * 65536 + 0x0203);
 }
 
 TEST(ColourTable, CopiesAreIndependent) {
@@ -70,7 +83,9 @@ TEST(ColourTable, CopiesAreIndependent) {
     table.ModifyColour(0, 5, 5, 5);
     EXPECT_EQ(RedAt(copy, 0), 1);
     EXPECT_EQ(RedAt(assigned, 0), 1);
+    const long blocks = LiveBlocks();
     assigned = VEKPrtColourTable();
+    EXPECT_EQ(LiveBlocks(), blocks - 3);
     EXPECT_EQ(CountOf(assigned), 0);
 }
 
@@ -88,13 +103,19 @@ TEST(ColourTableFailure, CapacityStaysRaised) {
         EXPECT_EQ(Add(table, 0), -1) << "nothing is written past them";
         EXPECT_EQ(CountOf(table), 256);
         VEKPrtColourTable copy(table);
-        EXPECT_EQ(Add(copy, 7), 1) << "a copy has arrays of the raised capacity";
+        const long allocations = Allocations();
+        EXPECT_EQ(Add(copy, 7), 1);
+        EXPECT_EQ(Allocations(), allocations) << "a copy has arrays of the raised capacity";
         EXPECT_EQ(RedAt(copy, 255), 255);
     }
     VEKPrtColourTable first;
-    WithFault(0, [&] { EXPECT_EQ(Add(first, 1), -1); });
-    EXPECT_EQ(Add(first, 1), -1);
+    unsigned index = 77;
+    WithFault(0, [&] { EXPECT_EQ(first.AddColour(1, 2, 3, index), -1); });
+    EXPECT_EQ(first.AddColour(1, 2, 3, index), -1);
+    EXPECT_EQ(index, 77U);
     EXPECT_EQ(CountOf(VEKPrtColourTable(first)), 0);
+    first = VEKPrtColourTable();
+    EXPECT_EQ(Add(first, 1), -1) << "neither has arrays: nothing is assigned, the capacity stays raised";
 }
 
 TEST(ColourTableFailure, CopyIsEmpty) {
@@ -107,6 +128,7 @@ TEST(ColourTableFailure, CopyIsEmpty) {
             VEKPrtColourTable copy(table);
             EXPECT_EQ(CountOf(copy), 0);
             EXPECT_EQ(RedAt(copy, 0), -1);
+            EXPECT_EQ(Add(copy, 1), 1) << "of no capacity, so that it can grow";
         });
         EXPECT_EQ(LiveBlocks(), before + 2) << "all three are asked for; those that were got are not freed";
     }
@@ -148,11 +170,33 @@ TEST(Image, OwnsItsColourTable) {
         EXPECT_EQ(units, VEKPrtImageInch);
         EXPECT_EQ(matrix, VEKMath2x2Matrix(1, 2, 3, 4));
     }
+    *copy = *std::as_const(copy).Get();
+    EXPECT_EQ(RedAt(*TableOf(*copy), 0), 42) << "assigned to itself";
+    WithFault(0, [&] { *copy = *duplicate; });
+    EXPECT_EQ(TableOf(*copy), nullptr) << "memory out: none, not the old one";
     *assigned = *image;
     EXPECT_EQ(TableOf(*assigned), nullptr) << "a source without a table takes the target's away";
+}
+
+TEST(Image, StoresWhatItIsGiven) {
+    const auto image = Make<VEKPrtImageElt>();
+    VEKMathPoint2D origin(9, 9);
+    double width = 9, height = 9;
     VEKPrtImageUnits units;
-    Make<VEKPrtImageElt>()->GetUnits(units);
+    const auto read = [&] {
+        image->GetOrigin(origin);
+        image->GetSize(width, height);
+        image->GetUnits(units);
+        return origin.GetX() * 1000 + origin.GetY() * 100 + width * 10 + height;
+    };
+    EXPECT_EQ(read(), 0.0);
     EXPECT_EQ(units, 4);
+    image->SetOrigin(VEKMathPoint2D(1, 2));
+    image->SetSize(3, 4);
+    image->SetUnits(static_cast<VEKPrtImageUnits>(-123456));
+    EXPECT_EQ(read(), 1234.0);
+    EXPECT_EQ(units, -123456);
+    EXPECT_EQ(TableOf(*Make<VEKPrtImageElt>(origin, 1.0, 1.0, units, VEKMath2x2Matrix())), nullptr);
 }
 
 namespace {
@@ -171,7 +215,7 @@ TEST(BitmapImage, SetParametersKeepsTheOldImage) {
     EXPECT_EQ(Count(first), 2UL);
     bitmap->SetParameters(VEKMathPoint2D(), 5.0, 6.0, 45.0, first.Get());
     EXPECT_EQ(Count(first), 2UL) << "one released, one taken";
-    bitmap->SetParameters(VEKMathPoint2D(), 5.0, 6.0, 45.0, second.Get());
+    bitmap->SetParameters(VEKMathPoint2D(7, 8), 5.0, 6.0, 45.0, second.Get());
     EXPECT_EQ(Count(first), 2UL) << "the old image keeps the reference";
     EXPECT_EQ(Count(second), 2UL);
     float orientation = 0;
@@ -182,6 +226,9 @@ TEST(BitmapImage, SetParametersKeepsTheOldImage) {
     VEKPixelImage* image = nullptr;
     bitmap->GetParameters(origin, width, height, wide, image);
     EXPECT_EQ(wide, static_cast<double>(0.1F)) << "narrowed when it was constructed";
+    EXPECT_EQ(origin, VEKMathPoint2D(7, 8));
+    EXPECT_EQ(width * 10 + height, 56.0);
+    EXPECT_EQ(image, second.Get());
     bitmap->SetParameters(origin, 0, 0, 0, nullptr);
     EXPECT_EQ(Count(second), 2UL);
     first->Release();
@@ -193,6 +240,8 @@ TEST(BitmapImage, HoldsTheOnlyReference) {
     bitmap->SetPixelImage(Make<VEKPixelImage>(1, 1).Get());
     bitmap->SetParameters(VEKMathPoint2D(), 0, 0, 0, PixelsOf(*bitmap));
     EXPECT_EQ(Count(PixelsOf(*bitmap)), 1UL) << "passed back to itself it survives";
+    bitmap->SetPixelImage(PixelsOf(*bitmap));
+    EXPECT_EQ(Count(PixelsOf(*bitmap)), 1UL) << "by its own setter, too";
     bitmap->SetPixelImage(nullptr);
 }
 
@@ -201,6 +250,16 @@ TEST(BitmapImage, CopiesShareAndDuplicatesCopy) {
     const auto bitmap = Make<VEKPrtBitmapImageElt>();
     bitmap->SetPixelImage(image.Get());
     bitmap->SetPixelImage(image.Get());
+    double width = 9, height = 9;
+    VEKMathPoint2D origin(9, 9);
+    float orientation = 9;
+    bitmap->GetOrigin(origin);
+    bitmap->GetSize(width, height);
+    bitmap->GetOrientation(orientation);
+    EXPECT_EQ(origin, VEKMathPoint2D());
+    EXPECT_EQ(width + height + static_cast<double>(orientation), 0.0);
+    bitmap->SetOrigin(VEKMathPoint2D(1, 2));
+    bitmap->SetSize(3, 4);
     bitmap->SetOrientation(12.5F);
     EXPECT_EQ(Count(image), 2UL);
     const auto copy = Make<VEKPrtBitmapImageElt>(*bitmap);
@@ -210,11 +269,22 @@ TEST(BitmapImage, CopiesShareAndDuplicatesCopy) {
     EXPECT_EQ(Count(image), 3UL);
     EXPECT_NE(PixelsOf(*duplicate), image.Get());
     EXPECT_EQ(Count(PixelsOf(*duplicate)), 1UL);
-    float orientation = 0;
-    duplicate->GetOrientation(orientation);
-    EXPECT_EQ(orientation, 12.5F);
+    for (const auto& each : {copy, duplicate}) {
+        each->GetOrigin(origin);
+        each->GetSize(width, height);
+        each->GetOrientation(orientation);
+        EXPECT_EQ(origin, VEKMathPoint2D(1, 2));
+        EXPECT_EQ(width * 10 + height, 34.0);
+        EXPECT_EQ(orientation, 12.5F);
+    }
     VEKRef<VEKPrtBitmapImageElt> sharing;
-    WithFault(1, [&] { sharing = Duplicated(*bitmap); });
-    EXPECT_EQ(PixelsOf(*sharing), image.Get()) << "an image that cannot be copied stays shared";
-    EXPECT_EQ(Count(image), 4UL);
+    struct Uncopyable : VEKPixelImage {
+        Uncopyable() : VEKPixelImage(1, 1) {}
+        VEKPixelImage* Clone() const override { return nullptr; }
+    };
+    const auto uncopyable = Make<Uncopyable>();
+    bitmap->SetPixelImage(uncopyable.Get());
+    sharing = Duplicated(*bitmap);
+    EXPECT_EQ(PixelsOf(*sharing), uncopyable.Get()) << "an image that cannot be copied stays shared";
+    EXPECT_EQ(Count(uncopyable), 3UL);
 }

@@ -43,6 +43,13 @@ const Row g_rows[] = {
     {"VEKPrtTextElt", 448, &meta_object__13VEKPrtTextElt},
 };
 
+// The very first registration, before any test: the bases run out of memory.  What is registered later must
+// have its base all the same.
+VEKMetaClass* const g_withoutMemory = [] {
+    AllocationFaults faults(0, false);
+    return VEKPrtTextElt::MetaObject();
+}();
+
 // The compiler's own name of a class: its length, then the name.
 const Row& RowOf(const std::type_info& iType) {
     const char* const name = iType.name() + std::strspn(iType.name(), "0123456789");
@@ -72,6 +79,8 @@ TYPED_TEST(EveryElement, HasItsOwnMetaObject) {
               isBase ? VEKBaseUnknown::MetaObject() : VEKPrtGraphicPrimitiveElt::MetaObject());
     EXPECT_EQ(TypeParam::ClassName(), meta->GetName());
     EXPECT_EQ(TypeParam::ClassId(), meta->GetId());
+    EXPECT_EQ(TypeParam::ClassId(), "PrintBase." + std::string(row.name));
+    EXPECT_EQ(g_withoutMemory, nullptr);
 
     const auto element = Make<TypeParam>();
     EXPECT_EQ(element->GetMetaObject(), meta);
@@ -79,6 +88,16 @@ TYPED_TEST(EveryElement, HasItsOwnMetaObject) {
     for (const char* const kind : {row.name, "VEKPrtGraphicPrimitiveElt", "VEKBaseUnknown"})
         EXPECT_EQ(element->IsAKindOf(kind), 1) << kind;
     EXPECT_EQ(element->IsAKindOf(isBase ? "VEKPrtLineElt" : "VEKPrtModel"), 0);
+
+    struct Derived : TypeParam {
+        VEKMetaClass* GetMetaObject() const override { return nullptr; }
+    };
+    EXPECT_EQ(Make<Derived>()->IsA(), meta->GetName()) << "the class that the query stands in";
+    EXPECT_EQ(Make<Derived>()->IsAKindOf(row.name), 1);
+    VEKMetaClass* const other = VEKBaseUnknown::MetaObject();
+    *row.cache = other;
+    EXPECT_EQ(TypeParam::MetaObject(), other) << "what the cache holds is not looked up again";
+    *row.cache = meta;
 }
 
 TYPED_TEST(EveryElement, CarriesIdentityOnlyWhereItShould) {
@@ -124,6 +143,7 @@ TEST(BaseElement, DuplicateLeavesTheDataWordsOut) {
     int host = 0;
     source->SetImpl(&host);
     EXPECT_EQ(Duplicated(*source)->GetImpl(), nullptr);
+    EXPECT_EQ(Make<VEKPrtGraphicPrimitiveElt>(*source)->GetImpl(), nullptr);
 }
 
 namespace {
@@ -161,6 +181,40 @@ void ExpectSlots(const char* iClass, std::size_t iFirst, Members... iMembers) {
 #define CHILDREN(C) &C::AddChild, &C::RemoveChild, &C::GetChildren
 
 } // namespace
+
+// What the slots do not show: constness, result types, widths.
+template <class Expected, class Member>
+constexpr bool Is(Member) {
+    return std::is_same<Member, Expected>::value;
+}
+template <class Class>
+using Lends = void (Class::*)(VEKListPtrVEKPrtGraphicPrimitiveElt*&);
+using LendsRegions = void (VEKPrtClosedFigureElt::*)(VEKListPtrVEKPrtClosedFigureRegionElt*&);
+using ImageLends = void (VEKPrtImageElt::*)(VEKListPtrVEKPrtGraphicPrimitiveElt*&) const;
+using ModelLends = void (VEKPrtModel::*)(VEKListPtrVEKPrtImageElt*&) const;
+static_assert(Is<Lends<VEKPrtGroupElt>>(&VEKPrtGroupElt::GetChildren));
+static_assert(Is<Lends<VEKPrtPatternElt>>(&VEKPrtPatternElt::GetChildren));
+static_assert(Is<Lends<VEKPrtSymbolElt>>(&VEKPrtSymbolElt::GetChildren));
+static_assert(Is<Lends<VEKPrtClosedFigureRegionElt>>(&VEKPrtClosedFigureRegionElt::GetChildren));
+static_assert(Is<LendsRegions>(&VEKPrtClosedFigureElt::GetChildren));
+static_assert(Is<ImageLends>(&VEKPrtImageElt::GetChildren) && Is<ModelLends>(&VEKPrtModel::GetImages));
+using S = VEKPrtStrokeAttributes;
+using F = VEKPrtFillAttributes;
+using M = VEKPrtMarkerAttributes;
+using T = VEKPrtTextAttributes;
+static_assert(Is<void (VEKPrtImageElt::*)(VEKPrtColourTable*&)>(&VEKPrtImageElt::GetColourTable));
+static_assert(Is<void (S::*)(unsigned char&)>(&S::GetStrokeColourTransparency));
+static_assert(Is<void (F::*)(unsigned char&)>(&F::GetFillColourTransparency));
+static_assert(Is<void (F::*)(VEKPixelImage*&, VEKMathVector2D&, VEKMathVector2D&)>(&F::GetPattern));
+static_assert(Is<void (M::*)(VEKPrintMarkerAttribute&)>(&M::GetMarkerStyle));
+static_assert(Is<int (S::*)(const S&) const>(&S::operator==));
+static_assert(Is<int (F::*)(const F&) const>(&F::operator==));
+static_assert(Is<int (T::*)(const T&) const>(&T::operator==));
+template <class... Enumerations>
+constexpr bool areInts = (std::is_same<std::underlying_type_t<Enumerations>, int>::value && ...);
+static_assert(
+    areInts<VEKPrtDrawStyle, VEKPrtImageUnits, VEKPrtFillStyle, VEKPrtFillRule, VEKPrtTextWritingMode,
+            VEKPrintLineAttribute, VEKPrintMarkerAttribute, VEKPrintTextAttribute, VEKPrintTransformType>);
 
 TEST(VirtualTables, OfTheBase) {
     using B = VEKPrtGraphicPrimitiveElt;

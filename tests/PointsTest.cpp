@@ -63,6 +63,7 @@ TYPED_TEST(PointArrayList, FirstPosition) {
                  rounds                     ? Values{0, 0, 1, 2}
                  : readsFromZero<TypeParam> ? Values{0, 0, 1, 2, 0, 0}
                                             : Values{1, 2, 0, 0, 3, 4});
+    WithFault(0, [&] { ExpectPoints(TypeParam(list), rounds ? 2 : 3, g_null, "memory out"); });
 }
 
 TYPED_TEST(EveryPointArray, ConstructsFromArrays) {
@@ -78,6 +79,11 @@ TYPED_TEST(EveryPointArray, ConstructsFromArrays) {
         const float narrow[] = {1.5F, 0.1F};
         ExpectPoints(TypeParam(narrow, 1), 1, {1.5, static_cast<double>(0.1F)});
     }
+    if constexpr (std::is_same<TypeParam, VEKPrtPolygonElt>::value) {
+        auto style = static_cast<VEKPrtDrawStyle>(-1);
+        TypeParam(g_five, 1).GetDrawStyle(style);
+        EXPECT_EQ(style, 1);
+    }
 }
 
 TYPED_TEST(EveryPointArray, ReplacesAsGiven) {
@@ -91,6 +97,11 @@ TYPED_TEST(EveryPointArray, ReplacesAsGiven) {
     ExpectPoints(*element, 3, {7, 8, 9, 10, 0, 0}, "from inside its own array, as far as that goes");
     element->SetPoints(g_five, 0);
     ExpectPoints(*element, 0, {}, "an array of no length");
+    element->GetPoints(own, count);
+    element->SetPoints(own, 2);
+    ExpectPoints(*element, 2, {0, 0, 0, 0}, "nothing to read in an own array of no length");
+    element->SetPoints(g_five, INT_MIN);
+    ExpectPoints(*element, INT_MIN, g_null);
     element->SetPoints(g_five, -3);
     ExpectPoints(*element, -3, g_null);
     WithFault(0, [&] { element->SetPoints(g_five, 4); });
@@ -114,8 +125,8 @@ TYPED_TEST(EveryPointArray, CopiesItsArray) {
     ExpectPoints(*target, 4, four, "assigned to itself");
     *target = *Make<TypeParam>(g_five, 0);
     ExpectPoints(*target, 0, g_null, "an array of no length is not copied");
-    *copy = *Make<TypeParam>();
-    ExpectPoints(*copy, 0, g_null);
+    *copy = *Make<TypeParam>(g_five, -3);
+    ExpectPoints(*copy, 0, g_null, "a source without an array has no count either");
     WithFault(0, [&] { *copy = *duplicate; });
     ExpectPoints(*copy, 4, g_null, "memory out: the source's count");
     WithSelfCopy<TypeParam>([](const TypeParam& iCopy) { ExpectPoints(iCopy, 0, g_null); });
@@ -179,9 +190,11 @@ TEST(PolyPolygon, HoldsPointsAndCounts) {
     EXPECT_EQ(PolygonsOf(P(g_five, counts, -1), 0), (Polygons{g_null, g_noCounts, -1}));
     EXPECT_EQ(PolygonsOf(*set(g_five, nullptr, 2), 0), (Polygons{{}, {0, 0}, 2}));
     EXPECT_EQ(PolygonsOf(*set(nullptr, counts, 2), 3), (Polygons{{0, 0, 0, 0, 0, 0}, {2, 1}, 2}));
-    const int huge[] = {INT_MAX, INT_MAX, 2};
-    EXPECT_EQ(PolygonsOf(*set(g_five, huge + 2, 1), 2).count, 1);
+    const int huge[] = {INT_MAX, INT_MAX};
     WithFault(1, [&] { EXPECT_EQ(PolygonsOf(P(g_five, huge, 2), 0).counts[1], INT_MAX); });
+    auto style = static_cast<VEKPrtDrawStyle>(-1);
+    P(g_five, counts, -1).GetDrawStyle(style);
+    EXPECT_EQ(style, 1);
 }
 
 TEST(PolyPolygon, CopiesWhatIsThere) {
@@ -195,6 +208,15 @@ TEST(PolyPolygon, CopiesWhatIsThere) {
     const int zero[] = {0};
     *target = *Make<P>(g_five, zero, 1);
     EXPECT_EQ(PolygonsOf(*target, 0), (Polygons{g_null, g_noCounts, 0})) << "a source without a point array";
+    const int cancelling[] = {2, -2};
+    const auto empty = Make<P>();
+    empty->SetPoints(g_five, cancelling, 2);
+    *target = *empty;
+    EXPECT_EQ(PolygonsOf(*target, 0), (Polygons{g_null, {2, -2}, 2}))
+        << "an array of no length is not copied";
+    *target = *source;
+    *target = *std::as_const(target).Get();
+    EXPECT_EQ(PolygonsOf(*target, 3), three) << "assigned to itself";
 
     VEKRef<P> lost = Make<P>();
     WithFault(1, [&] { lost->SetPoints(g_five, counts, 2); });
@@ -278,6 +300,11 @@ TEST(NURBS, NeedsAllArraysAndAPositiveCount) {
         EXPECT_EQ(DataOf(*curve).second, 2.0F);
         curve->SetParameters(3, 2, g_points, g_knots, 0.5F, 2.0F, g_weights);
         EXPECT_NE(DataOf(*curve).knots, nullptr);
+        for (int missing = 0; missing < 3; ++missing) {
+            curve->SetParameters(3, 2, missing == 0 ? none : g_points, missing == 1 ? none : g_knots, 0.5F,
+                                 2.0F, missing == 2 ? none : g_weights);
+            ExpectNurbs(*curve, g_null, g_null, g_null, 3, 2, 0.5F, 2.0F);
+        }
         curve->SetParameters(4, -2, g_points, g_knots, 0.5F, 3.0F, g_weights);
         ExpectNurbs(*curve, g_null, g_null, g_null, 4, -2, 0.5F, 3.0F);
     }
@@ -297,7 +324,18 @@ TEST(NURBS, CopiesResetTheBounds) {
         const NurbsData data = DataOf(*target);
         EXPECT_EQ(data.count, 2);
         EXPECT_EQ(!data.points + 2 * !data.knots + 4 * !data.weights, 1 << nth) << "the others stay";
+        EXPECT_EQ((data.points ? data.points[0] : 0) + (data.knots ? data.knots[0] : 0), 0.0) << "uncopied";
+        ExpectNurbs(*Make<N>(*target), g_null, g_null, g_null, 3, 0, 0.0F, 1.0F);
+        WithFault(nth, [&] { target->SetParameters(3, 2, g_points, g_knots, 0.0F, 1.0F, g_weights); });
+        const double* const got = nth == 0 ? DataOf(*target).knots : DataOf(*target).points;
+        EXPECT_EQ(got[0], 0.0) << "uncopied";
     }
+    WithFault(1, [&] {
+        EXPECT_NE(DataOf(N(INT_MAX, 2, g_points, g_knots, 0.0F, 1.0F, g_weights)).weights, nullptr)
+            << "so many knots are asked for";
+    });
+    *curve = *std::as_const(curve).Get();
+    ExpectNurbs(*curve, {1, 2, 3, 4}, {10, 11, 12, 13, 14}, {20, 21}, 3, 2, 0.25F, 0.75F);
     WithSelfCopy<N>([](const N& iCopy) { ExpectNurbs(iCopy, g_null, g_null, g_null, 0, 0, 0.0F, 1.0F); });
 }
 

@@ -1,4 +1,5 @@
 #include <functional>
+#include <set>
 #include <sstream>
 #include <vector>
 
@@ -112,34 +113,33 @@ std::string Geometry(const VEKPrtTextElt& e) {
     return Row(p, t.ToUtf8(), (font ? font->GetFamily() : "-"));
 }
 
+template <class Shape>
+auto StyleOf(const Shape& iShape, int) -> decltype(iShape.GetDrawStyle(std::declval<VEKPrtDrawStyle&>()), 0) {
+    auto style = static_cast<VEKPrtDrawStyle>(-1);
+    iShape.GetDrawStyle(style);
+    return style;
+}
+template <class Shape>
+int StyleOf(const Shape&, long) {
+    return 1; // it has none
+}
+
 // A shape, what its constructors and its setters make of it, and what its copies must carry.
 template <class Shape>
 void Check(const char* iDefault, const VEKRef<Shape>& iConstructed, const char* iGeometry, Shape& ioSet,
            const std::vector<std::function<void(Shape&)>>& iSetters, const char* iSet) {
     EXPECT_EQ(Geometry(*Make<Shape>()), iDefault);
     EXPECT_EQ(Geometry(*iConstructed), iGeometry);
+    EXPECT_EQ(StyleOf(*iConstructed, 0), 1);
+    iSetters.front()(ioSet);
+    EXPECT_EQ(Geometry(ioSet), iGeometry) << "the first setter is given what the constructor is";
     for (const auto& set : iSetters)
         set(ioSet);
     EXPECT_EQ(Geometry(ioSet), iSet);
-    VEKPrtTransformAttributes transform;
-    transform.AddTranslation(VEKMathVector2D(1, 2));
-    ioSet.SetTransformAttributes(transform);
-    VEKPrtStrokeAttributes stroke;
-    const float dashes[] = {1, 2};
-    stroke.SetStrokeTypePattern(dashes, 2);
-    ioSet.SetStrokeAttributes(stroke);
     const auto assigned = Make<Shape>();
     *assigned = ioSet;
-    for (const auto& copy : {Make<Shape>(ioSet), assigned, Duplicated(ioSet)}) {
+    for (const auto& copy : {Make<Shape>(ioSet), assigned, Duplicated(ioSet)})
         EXPECT_EQ(Geometry(*copy), iSet);
-        VEKPrtStrokeAttributes copiedStroke;
-        VEKPrtTransformAttributes copiedTransform;
-        copy->GetStrokeAttributes(copiedStroke);
-        copy->GetTransformAttributes(copiedTransform);
-        EXPECT_TRUE(copiedStroke == stroke);
-        VEKMathVector2D vector;
-        EXPECT_EQ(copiedTransform.GetTranslation(0, vector), 1);
-    }
     WithSelfCopy<Shape>([&](const Shape& iCopy) { EXPECT_EQ(Geometry(iCopy), iDefault); });
 }
 
@@ -149,26 +149,28 @@ TEST(Shapes, StoreWhatTheyAreGiven) {
     {
         using S = VEKPrtLineElt;
         Check<S>("0,0 0,0", Make<S>(Point(1, 2), Point(3, 4)), "1,2 3,4", *Make<S>(),
-                 {[](S& s) { s.SetParameters(Point(5, 6), Point(7, 8)); },
+                 {[](S& s) { s.SetParameters(Point(1, 2), Point(3, 4)); },
                   [](S& s) { s.SetStartPoint(Point(9, 6)); }, [](S& s) { s.SetEndPoint(Point(-7, 8)); }},
                  "9,6 -7,8");
     }
     {
         using S = VEKPrtRectangleElt;
         Check<S>("0,0 0,0", Make<S>(Point(3, 4), Point(1, 2)), "3,4 1,2", *Make<S>(),
-                 {[](S& s) { s.SetPoints(Point(8, 8), Point(7, 9)); }}, "8,8 7,9");
+                 {[](S& s) { s.SetPoints(Point(3, 4), Point(1, 2)); },
+                  [](S& s) { s.SetPoints(Point(8, 8), Point(7, 9)); }},
+                 "8,8 7,9");
     }
     {
         using S = VEKPrtCircleElt;
         Check<S>("0,0 0", Make<S>(Point(1, 2), -3.0), "1,2 -3", *Make<S>(),
-                 {[](S& s) { s.SetParameters(Point(5, 6), 7.0); }, [](S& s) { s.SetRadius(8.0); },
+                 {[](S& s) { s.SetParameters(Point(1, 2), -3.0); }, [](S& s) { s.SetRadius(8.0); },
                   [](S& s) { s.SetCenter(Point(9, 9)); }},
                  "9,9 8");
     }
     {
         using S = VEKPrtCircularArcElt;
         Check<S>("0,0 0 0 0", Make<S>(Point(1, 2), 3.0, 20.0F, 10.0F), "1,2 3 20 10", *Make<S>(),
-                 {[](S& s) { s.SetParameters(Point(5, 6), 7.0, 1.0F, 2.0F); },
+                 {[](S& s) { s.SetParameters(Point(1, 2), 3.0, 20.0F, 10.0F); },
                   [](S& s) { s.SetStartAngle(400.0F); }, [](S& s) { s.SetEndAngle(-3.0F); },
                   [](S& s) { s.SetRadius(8.0); }, [](S& s) { s.SetCenter(Point(9, 9)); }},
                  "9,9 8 400 -3");
@@ -176,7 +178,7 @@ TEST(Shapes, StoreWhatTheyAreGiven) {
     {
         using S = VEKPrtEllipseElt;
         Check<S>("0,0 0 0 0", Make<S>(Point(1, 2), 3.0, 4.0, 5.0F), "1,2 3 4 5", *Make<S>(),
-                 {[](S& s) { s.SetParameters(Point(5, 6), 7.0, 1.0, 2.0F); },
+                 {[](S& s) { s.SetParameters(Point(1, 2), 3.0, 4.0, 5.0F); },
                   [](S& s) { s.SetHorzRadius(8.0); }, [](S& s) { s.SetVertRadius(-3.0); },
                   [](S& s) { s.SetSlope(11.0F); }, [](S& s) { s.SetCenter(Point(9, 9)); }},
                  "9,9 8 -3 11");
@@ -185,7 +187,7 @@ TEST(Shapes, StoreWhatTheyAreGiven) {
         using S = VEKPrtEllipticalArcElt;
         Check<S>("0,0 0 0 0 0 0", Make<S>(Point(1, 2), 2.0, 1.0, 10.0F, 20.0F, 30.0F), "1,2 2 1 10 20 30",
                  *Make<S>(),
-                 {[](S& s) { s.SetParameters(Point(5, 6), 7.0, 8.0, 1.0F, 2.0F, 3.0F); },
+                 {[](S& s) { s.SetParameters(Point(1, 2), 2.0, 1.0, 10.0F, 20.0F, 30.0F); },
                   [](S& s) { s.SetHorzRadius(4.0); }, [](S& s) { s.SetVertRadius(5.0); },
                   [](S& s) { s.SetStartAngle(6.0F); }, [](S& s) { s.SetEndAngle(7.0F); },
                   [](S& s) { s.SetSlope(12.0F); }, [](S& s) { s.SetCenter(Point(9, 9)); }},
@@ -194,7 +196,7 @@ TEST(Shapes, StoreWhatTheyAreGiven) {
     {
         using S = VEKPrtMarkerElt;
         Check<S>("0,0 0 0", Make<S>(Point(1, 2), -3.0), "1,2 -3 0", *Make<S>(),
-                 {[](S& s) { s.SetParameters(Point(5, 6), 7.0); }, [](S& s) { s.SetSize(8.0); },
+                 {[](S& s) { s.SetParameters(Point(1, 2), -3.0); }, [](S& s) { s.SetSize(8.0); },
                   [](S& s) {
                       VEKPrtMarkerAttributes marker;
                       marker.SetMarkerStyle(VEKPrintMarkerDisc);
@@ -207,7 +209,7 @@ TEST(Shapes, StoreWhatTheyAreGiven) {
         using S = VEKPrtTextElt;
         static VEKFont font("Sans");
         Check<S>("0,0  -", Make<S>(Point(1, 2), VEKUnicodeString("x")), "1,2 x -", *Make<S>(),
-                 {[](S& s) { s.SetParameters(Point(5, 6), "y"); }, [](S& s) { s.SetText("z"); },
+                 {[](S& s) { s.SetParameters(Point(1, 2), "x"); }, [](S& s) { s.SetText("z"); },
                   [](S& s) {
                       VEKPrtTextAttributes text;
                       text.SetFont(&font);
@@ -231,6 +233,32 @@ VEKPrtDrawStyle StyleOf(const Shape& iShape) {
     return style;
 }
 
+template <class Element>
+class EveryStroked : public testing::Test {};
+TYPED_TEST_SUITE(EveryStroked, Stroked, );
+template <class Element>
+class EveryPlaced : public testing::Test {};
+TYPED_TEST_SUITE(EveryPlaced, PlacedOnly, );
+
+// The copies, in the order copied, assigned, duplicated, of an element with a transform.
+template <class Element>
+std::vector<VEKRef<Element>> CopiesWithTransform(Element& ioSource) {
+    VEKPrtTransformAttributes transform;
+    transform.AddRotation(5.0F);
+    ioSource.SetTransformAttributes(transform);
+    const auto assigned = Make<Element>();
+    *assigned = ioSource;
+    std::vector<VEKRef<Element>> copies = {Make<Element>(ioSource), assigned, Duplicated(ioSource)};
+    for (const auto& copy : copies) {
+        VEKPrtTransformAttributes copied;
+        copy->GetTransformAttributes(copied);
+        float angle = 0;
+        EXPECT_EQ(copied.GetRotation(0, angle), 1);
+        EXPECT_EQ(angle, 5.0F);
+    }
+    return copies;
+}
+
 template <class Shape>
 VEKPixelImage* ImageOf(const Shape& iShape) {
     VEKPrtFillAttributes fill;
@@ -242,6 +270,36 @@ VEKPixelImage* ImageOf(const Shape& iShape) {
 }
 
 } // namespace
+
+TYPED_TEST(EveryPlaced, CopiesCarryTheTransform) { CopiesWithTransform(*Make<TypeParam>()); }
+
+TYPED_TEST(EveryStroked, CopiesCarryTheRecordsByTheirRecipe) {
+    const auto source = Make<TypeParam>();
+    const long before = Allocations();
+    Duplicated(*source);
+    const long bare = Allocations() - before;
+    VEKPrtStrokeAttributes stroke;
+    const float dashes[] = {1, 2};
+    stroke.SetStrokeTypePattern(dashes, 2);
+    source->SetStrokeAttributes(stroke);
+    const std::set<std::string> copiesFirst = {"VEKPrtRectangleElt",
+                                               "VEKPrtPolylineElt",
+                                               "VEKPrtPolygonElt",
+                                               "VEKPrtPolyCubicBezierElt",
+                                               "VEKPrtPolyQuadraticBezierElt",
+                                               "VEKPrtPolyPolygonElt",
+                                               "VEKPrtNURBSElt"};
+    const long between = Allocations();
+    Duplicated(*source);
+    const long cost = Allocations() - between - bare;
+    EXPECT_EQ(cost, copiesFirst.count(TypeParam::ClassName()) ? 2 : 1)
+        << "the dashes are copied once for each step of the recipe";
+    for (const auto& copy : CopiesWithTransform(*source)) {
+        VEKPrtStrokeAttributes copied;
+        copy->GetStrokeAttributes(copied);
+        EXPECT_EQ(copied == stroke, 1);
+    }
+}
 
 TYPED_TEST(EveryFilled, KeepsAnyDrawStyle) {
     const auto shape = Make<TypeParam>();
