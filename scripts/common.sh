@@ -4,6 +4,10 @@ step() { printf '\n== %s\n' "$*"; }
 
 # require PACKAGE...: installs the Debian packages that are missing, or says which they are and ends.
 require() {
+    if ! command -v dpkg-query > /dev/null; then
+        echo "Not a Debian system; what these packages hold must be there: $*"
+        return 0
+    fi
     missing=
     for package in "$@"; do
         dpkg-query -W -f='${db:Status-Status}' "$package" 2> /dev/null | grep -qx installed || missing="$missing $package"

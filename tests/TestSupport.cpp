@@ -3,12 +3,15 @@
 #include <cstdlib>
 #include <new>
 
-#if defined(__has_feature)
-#if __has_feature(address_sanitizer)
-#define __SANITIZE_ADDRESS__ 1
-#endif
-#endif
+// g++ says by a macro, clang by a feature, that the address sanitizer is on.
 #if defined(__SANITIZE_ADDRESS__)
+#define WITH_LEAK_CHECK
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define WITH_LEAK_CHECK
+#endif
+#endif
+#if defined(WITH_LEAK_CHECK)
 #include <sanitizer/lsan_interface.h>
 #define LSAN_DISABLE() __lsan_disable()
 #define LSAN_ENABLE() __lsan_enable()

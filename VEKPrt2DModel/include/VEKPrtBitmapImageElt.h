@@ -59,7 +59,6 @@ public:
     virtual void GetTransformAttributes(VEKPrtTransformAttributes& oAttributes) const;
 
 private:
-    VEKPRT2DMODEL_LOCAL void HoldImage(VEKPixelImage* iImage);
     VEKPRT2DMODEL_LOCAL void CopyOwn(const VEKPrtBitmapImageElt& iOther);
 
     VEKMathPoint2D _origin;

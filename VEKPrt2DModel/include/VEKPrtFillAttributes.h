@@ -55,7 +55,6 @@ public:
 
 private:
     VEKPRT2DMODEL_LOCAL void CopyPlainFields(const VEKPrtFillAttributes& iOther);
-    VEKPRT2DMODEL_LOCAL void HoldImage(VEKPixelImage* iImage);
 
     VEKPrtFillStyle _style = VEKPrtFillSolid;
     VEKPrtFillRule _rule = VEKPrtFillEvenOdd;

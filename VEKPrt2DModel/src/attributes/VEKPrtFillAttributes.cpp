@@ -1,21 +1,21 @@
 #include "VEKPrtFillAttributes.h"
 
-#include "VEKPixelImage.h"
+#include "HeldImage.h"
 
 VEKPrtFillAttributes::VEKPrtFillAttributes() = default;
 
 VEKPrtFillAttributes::VEKPrtFillAttributes(const VEKPrtFillAttributes& iOther) : VEKPrtFillAttributes() {
     if (&iOther == this) return;
     CopyPlainFields(iOther);
-    HoldImage(iOther._image);
+    vekprt::HoldImage(_image, iOther._image);
 }
 
-VEKPrtFillAttributes::~VEKPrtFillAttributes() { HoldImage(nullptr); }
+VEKPrtFillAttributes::~VEKPrtFillAttributes() { vekprt::HoldImage(_image, nullptr); }
 
 VEKPrtFillAttributes& VEKPrtFillAttributes::operator=(const VEKPrtFillAttributes& iOther) {
     if (&iOther == this) return *this;
     CopyPlainFields(iOther);
-    HoldImage(iOther._image);
+    vekprt::HoldImage(_image, iOther._image);
     return *this;
 }
 
@@ -27,14 +27,6 @@ void VEKPrtFillAttributes::CopyPlainFields(const VEKPrtFillAttributes& iOther) {
     _firstVector = iOther._firstVector;
     _secondVector = iOther._secondVector;
     _refPoint = iOther._refPoint;
-}
-
-// Releases the old image before it takes the new one.
-void VEKPrtFillAttributes::HoldImage(VEKPixelImage* iImage) {
-    if (iImage == _image) return;
-    if (_image) _image->Release();
-    _image = iImage;
-    if (_image) _image->AddRef();
 }
 
 // The target's image is overwritten unreleased: an element that was assigned before its fill is duplicated
@@ -67,7 +59,7 @@ void VEKPrtFillAttributes::GetFillColourTransparency(unsigned char& oTransparenc
 
 void VEKPrtFillAttributes::SetPattern(VEKPixelImage* iImage, const VEKMathVector2D& iFirst,
                                       const VEKMathVector2D& iSecond) {
-    HoldImage(iImage);
+    vekprt::HoldImage(_image, iImage);
     _firstVector = iFirst;
     _secondVector = iSecond;
 }

@@ -1,7 +1,7 @@
 #include "VEKPrtBitmapImageElt.h"
 
 #include "ElementProtocol.h"
-#include "VEKPixelImage.h"
+#include "HeldImage.h"
 
 VEKPRT_IMPLEMENT_ELEMENT(VEKPrtBitmapImageElt, 20)
 
@@ -10,7 +10,7 @@ VEKPrtBitmapImageElt::VEKPrtBitmapImageElt() = default;
 VEKPrtBitmapImageElt::VEKPrtBitmapImageElt(const VEKMathPoint2D& iOrigin, double iWidth, double iHeight,
                                            double iOrientation, VEKPixelImage* iImage)
     : _origin(iOrigin), _width(iWidth), _height(iHeight), _orientation(static_cast<float>(iOrientation)) {
-    HoldImage(iImage);
+    vekprt::HoldImage(_image, iImage);
 }
 
 VEKPrtBitmapImageElt::~VEKPrtBitmapImageElt() {
@@ -23,16 +23,8 @@ void VEKPrtBitmapImageElt::CopyOwn(const VEKPrtBitmapImageElt& iOther) {
     _width = iOther._width;
     _height = iOther._height;
     _orientation = iOther._orientation;
-    HoldImage(iOther._image);
+    vekprt::HoldImage(_image, iOther._image);
     _transform = iOther._transform;
-}
-
-// Releases the old image before it takes the new one.
-void VEKPrtBitmapImageElt::HoldImage(VEKPixelImage* iImage) {
-    if (iImage == _image) return;
-    if (_image) _image->Release();
-    _image = iImage;
-    if (_image) _image->AddRef();
 }
 
 void VEKPrtBitmapImageElt::Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) {
@@ -58,7 +50,7 @@ void VEKPrtBitmapImageElt::GetSize(double& oWidth, double& oHeight) const {
 void VEKPrtBitmapImageElt::SetOrientation(float iOrientation) { _orientation = iOrientation; }
 void VEKPrtBitmapImageElt::GetOrientation(float& oOrientation) const { oOrientation = _orientation; }
 
-void VEKPrtBitmapImageElt::SetPixelImage(VEKPixelImage* iImage) { HoldImage(iImage); }
+void VEKPrtBitmapImageElt::SetPixelImage(VEKPixelImage* iImage) { vekprt::HoldImage(_image, iImage); }
 void VEKPrtBitmapImageElt::GetPixelImage(VEKPixelImage*& oImage) const { oImage = _image; }
 
 // The test is the wrong way round on purpose: the image already held is released (after it has gained its
