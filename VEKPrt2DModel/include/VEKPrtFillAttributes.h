@@ -41,6 +41,7 @@ public:
 
     /// 255, the default, is opaque.
     virtual void SetFillColourTransparency(unsigned char iTransparency);
+    /// Not const, unlike its neighbours: the mangled name is part of the binary interface.
     virtual void GetFillColourTransparency(unsigned char& oTransparency);
 
     /// Takes its own reference on \p iImage, which may be null, and gives back the one it had; the
@@ -48,7 +49,7 @@ public:
     virtual void SetPattern(VEKPixelImage* iImage, const VEKMathVector2D& iFirst,
                             const VEKMathVector2D& iSecond);
 
-    /// Lends the image: no reference is added.
+    /// Lends the image: no reference is added.  Not const either.
     virtual void GetPattern(VEKPixelImage*& oImage, VEKMathVector2D& oFirst, VEKMathVector2D& oSecond);
     virtual void SetPatternRefPoint(const VEKMathPoint2D& iPoint);
     virtual void GetPatternRefPoint(VEKMathPoint2D& oPoint) const;

@@ -51,7 +51,8 @@ public:
     virtual void RemoveChild(VEKPrtGraphicPrimitiveElt* iChild);
 
     /// The element's own list, null until a child was added: do not delete it, do not release its
-    /// members.  Valid until the next assignment to the element or its destruction.
+    /// members.  Valid until the next assignment to the element or its destruction.  Not const except in
+    /// the image: the mangled name is part of the binary interface.
     virtual void GetChildren(VEKListPtrVEKPrtGraphicPrimitiveElt*& oChildren);
 
 private:

@@ -61,7 +61,8 @@ public:
     /// already held is kept.
     virtual void SetColourTable(VEKPrtColourTable* iTable);
 
-    /// Lends the image's own table, null if none: do not delete it.
+    /// Lends the image's own table, null if none: do not delete it.  Not const, unlike the other getters: the
+    /// mangled name is part of the binary interface.
     virtual void GetColourTable(VEKPrtColourTable*& oTable);
     /// \copydoc VEKPrtGroupElt::AddChild
     virtual void AddChild(VEKPrtGraphicPrimitiveElt* iChild);

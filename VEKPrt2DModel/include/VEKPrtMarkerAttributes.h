@@ -13,6 +13,7 @@ public:
     VEKPrtMarkerAttributes& operator=(const VEKPrtMarkerAttributes& iOther);
 
     virtual void SetMarkerStyle(VEKPrintMarkerAttribute iStyle);
+    /// Not const: the mangled name is part of the binary interface.
     virtual void GetMarkerStyle(VEKPrintMarkerAttribute& oStyle);
 
 private:

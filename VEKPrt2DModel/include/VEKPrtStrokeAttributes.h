@@ -23,6 +23,7 @@ public:
 
     /// 255, the default, is opaque.
     virtual void SetStrokeColourTransparency(unsigned char iTransparency);
+    /// Not const, unlike its neighbours: the mangled name is part of the binary interface.
     virtual void GetStrokeColourTransparency(unsigned char& oTransparency);
     virtual void SetStrokeType(VEKPrintLineAttribute iType);
     virtual void GetStrokeType(VEKPrintLineAttribute& oType) const;

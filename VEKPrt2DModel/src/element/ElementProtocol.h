@@ -12,6 +12,9 @@ namespace vekprt {
 VEKMetaClass* RetrieveMetaObject(VEKMetaClass*& ioCache, const char* iClassName, VEKMetaClass* (*iBase)(),
                                  const char* iLateType, long iSize);
 
+// The recipes of duplication.  Which one a class uses shows in what it allocates, and in what it has when
+// memory runs out in between, so each class keeps its own (EveryStroked.CopiesCarryTheRecordsByTheirRecipe).
+
 /// Duplicates by default construction, then assignment.  The new element, null when memory is out, is
 /// stored into \p oCopy before anything else, and returned with its own type.
 template <class Element, class Out>

@@ -19,6 +19,7 @@ VEKPrtDisjointPolylineElt::VEKPrtDisjointPolylineElt(const double* iPoints, int 
     if (_count > 0) vekprt::NewPoints(_points, _count, iPoints);
 }
 
+// By another recipe than the other point sequences.
 void VEKPrtDisjointPolylineElt::Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) {
     vekprt::DuplicateByAssignment(*this, oCopy);
 }
