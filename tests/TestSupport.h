@@ -7,9 +7,9 @@
 #include <cstddef>
 #include <memory>
 #include <string>
-#include <utility>
 
 #include "AllElements.h"
+#include "Make.h"
 #include "VEKPixelImage.h"
 #include "VEKRef.h"
 
@@ -46,11 +46,6 @@ public:
     DemandedLeak(const DemandedLeak&) = delete;
     DemandedLeak& operator=(const DemandedLeak&) = delete;
 };
-
-template <class T, class... Arguments>
-VEKRef<T> Make(Arguments&&... iArguments) {
-    return VEKRef<T>::Adopt(new T(std::forward<Arguments>(iArguments)...));
-}
 
 template <class T>
 unsigned long Count(T* iObject) {

@@ -129,10 +129,13 @@ void Write(SvgPage& ioPage, VEKPrtPatternElt& ioPattern) {
         ioPage.Warn(ioPattern, "a pattern whose box has no area");
         return;
     }
-    const std::vector<Elementary> transforms = TransformsOf(TransformOf(ioPattern));
-    std::string transformList;
-    for (const Elementary& transform : transforms)
-        transformList += (transformList.empty() ? "" : " ") + transform.svg;
+    const Affine outer = ioPage.map;
+    const Area covered = Covering(ioPage.area, outer);
+    std::string transforms;
+    for (const Elementary& transform : TransformsOf(TransformOf(ioPattern))) {
+        transforms += (transforms.empty() ? "" : " ") + transform.svg;
+        ioPage.map = ioPage.map * transform.map;
+    }
     const std::string id = ioPage.NewId("pattern");
     XmlWriter& xml = ioPage.xml;
     xml.Start("defs");
@@ -140,7 +143,7 @@ void Write(SvgPage& ioPage, VEKPrtPatternElt& ioPattern) {
     xml.Attribute("id", id);
     xml.Attribute("patternUnits", "userSpaceOnUse");
     BoxAttributes(xml, tile);
-    xml.OptionalAttribute("patternTransform", transformList);
+    xml.OptionalAttribute("patternTransform", transforms);
     // The content keeps the coordinates of its surroundings, not of the tile.
     xml.Start("g");
     xml.Attribute("transform", "translate(" + Pair(-tile.x, -tile.y) + ")");
@@ -148,8 +151,9 @@ void Write(SvgPage& ioPage, VEKPrtPatternElt& ioPattern) {
     xml.End();
     xml.End();
     xml.End();
+    ioPage.map = outer;
     xml.Start("rect");
-    BoxAttributes(xml, Covering(ioPage.area, ioPage.map));
+    BoxAttributes(xml, covered);
     xml.Attribute("fill", "url(#" + id + ")");
     xml.End();
 }
@@ -166,7 +170,7 @@ void Write(SvgPage& ioPage, VEKPrtClosedFigureElt& ioFigure) {
             path.Close();
         }
     ioPage.map = outer;
-    if (!path.IsFinite() && !ioPage.AreFinite(ioFigure, {NAN})) return;
+    if (!ioPage.IsFinite(ioFigure, path)) return;
     const Appearance look = AppearanceOf(ioPage, ioFigure);
     SvgElement(ioPage, ioFigure, "path")
         .Attribute("d", path.Text())

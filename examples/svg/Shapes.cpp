@@ -75,7 +75,7 @@ bool OutlineText(SvgPage& ioPage, const Element& iElement, std::string& oText) {
     Outline(ioPage, path, iElement);
     ioPage.map = outer;
     oText = path.Text();
-    return path.IsFinite() || ioPage.AreFinite(iElement, {NAN});
+    return ioPage.IsFinite(iElement, path);
 }
 
 template <class Element>

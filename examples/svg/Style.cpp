@@ -100,10 +100,15 @@ void SvgPage::Warn(const VEKPrtGraphicPrimitiveElt& iElement, const std::string&
 
 bool SvgPage::AreFinite(const VEKPrtGraphicPrimitiveElt& iElement,
                         std::initializer_list<double> iValues) const {
-    if (std::all_of(iValues.begin(), iValues.end(), [](double iValue) { return std::isfinite(iValue); }))
-        return true;
-    Warn(iElement, "values that are not finite");
-    return false;
+    const bool finite =
+        std::all_of(iValues.begin(), iValues.end(), [](double iValue) { return std::isfinite(iValue); });
+    if (!finite) Warn(iElement, "values that are not finite");
+    return finite;
+}
+
+bool SvgPage::IsFinite(const VEKPrtGraphicPrimitiveElt& iElement, const PathData& iPath) const {
+    if (!iPath.IsFinite()) Warn(iElement, "points that are not finite");
+    return iPath.IsFinite();
 }
 
 std::string SvgPage::NewId(const char* iKind) {

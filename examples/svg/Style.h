@@ -42,8 +42,9 @@ struct SvgPage {
     int definitions = 0;
 
     void Warn(const VEKPrtGraphicPrimitiveElt& iElement, const std::string& iProblem) const;
-    /// Warns when one is not a finite number.
+    // Both warn when something is not a finite number.
     bool AreFinite(const VEKPrtGraphicPrimitiveElt& iElement, std::initializer_list<double> iValues) const;
+    bool IsFinite(const VEKPrtGraphicPrimitiveElt& iElement, const PathData& iPath) const;
     /// A name for a definition, unique in the document.
     std::string NewId(const char* iKind);
     /// "#rrggbb"; black for an index that the page's table does not have.

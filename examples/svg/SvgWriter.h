@@ -14,10 +14,9 @@ class VEKPrtModel;
 /// What cannot be drawn is left out with a line on \p ioWarnings, and so is an identifier that stood before.
 /// What the model leaves to its consumers is read like this:
 /// - y points up; the origin of a page is its lower left corner; the page's matrix applies to all of it.
-/// - Angles are degrees, counter-clockwise.  Arcs run counter-clockwise from the start to the end angle, all
-/// the
-///   way round where these are equal; those of an elliptical arc are parameters of the ellipse, counted from
-///   its sloped axis.  The interior of an arc is cut off by its chord.
+/// - Angles are degrees, counter-clockwise.  Arcs run counter-clockwise from the start to the end angle, and
+///   all the way round where these are equal; those of an elliptical arc are parameters of the ellipse,
+///   counted from its sloped axis.  The interior of an arc is cut off by its chord.
 /// - Transforms are written in their order: the first one is the outermost.
 /// - A line of fixed width is as wide as it says in page units, whatever the transforms.
 /// - A dash pattern overrides the line type.  A transparency of 255 is opaque.
