@@ -30,17 +30,17 @@ TYPED_TEST(EveryContainer, KeepsChildrenInOrderWithAReferenceForEach) {
     const auto a = Line("a"), b = Line("b"), stranger = Line("x");
     {
         const auto container = Make<TypeParam>();
-        EXPECT_EQ(Ids(ChildrenOf(*container)), "null");
+        EXPECT_EQ(Ids(ListOf(*container)), "null");
         container->AddChild(nullptr);
         container->AddChild(container.Get());
         container->RemoveChild(a.Get());
-        EXPECT_EQ(Ids(ChildrenOf(*container)), "null");
+        EXPECT_EQ(Ids(ListOf(*container)), "null");
         for (const auto* const child : {&a, &b, &a})
             container->AddChild(child->Get());
-        EXPECT_EQ(Ids(ChildrenOf(*container)), "aba");
+        EXPECT_EQ(Ids(ListOf(*container)), "aba");
         EXPECT_EQ(Count(a), 3UL);
         container->RemoveChild(a.Get());
-        EXPECT_EQ(Ids(ChildrenOf(*container)), "ba") << "the first occurrence goes";
+        EXPECT_EQ(Ids(ListOf(*container)), "ba") << "the first occurrence goes";
         EXPECT_EQ(Count(a), 2UL);
         container->RemoveChild(stranger.Get());
         container->RemoveChild(container.Get());
@@ -49,7 +49,7 @@ TYPED_TEST(EveryContainer, KeepsChildrenInOrderWithAReferenceForEach) {
         EXPECT_EQ(Count(container), 1UL);
         container->RemoveChild(a.Get());
         container->RemoveChild(b.Get());
-        EXPECT_EQ(Ids(ChildrenOf(*container)), "") << "an empty list, no longer none";
+        EXPECT_EQ(Ids(ListOf(*container)), "") << "an empty list, no longer none";
         container->AddChild(a.Get());
         container->AddChild(a.Get());
     }
@@ -60,19 +60,19 @@ TYPED_TEST(EveryContainer, KeepsChildrenInOrderWithAReferenceForEach) {
 TYPED_TEST(EveryContainer, CopiesShareTheChildren) {
     const auto a = Line("a");
     const auto source = Make<TypeParam>();
-    EXPECT_EQ(Ids(ChildrenOf(*Make<TypeParam>(*source))), "null");
+    EXPECT_EQ(Ids(ListOf(*Make<TypeParam>(*source))), "null");
     source->AddChild(a.Get());
-    ChildrenOf(*source)->Append(nullptr);
+    ListOf(*source)->Append(nullptr);
     source->AddChild(a.Get());
-    EXPECT_EQ(ChildrenOf(*Duplicated(*source))->Size(), 2) << "a null entry is passed over";
+    EXPECT_EQ(ListOf(*Duplicated(*source))->Size(), 2) << "a null entry is passed over";
     {
         const auto copy = Make<TypeParam>(*source);
-        EXPECT_EQ(Ids(ChildrenOf(*copy)), "aa");
-        EXPECT_NE(ChildrenOf(*copy), ChildrenOf(*source));
+        EXPECT_EQ(Ids(ListOf(*copy)), "aa");
+        EXPECT_NE(ListOf(*copy), ListOf(*source));
         EXPECT_EQ(Count(a), 5UL);
     }
     EXPECT_EQ(Count(a), 3UL);
-    WithSelfCopy<TypeParam>([](TypeParam& ioCopy) { EXPECT_EQ(Ids(ChildrenOf(ioCopy)), "null"); });
+    WithSelfCopy<TypeParam>([](TypeParam& ioCopy) { EXPECT_EQ(Ids(ListOf(ioCopy)), "null"); });
 }
 
 TYPED_TEST(EveryContainer, DuplicatesInDepth) {
@@ -80,18 +80,18 @@ TYPED_TEST(EveryContainer, DuplicatesInDepth) {
     const auto inner = Make<VEKPrtGroupElt>();
     inner->AddChild(a.Get());
     const auto source = Make<TypeParam>();
-    EXPECT_EQ(Ids(ChildrenOf(*Duplicated(*source))), "null");
+    EXPECT_EQ(Ids(ListOf(*Duplicated(*source))), "null");
     source->AddChild(inner.Get());
     source->AddChild(a.Get());
     source->AddChild(a.Get());
     const auto copy = Duplicated(*source);
-    const auto& children = *ChildrenOf(*copy);
+    const auto& children = *ListOf(*copy);
     ASSERT_EQ(children.Size(), 3);
     a->SetID("changed");
     EXPECT_NE(children[2], children[3]) << "a child held twice becomes two";
     EXPECT_EQ(Count(static_cast<Child*>(children[2])), 1UL);
     auto* const group = static_cast<VEKPrtGroupElt*>(children[1]);
-    EXPECT_EQ(Ids(ChildrenOf(*group)) + Ids(&children), "aaa");
+    EXPECT_EQ(Ids(ListOf(*group)) + Ids(&children), "aaa");
 }
 
 namespace {
@@ -106,11 +106,11 @@ TYPED_TEST(ContainerAssign, LeavesTheLastReference) {
     const auto a = Line("a"), b = Line("b"), c = Line("c");
     const auto target = Make<TypeParam>(), source = Make<TypeParam>();
     *target = *source;
-    EXPECT_EQ(Ids(ChildrenOf(*target)), "null") << "both without a list: left alone";
+    EXPECT_EQ(Ids(ListOf(*target)), "null") << "both without a list: left alone";
     for (const auto* const child : {&a, &b, &c})
         target->AddChild(child->Get());
     *target = *source;
-    EXPECT_EQ(Ids(ChildrenOf(*target)), "") << "a list, although the source has none";
+    EXPECT_EQ(Ids(ListOf(*target)), "") << "a list, although the source has none";
     EXPECT_EQ(Count(a), 1UL);
     EXPECT_EQ(Count(b), 1UL);
     EXPECT_EQ(Count(c), 2UL) << "the walk from 0 to count - 1 misses the last";
@@ -120,7 +120,7 @@ TYPED_TEST(ContainerAssign, LeavesTheLastReference) {
     source->AddChild(b.Get());
     *target = *source;
     *target = *std::as_const(target).Get();
-    EXPECT_EQ(Ids(ChildrenOf(*target)), "ab");
+    EXPECT_EQ(Ids(ListOf(*target)), "ab");
     EXPECT_EQ(Count(b), 3UL);
 }
 
@@ -135,7 +135,7 @@ TYPED_TEST(ContainerAssign, SurvivesReleasingItsSource) {
     target->AddChild(a.Get());
     source = VEKRef<TypeParam>();
     *target = soleOwned;
-    EXPECT_EQ(Ids(ChildrenOf(*target)), "a");
+    EXPECT_EQ(Ids(ListOf(*target)), "a");
     VEKUnicodeString title;
     target->GetTitle(title);
     EXPECT_STREQ(title.ToUtf8(), "source");
@@ -168,22 +168,22 @@ TYPED_TEST(EveryContainer, SurvivesExhaustedMemory) {
     const auto a = Line("a");
     const auto container = Make<TypeParam>();
     WithFault(0, [&] { container->AddChild(a.Get()); });
-    EXPECT_EQ(Ids(ChildrenOf(*container)), "null");
+    EXPECT_EQ(Ids(ListOf(*container)), "null");
     EXPECT_EQ(Count(a), 1UL) << "without a list the child is not touched";
     WithFault(1, [&] { container->AddChild(a.Get()); });
-    EXPECT_EQ(Ids(ChildrenOf(*container)), "");
+    EXPECT_EQ(Ids(ListOf(*container)), "");
     EXPECT_EQ(Count(a), 2UL) << "dropped by the list, but counted";
     a->Release();
     container->AddChild(a.Get());
 
     // Of a copy: the element, the list, its growth.
-    WithFault(1, [&] { EXPECT_EQ(Ids(ChildrenOf(*Make<TypeParam>(*container))), "null"); });
-    WithFault(2, [&] { EXPECT_EQ(Ids(ChildrenOf(*Make<TypeParam>(*container))), ""); });
+    WithFault(1, [&] { EXPECT_EQ(Ids(ListOf(*Make<TypeParam>(*container))), "null"); });
+    WithFault(2, [&] { EXPECT_EQ(Ids(ListOf(*Make<TypeParam>(*container))), ""); });
     EXPECT_EQ(Count(a), 3UL);
     a->Release();
     const auto target = Make<TypeParam>();
     WithFault(0, [&] { *target = *container; });
-    EXPECT_EQ(Ids(ChildrenOf(*target)), "null");
+    EXPECT_EQ(Ids(ListOf(*target)), "null");
     EXPECT_EQ(Count(a), 2UL);
 }
 
@@ -210,10 +210,10 @@ TYPED_TEST(EveryContainer, DuplicatesWhatMemoryAllows) {
     container->AddChild(a.Get());
     container->AddChild(b.Get());
     // The element, its list, then for the first child: the child and the growth of the list.
-    WithFault(1, [&] { EXPECT_EQ(ChildrenOf(*Duplicated(*container)), nullptr); });
-    WithFault(2, [&] { EXPECT_EQ(ChildrenOf(*Duplicated(*container))->Size(), 1) << "left out"; });
-    WithFault(3, [&] { EXPECT_EQ(ChildrenOf(*Duplicated(*container))->Size(), 1) << "dropped and lost"; });
-    WithFault(4, [&] { EXPECT_EQ(ChildrenOf(*Duplicated(*container))->Size(), 1); });
+    WithFault(1, [&] { EXPECT_EQ(ListOf(*Duplicated(*container)), nullptr); });
+    WithFault(2, [&] { EXPECT_EQ(ListOf(*Duplicated(*container))->Size(), 1) << "left out"; });
+    WithFault(3, [&] { EXPECT_EQ(ListOf(*Duplicated(*container))->Size(), 1) << "dropped and lost"; });
+    WithFault(4, [&] { EXPECT_EQ(ListOf(*Duplicated(*container))->Size(), 1); });
 }
 
 TEST(Group, CopiesItsRecords) {
@@ -381,8 +381,8 @@ TEST(ClosedFigure, DuplicatesThroughTheRegionsOwnSlot) {
     copy->GetDrawStyle(style);
     EXPECT_EQ(style, VEKPrtDrawBoth);
     auto* const copiedRegion = static_cast<VEKPrtClosedFigureRegionElt*>((*RegionsOf(*copy))[1]);
-    EXPECT_EQ(Ids(ChildrenOf(*copiedRegion)), "a");
-    EXPECT_NE((*ChildrenOf(*copiedRegion))[1], (*ChildrenOf(*region))[1]);
+    EXPECT_EQ(Ids(ListOf(*copiedRegion)), "a");
+    EXPECT_NE((*ListOf(*copiedRegion))[1], (*ListOf(*region))[1]);
     copiedRegion->GetTransformAttributes(transform);
     double scale = 0;
     EXPECT_EQ(transform.GetScaleY(0, scale), 1);

@@ -131,13 +131,3 @@ TEST(PixelImage, ClonesOrYieldsNull) {
     EXPECT_EQ(Make<VEKPixelImage>(INT_MAX, INT_MAX)->GetWidth(), 0);
     EXPECT_EQ(Make<VEKPixelImage>(5, -1)->GetHeight(), 0);
 }
-
-TEST(Ref, AdoptsOrShares) {
-    auto ref = Make<VEKPrtLineElt>();
-    VEKPrtLineElt* const line = ref.Get();
-    const auto shared = VEKRef<VEKPrtLineElt>::Share(line);
-    EXPECT_EQ(Count(line), 2UL);
-    ref = *&ref;
-    ref = VEKRef<VEKPrtLineElt>();
-    EXPECT_EQ(Count(line), 1UL);
-}

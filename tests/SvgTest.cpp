@@ -105,7 +105,7 @@ void ExpectWholePage(const VEKPrtModel& iModel, int iPage, std::size_t iClasses)
     iModel.GetImages(images);
     auto* const page = static_cast<VEKPrtImageElt*>((*images)[iPage]);
     std::set<std::string> ids, classes, colours = {"none", ""};
-    Identify(ChildrenOf(*page), ids, classes);
+    Identify(ListOf(*page), ids, classes);
     EXPECT_EQ(classes.size(), iClasses);
 
     std::ostringstream text, warnings;

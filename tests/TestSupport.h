@@ -9,7 +9,6 @@
 #include <string>
 
 #include "AllElements.h"
-#include "Make.h"
 #include "VEKPixelImage.h"
 #include "VEKRef.h"
 
@@ -83,8 +82,9 @@ std::string Id(const Element& iElement) {
     return id.ToUtf8();
 }
 
+/// The list itself; null where there is none.
 template <class Container>
-auto ChildrenOf(Container& ioContainer) {
+auto ListOf(Container& ioContainer) {
     VEKListPtrVEKPrtGraphicPrimitiveElt* children = nullptr;
     ioContainer.GetChildren(children);
     return children;

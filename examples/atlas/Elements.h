@@ -6,13 +6,13 @@
 #include <vector>
 
 #include "Geometry.h"
-#include "Make.h"
 #include "VEKPrintTextAttribute.h"
 #include "VEKPrtLineElt.h"
 #include "VEKPrtPolyPolygonElt.h"
 #include "VEKPrtPolylineElt.h"
 #include "VEKPrtRectangleElt.h"
 #include "VEKPrtTextElt.h"
+#include "VEKRef.h"
 
 class VEKFont;
 

@@ -2,12 +2,12 @@
 #ifndef Sheet_H
 #define Sheet_H
 
-#include "Make.h"
 #include "Specimen.h"
 #include "VEKPrtGroupElt.h"
 #include "VEKPrtImageElt.h"
 #include "VEKPrtLineElt.h"
 #include "VEKPrtTextElt.h"
+#include "VEKRef.h"
 
 /// Indices into the page's colour table.
 struct Palette {

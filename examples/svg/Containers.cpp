@@ -4,8 +4,6 @@
 
 #include "Handlers.h"
 #include "Style.h"
-#include "VEKListPtrVEKPrtClosedFigureRegionElt.h"
-#include "VEKListPtrVEKPrtGraphicPrimitiveElt.h"
 #include "VEKPrtClosedFigureElt.h"
 #include "VEKPrtClosedFigureRegionElt.h"
 #include "VEKPrtGroupElt.h"
@@ -55,17 +53,11 @@ bool HasArea(const Area& iBox) {
     return iBox.width > 0.0 && iBox.height > 0.0 && std::isfinite(iBox.x + iBox.y + iBox.width + iBox.height);
 }
 
-// Null for what a list does not hold.
-VEKPrtClosedFigureRegionElt* RegionAt(const VEKListPtrVEKPrtClosedFigureRegionElt& iRegions, int iPosition) {
-    return static_cast<VEKPrtClosedFigureRegionElt*>(iRegions[iPosition]);
-}
-
 } // namespace
 
-void WriteChildren(SvgPage& ioPage, const VEKListPtrVEKPrtGraphicPrimitiveElt* iChildren) {
-    for (int position = 1; iChildren && position <= iChildren->Size(); ++position)
-        if (auto* const child = static_cast<VEKPrtGraphicPrimitiveElt*>((*iChildren)[position]))
-            WriteElement(ioPage, *child);
+void WriteChildren(SvgPage& ioPage, const VEKPrtMembers<VEKPrtGraphicPrimitiveElt>& iChildren) {
+    for (VEKPrtGraphicPrimitiveElt& child : iChildren)
+        WriteElement(ioPage, child);
 }
 
 void WriteBare(SvgPage& ioPage, VEKPrtGraphicPrimitiveElt& ioBare) {
@@ -159,16 +151,13 @@ void Write(SvgPage& ioPage, VEKPrtPatternElt& ioPattern) {
 }
 
 void Write(SvgPage& ioPage, VEKPrtClosedFigureElt& ioFigure) {
-    VEKListPtrVEKPrtClosedFigureRegionElt* regions = nullptr;
-    ioFigure.GetChildren(regions);
     PathData path;
     const Affine outer = ioPage.map;
     ioPage.map = outer * Compose(TransformOf(ioFigure));
-    for (int position = 1; regions && position <= regions->Size(); ++position)
-        if (VEKPrtClosedFigureRegionElt* const region = RegionAt(*regions, position)) {
-            AppendToRegion(ioPage, path, *region, Affine());
-            path.Close();
-        }
+    for (VEKPrtClosedFigureRegionElt& region : ChildrenOf(ioFigure)) {
+        AppendToRegion(ioPage, path, region, Affine());
+        path.Close();
+    }
     ioPage.map = outer;
     if (!ioPage.IsFinite(ioFigure, path)) return;
     const Appearance look = AppearanceOf(ioPage, ioFigure);

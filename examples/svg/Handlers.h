@@ -2,8 +2,9 @@
 #ifndef Handlers_H
 #define Handlers_H
 
+#include "VEKPrtChildren.h"
+
 class PathData;
-class VEKListPtrVEKPrtGraphicPrimitiveElt;
 class VEKPrtBitmapImageElt;
 class VEKPrtCircleElt;
 class VEKPrtCircularArcElt;
@@ -32,8 +33,7 @@ struct SvgPage;
 
 /// Writes an element by the handler of its class; a class without one is warned of.
 void WriteElement(SvgPage& ioPage, VEKPrtGraphicPrimitiveElt& ioElement);
-/// Writes each member; null, for a container that has no list, is no member.
-void WriteChildren(SvgPage& ioPage, const VEKListPtrVEKPrtGraphicPrimitiveElt* iChildren);
+void WriteChildren(SvgPage& ioPage, const VEKPrtMembers<VEKPrtGraphicPrimitiveElt>& iChildren);
 
 // The elements are not const because some of their getters are not.
 void Write(SvgPage& ioPage, VEKPrtBitmapImageElt& ioBitmap);

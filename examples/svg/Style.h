@@ -9,13 +9,13 @@
 #include <vector>
 
 #include "Path.h"
+#include "VEKPrtChildren.h"
 #include "VEKPrtFillAttributes.h"
 #include "VEKPrtGraphicPrimitiveElt.h"
 #include "VEKPrtStrokeAttributes.h"
 #include "VEKPrtTransformAttributes.h"
 #include "Xml.h"
 
-class VEKListPtrVEKPrtGraphicPrimitiveElt;
 class VEKPrtColourTable;
 
 /// A rectangle, in the coordinates that a map takes to those of the page.
@@ -120,13 +120,6 @@ Appearance AppearanceOf(SvgPage& ioPage, const Element& iElement) {
     iElement.GetDrawStyle(look.style);
     look.paint = PreparePaint(ioPage, iElement, look.style, look.fill);
     return look;
-}
-/// The container's own list, null where it has none.
-template <class Container>
-VEKListPtrVEKPrtGraphicPrimitiveElt* ChildrenOf(Container& ioContainer) {
-    VEKListPtrVEKPrtGraphicPrimitiveElt* children = nullptr;
-    ioContainer.GetChildren(children);
-    return children;
 }
 
 #endif

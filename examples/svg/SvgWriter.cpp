@@ -60,10 +60,8 @@ void OutlineChildren(SvgPage& ioPage, PathData& ioPath, VEKPrtGraphicPrimitiveEl
                      const Affine& iMap) {
     auto& container = static_cast<Container&>(ioElement);
     const Affine map = iMap * Compose(TransformOf(container));
-    const VEKListPtrVEKPrtGraphicPrimitiveElt* const children = ChildrenOf(container);
-    for (int position = 1; children && position <= children->Size(); ++position)
-        if (auto* const child = static_cast<VEKPrtGraphicPrimitiveElt*>((*children)[position]))
-            AppendToRegion(ioPage, ioPath, *child, map);
+    for (VEKPrtGraphicPrimitiveElt& child : ChildrenOf(container))
+        AppendToRegion(ioPage, ioPath, child, map);
 }
 
 template <class Element>
@@ -142,13 +140,11 @@ void WritePage(VEKPrtImageElt& ioImage, std::ostream& ioStream, std::ostream& io
     VEKPrtImageUnits units = VEKPrtImageMillimetre;
     VEKMath2x2Matrix matrix;
     VEKPrtColourTable* colours = nullptr;
-    VEKListPtrVEKPrtGraphicPrimitiveElt* children = nullptr;
     ioImage.GetOrigin(origin);
     ioImage.GetSize(width, height);
     ioImage.GetUnits(units);
     ioImage.GetMatrix(matrix);
     ioImage.GetColourTable(colours);
-    ioImage.GetChildren(children);
 
     XmlWriter xml(ioStream);
     const Area area{origin.GetX(), origin.GetY(), width, height, {}};
@@ -175,7 +171,7 @@ void WritePage(VEKPrtImageElt& ioImage, std::ostream& ioStream, std::ostream& io
     xml.Attribute("transform",
                   "scale(1,-1)" + (matrix != VEKMath2x2Matrix() ? " " + Matrix(map) : std::string()));
     page.map = map;
-    WriteChildren(page, children);
+    WriteChildren(page, ChildrenOf(ioImage));
     xml.End();
 }
 

@@ -2,6 +2,9 @@
 #ifndef VEKRef_H
 #define VEKRef_H
 
+#include <functional>
+#include <new>
+#include <type_traits>
 #include <utility>
 
 /// Holds one reference on a T and gives it back at the end.
@@ -10,6 +13,10 @@
 /// caller has (`new`, Duplicate, Clone); Share adds one of its own (a pointer that somebody lent).
 template <class T>
 class VEKRef {
+    /// There for the U whose pointers are pointers to T, too: T itself and what is derived from it.
+    template <class U>
+    using IfUpcast = typename std::enable_if<std::is_convertible<U*, T*>::value>::type;
+
 public:
     VEKRef() = default;
     static VEKRef Adopt(T* iObject) { return VEKRef(iObject); }
@@ -19,7 +26,11 @@ public:
     }
 
     VEKRef(const VEKRef& iOther) : VEKRef(Share(iOther._object)) {}
-    VEKRef(VEKRef&& ioOther) noexcept : _object(ioOther._object) { ioOther._object = nullptr; }
+    VEKRef(VEKRef&& ioOther) noexcept : _object(ioOther.Detach()) {}
+    template <class U, class = IfUpcast<U>>
+    VEKRef(const VEKRef<U>& iOther) : VEKRef(Share(iOther.Get())) {}
+    template <class U, class = IfUpcast<U>>
+    VEKRef(VEKRef<U>&& ioOther) noexcept : _object(ioOther.Detach()) {}
     /// By value: the new reference is there before the old one goes.
     VEKRef& operator=(VEKRef iOther) noexcept {
         std::swap(_object, iOther._object);
@@ -47,5 +58,28 @@ private:
 
     T* _object = nullptr;
 };
+
+// By identity of the objects, null included.
+template <class T, class U>
+bool operator==(const VEKRef<T>& iLeft, const VEKRef<U>& iRight) {
+    return iLeft.Get() == iRight.Get();
+}
+template <class T, class U>
+bool operator!=(const VEKRef<T>& iLeft, const VEKRef<U>& iRight) {
+    return iLeft.Get() != iRight.Get();
+}
+/// A total order, so that references can be keys.
+template <class T>
+bool operator<(const VEKRef<T>& iLeft, const VEKRef<T>& iRight) {
+    return std::less<T*>()(iLeft.Get(), iRight.Get());
+}
+
+/// A new T, its one reference held.  Where the framework's `new` yields null, this throws std::bad_alloc.
+template <class T, class... Arguments>
+VEKRef<T> Make(Arguments&&... iArguments) {
+    T* const object = new T(std::forward<Arguments>(iArguments)...);
+    if (!object) throw std::bad_alloc();
+    return VEKRef<T>::Adopt(object);
+}
 
 #endif
