@@ -2,6 +2,7 @@
 #ifndef VEKBaseUnknown_H
 #define VEKBaseUnknown_H
 
+#include <atomic>
 #include <cstddef>
 #include <new>
 
@@ -16,11 +17,16 @@ class VEKMetaClass;
 /// derived classes append theirs after ChangeComponentState.
 class VEKFRAMEWORK_API VEKBaseUnknown {
 public:
-    VEKBaseUnknown();
-    VEKBaseUnknown(const VEKBaseUnknown& iOther);
-    VEKBaseUnknown& operator=(const VEKBaseUnknown& iOther);
+    VEKBaseUnknown() { s_liveObjects.fetch_add(1, std::memory_order_relaxed); }
+    VEKBaseUnknown(const VEKBaseUnknown& iOther) : VEKBaseUnknown() { *this = iOther; }
+    VEKBaseUnknown& operator=(const VEKBaseUnknown& iOther) {
+        _impl = iOther._impl;
+        _delegate = iOther._delegate;
+        _state = iOther._state;
+        return *this;
+    }
 
-    /// Null on exhausted memory; a new-expression then yields null and runs no constructor.
+    /// Null when allocation fails; a new-expression then yields null and runs no constructor.
     static void* operator new(std::size_t iSize) noexcept;
     static void* operator new(std::size_t iSize, const std::nothrow_t&) noexcept;
     static void* operator new(std::size_t, void* iPlace) noexcept { return iPlace; }
@@ -28,8 +34,9 @@ public:
     static void operator delete(void* iObject, const std::nothrow_t&) noexcept;
     static void operator delete(void*, void*) noexcept {}
 
-    // The host's interface protocol.  The reference implementation offers no interface: it returns
-    // NotImplemented, sets a returned pointer to null and a count to 0, and leaves other outputs alone.
+    // The host's interface protocol.  The reference implementation offers no interface: GetTypeInfoCount
+    // counts 0 and returns Done; the others return NotImplemented, set a returned pointer to null and leave
+    // other outputs alone.
     enum Status : int { Done = 0, NotImplemented = -1 };
     virtual int QueryInterface(const void* iInterfaceId, void** oInterface);
     /// Both return the count after the call; Release to 0 deletes the object.
@@ -42,7 +49,7 @@ public:
     virtual int Invoke(long iId, const void* iInterfaceId, unsigned long iLocale, unsigned short iFlags,
                        void* ioParameters, void* oResult, void* oException, unsigned int* oBadArgument);
 
-    virtual ~VEKBaseUnknown();
+    virtual ~VEKBaseUnknown() { s_liveObjects.fetch_sub(1, std::memory_order_relaxed); }
 
     virtual VEKMetaClass* GetMetaObject() const;
     virtual const char* IsA() const;
@@ -65,7 +72,11 @@ public:
     static long CountLiveObjects();
 
 private:
-    mutable unsigned long _references = 1;
+    // Atomic although the model knows no threads: two threads with a model each share it.
+    static std::atomic<long> s_liveObjects;
+
+    // Belongs to the object's address, not to its value: assignment leaves it alone.
+    unsigned long _references = 1;
     void* _impl = nullptr;
     void* _delegate = nullptr;
     void* _state = nullptr;

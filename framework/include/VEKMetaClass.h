@@ -44,7 +44,7 @@ private:
 /// Registers class \p iClassName on the first call and returns that same meta-object on later ones.
 ///
 /// The strings are copied.  \p iLateType names a type to be bound later ("VEKnull": none); this
-/// implementation keeps no such binding.  Null when memory is out (a later call tries again) or when
+/// implementation keeps no such binding.  Null when allocation fails (a later call tries again) or when
 /// \p iClassName is null.  Takes no lock.
 VEKFRAMEWORK_API VEKMetaClass* fct_RetrieveMetaObject(const char* iClassName, ENUMTypeOfClass iType,
                                                       VEKMetaClass* iBaseMeta, const char* iLateType,

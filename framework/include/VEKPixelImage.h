@@ -8,14 +8,14 @@
 /// black) at first.
 class VEKFRAMEWORK_API VEKPixelImage : public VEKBaseUnknown {
 public:
-    /// 0 x 0 when a side is not positive or memory is out.
+    /// 0 x 0 when a side is not positive or allocation fails.
     VEKPixelImage(int iWidth, int iHeight);
     ~VEKPixelImage() override;
-    // Copies are made by Clone alone, which can report that memory is out.
+    // Copies are made by Clone alone, which can report a failed allocation.
     VEKPixelImage(const VEKPixelImage&) = delete;
     VEKPixelImage& operator=(const VEKPixelImage&) = delete;
 
-    /// A new image of the same pixels, with one reference, which is the caller's; null when memory is out.
+    /// A new image of the same pixels, with one reference, which is the caller's; null when allocation fails.
     virtual VEKPixelImage* Clone() const;
 
     int GetWidth() const { return _width; }

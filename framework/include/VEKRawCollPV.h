@@ -9,23 +9,29 @@ class VEKFRAMEWORK_API VEKRawCollPV {
 public:
     /// \p iInitial pointers can be appended before the collection grows; 0 or less allocates nothing.
     explicit VEKRawCollPV(int iInitial);
-    /// Empty when memory is out.
+    /// Empty when allocation fails.
     VEKRawCollPV(const VEKRawCollPV& iOther);
-    /// Unchanged when memory is out.
+    /// Unchanged when allocation fails.
     VEKRawCollPV& operator=(const VEKRawCollPV& iOther);
     ~VEKRawCollPV();
 
     int Size() const { return _size; }
     /// Amortised constant.  Dropped without notice when the collection cannot grow.
-    void Append(void* iPointer);
+    void Append(void* iPointer) {
+        if (_size < _capacity || Grow()) _pointers[_size++] = iPointer;
+    }
     /// First position of \p iPointer at or after \p iFrom; 0 when absent.
     int Locate(const void* iPointer, int iFrom = 1) const;
     /// Out of range: nothing.
     void RemovePosition(int iPosition);
     /// Null out of range, position 0 included.
-    void* operator[](int iPosition) const;
+    void* operator[](int iPosition) const {
+        return iPosition >= 1 && iPosition <= _size ? _pointers[iPosition - 1] : nullptr;
+    }
 
 private:
+    bool Grow();
+
     void** _pointers = nullptr;
     int _size = 0;
     int _capacity = 0;

@@ -1,33 +1,8 @@
 #include "VEKBaseUnknown.h"
 
-#include <atomic>
-
 #include "VEKMetaClass.h"
 
-namespace {
-
-// Atomic although the model knows no threads: two threads with a model each share this counter.
-std::atomic<long> g_liveObjects{0};
-
-} // namespace
-
-VEKBaseUnknown::VEKBaseUnknown() { g_liveObjects.fetch_add(1, std::memory_order_relaxed); }
-
-VEKBaseUnknown::VEKBaseUnknown(const VEKBaseUnknown& iOther)
-    : _impl(iOther._impl), _delegate(iOther._delegate), _state(iOther._state) {
-    g_liveObjects.fetch_add(1, std::memory_order_relaxed);
-}
-
-// The count is left alone: it belongs to the object's address, not to its value.
-// NOLINTNEXTLINE(bugprone-unhandled-self-assignment): plain words, harmless to themselves
-VEKBaseUnknown& VEKBaseUnknown::operator=(const VEKBaseUnknown& iOther) {
-    _impl = iOther._impl;
-    _delegate = iOther._delegate;
-    _state = iOther._state;
-    return *this;
-}
-
-VEKBaseUnknown::~VEKBaseUnknown() { g_liveObjects.fetch_sub(1, std::memory_order_relaxed); }
+std::atomic<long> VEKBaseUnknown::s_liveObjects{0};
 
 void* VEKBaseUnknown::operator new(std::size_t iSize) noexcept { return ::operator new(iSize, std::nothrow); }
 void* VEKBaseUnknown::operator new(std::size_t iSize, const std::nothrow_t&) noexcept {
@@ -104,4 +79,4 @@ const char* VEKBaseUnknown::ClassName() {
     return meta ? meta->GetName() : nullptr;
 }
 
-long VEKBaseUnknown::CountLiveObjects() { return g_liveObjects.load(std::memory_order_relaxed); }
+long VEKBaseUnknown::CountLiveObjects() { return s_liveObjects.load(std::memory_order_relaxed); }

@@ -6,7 +6,8 @@
 
 namespace {
 
-// Null for nothing to hold as well as for no memory.  A pointer count in int cannot overflow size_t.
+// Null for nothing to hold as well as for a failed allocation.  A pointer count in int cannot overflow
+// size_t.
 void** NewPointers(int iCapacity) {
     return iCapacity > 0 ? new (std::nothrow) void*[static_cast<std::size_t>(iCapacity)] : nullptr;
 }
@@ -22,8 +23,9 @@ VEKRawCollPV::VEKRawCollPV(int iInitial)
     : _pointers(NewPointers(iInitial)), _capacity(_pointers ? iInitial : 0) {}
 
 VEKRawCollPV::VEKRawCollPV(const VEKRawCollPV& iOther) : VEKRawCollPV(iOther._size) {
-    if (_pointers)
-        _size = static_cast<int>(std::copy_n(iOther._pointers, iOther._size, _pointers) - _pointers);
+    if (!_pointers) return;
+    std::copy_n(iOther._pointers, iOther._size, _pointers);
+    _size = iOther._size;
 }
 
 VEKRawCollPV& VEKRawCollPV::operator=(const VEKRawCollPV& iOther) {
@@ -42,17 +44,15 @@ VEKRawCollPV& VEKRawCollPV::operator=(const VEKRawCollPV& iOther) {
 
 VEKRawCollPV::~VEKRawCollPV() { delete[] _pointers; }
 
-void VEKRawCollPV::Append(void* iPointer) {
-    if (_size == _capacity) {
-        const int capacity = NextCapacity(_capacity);
-        void** const larger = capacity > _size ? NewPointers(capacity) : nullptr;
-        if (!larger) return;
-        std::copy_n(_pointers, _size, larger);
-        delete[] _pointers;
-        _pointers = larger;
-        _capacity = capacity;
-    }
-    _pointers[_size++] = iPointer;
+bool VEKRawCollPV::Grow() {
+    const int capacity = NextCapacity(_capacity);
+    void** const larger = capacity > _capacity ? NewPointers(capacity) : nullptr;
+    if (!larger) return false;
+    std::copy_n(_pointers, _size, larger);
+    delete[] _pointers;
+    _pointers = larger;
+    _capacity = capacity;
+    return true;
 }
 
 int VEKRawCollPV::Locate(const void* iPointer, int iFrom) const {
@@ -65,8 +65,4 @@ void VEKRawCollPV::RemovePosition(int iPosition) {
     if (iPosition < 1 || iPosition > _size) return;
     std::copy(_pointers + iPosition, _pointers + _size, _pointers + iPosition - 1);
     --_size;
-}
-
-void* VEKRawCollPV::operator[](int iPosition) const {
-    return iPosition >= 1 && iPosition <= _size ? _pointers[iPosition - 1] : nullptr;
 }

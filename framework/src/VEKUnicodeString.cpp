@@ -5,7 +5,7 @@
 
 namespace {
 
-// Null for the empty string as well as for no memory.
+// Null for the empty string as well as for a failed allocation.
 char* NewCopy(const char* iUtf8) {
     if (!iUtf8 || !*iUtf8) return nullptr;
     const std::size_t size = std::strlen(iUtf8) + 1;
@@ -16,24 +16,14 @@ char* NewCopy(const char* iUtf8) {
 
 } // namespace
 
-VEKUnicodeString::VEKUnicodeString(const char* iUtf8) : _utf8(NewCopy(iUtf8)) {}
-VEKUnicodeString::VEKUnicodeString(const VEKUnicodeString& iOther) : _utf8(NewCopy(iOther._utf8)) {}
-
-VEKUnicodeString& VEKUnicodeString::operator=(const VEKUnicodeString& iOther) {
-    if (&iOther == this) return *this;
-    return *this = iOther._utf8;
-}
-
 // The old text goes last: iUtf8 may lie in it.
-VEKUnicodeString& VEKUnicodeString::operator=(const char* iUtf8) {
+void VEKUnicodeString::Replace(const char* iUtf8) {
+    if (iUtf8 == _utf8) return;
     char* const copy = NewCopy(iUtf8);
-    if (!copy && iUtf8 && *iUtf8) return *this;
+    if (!copy && iUtf8 && *iUtf8) return;
     delete[] _utf8;
     _utf8 = copy;
-    return *this;
 }
-
-VEKUnicodeString::~VEKUnicodeString() { delete[] _utf8; }
 
 bool VEKUnicodeString::operator==(const VEKUnicodeString& iOther) const {
     return std::strcmp(ToUtf8(), iOther.ToUtf8()) == 0;
