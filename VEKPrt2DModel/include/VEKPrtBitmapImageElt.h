@@ -47,8 +47,9 @@ public:
 
     /// Stores all but \p iOrientation, which is ignored: the orientation stays.
     ///
-    /// Takes its own reference on \p iImage but does not give back that on a different image held
-    /// before: that image keeps the reference for ever.
+    /// Takes its own reference on \p iImage, which may be null, but does not give back the one on a different
+    /// image held before: that image keeps a reference that is never released.  The image already held keeps
+    /// its count.
     virtual void SetParameters(const VEKMathPoint2D& iOrigin, double iWidth, double iHeight,
                                double iOrientation, VEKPixelImage* iImage);
 
@@ -61,7 +62,7 @@ public:
 private:
     VEKPRT2DMODEL_LOCAL void CopyOwn(const VEKPrtBitmapImageElt& iOther);
 
-    VEKMathPoint2D _origin;
+    VEKMathPoint2D _origin{0.0, 0.0};
     double _width = 0.0;
     double _height = 0.0;
     float _orientation = 0.0F;

@@ -43,7 +43,7 @@ public:
 private:
     VEKPRT2DMODEL_LOCAL void CopyOwn(const VEKPrtCircleElt& iOther);
 
-    VEKMathPoint2D _center;
+    VEKMathPoint2D _center{0.0, 0.0};
     double _radius = 0.0;
     VEKPrtDrawStyle _drawStyle = VEKPrtDrawOutline;
     VEKPrtStrokeAttributes _stroke;

@@ -49,7 +49,7 @@ public:
 private:
     VEKPRT2DMODEL_LOCAL void CopyOwn(const VEKPrtCircularArcElt& iOther);
 
-    VEKMathPoint2D _center;
+    VEKMathPoint2D _center{0.0, 0.0};
     double _radius = 0.0;
     float _startAngle = 0.0F;
     float _endAngle = 0.0F;

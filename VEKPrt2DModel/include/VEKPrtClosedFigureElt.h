@@ -46,9 +46,7 @@ public:
 
     /// Appends \p iRegion as the last region.
     ///
-    /// Takes its own reference; the caller keeps the one it has.  Null is ignored; a region already
-    /// present is added again and takes a second reference.  If the list cannot be made, nothing is
-    /// added and the region's count is unchanged.
+    /// As VEKPrtGroupElt::AddChild, but any region is accepted.
     virtual void AddChild(VEKPrtClosedFigureRegionElt* iRegion);
 
     /// Removes the first occurrence and releases it once; null and an absent region are ignored.

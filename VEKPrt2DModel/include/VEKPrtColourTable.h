@@ -6,26 +6,24 @@
 
 /// RGB colours, 8 bits a component, appended and addressed by index from 0.
 ///
-/// Operations return 1 for success and -1 for failure (an index out of range, memory out), and
+/// Operations return 1 for success and -1 for failure (an index out of range, a failed allocation), and
 /// write their outputs only on success.  Copies are independent.
 class VEKPRT2DMODEL_API VEKPrtColourTable {
 public:
     VEKPrtColourTable();
 
-    /// Empty when memory is out.
+    /// Empty when allocation fails.
     VEKPrtColourTable(const VEKPrtColourTable& iOther);
     virtual ~VEKPrtColourTable();
 
-    /// Does nothing when neither table has arrays, and so leaves a table stuck that failed to grow at
-    /// first; empty when memory is out.
+    /// Does nothing when neither table has arrays; empty when allocation fails.
     VEKPrtColourTable& operator=(const VEKPrtColourTable& iOther);
 
     virtual int GetColourCount(int& oCount) const;
 
     /// Appends, even a colour that is there already, and yields its index.
     ///
-    /// After a failure for want of memory all stored colours stay readable, but the table never
-    /// grows again: additions succeed while its arrays have room and fail from then on.
+    /// When allocation fails all stored colours stay readable, and a later addition tries again.
     virtual int AddColour(unsigned char iRed, unsigned char iGreen, unsigned char iBlue,
                           unsigned int& oIndex);
     virtual int ModifyColour(unsigned int iIndex, unsigned char iRed, unsigned char iGreen,
@@ -38,8 +36,7 @@ public:
                           unsigned char& oBlue) const;
 
 private:
-    VEKPRT2DMODEL_LOCAL bool HasColour(unsigned int iIndex) const;
-    VEKPRT2DMODEL_LOCAL int Grow();
+    VEKPRT2DMODEL_LOCAL bool Reallocate();
     VEKPRT2DMODEL_LOCAL void CopyOwn(const VEKPrtColourTable& iOther);
 
     unsigned int _capacity = 0;

@@ -17,8 +17,9 @@ public:
     VEKPrtDisjointPolylineElt();
 
     /// Copies the points at positions 0 to the list's size less 1, so that the first is (0, 0) and the last
-    /// is not read; a null entry gives (0, 0).  An odd size is rounded down.
-    explicit VEKPrtDisjointPolylineElt(const VEKListPtrVEKMathPoint2D& iPoints);
+    /// is not read; a null entry gives (0, 0).  An odd size is rounded down first, so that of three points
+    /// only the first is read: the element holds (0, 0) and that one.  A size below 2 gives no array.
+    VEKPrtDisjointPolylineElt(const VEKListPtrVEKMathPoint2D& iPoints);
 
     /// As SetPoints, but an odd count is rounded towards zero, and a count below 2 leaves no array.
     VEKPrtDisjointPolylineElt(const double* iPoints, int iCount);

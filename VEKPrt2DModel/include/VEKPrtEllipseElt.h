@@ -49,7 +49,7 @@ public:
 private:
     VEKPRT2DMODEL_LOCAL void CopyOwn(const VEKPrtEllipseElt& iOther);
 
-    VEKMathPoint2D _center;
+    VEKMathPoint2D _center{0.0, 0.0};
     double _horzRadius = 0.0;
     double _vertRadius = 0.0;
     float _slope = 0.0F;

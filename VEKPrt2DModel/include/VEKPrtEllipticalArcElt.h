@@ -56,7 +56,7 @@ public:
 private:
     VEKPRT2DMODEL_LOCAL void CopyOwn(const VEKPrtEllipticalArcElt& iOther);
 
-    VEKMathPoint2D _center;
+    VEKMathPoint2D _center{0.0, 0.0};
     double _horzRadius = 0.0;
     double _vertRadius = 0.0;
     float _startAngle = 0.0F;

@@ -27,9 +27,9 @@ public:
 
     /// Copies this record into \p oTarget, with an image of its own.
     ///
-    /// An image that \p oTarget held is neither released nor kept: its reference is lost, so pass a
-    /// record without one.  Where this record has no image, the target's pointer stays as it is; where
-    /// the image cannot be copied, the target's becomes null.
+    /// An image that \p oTarget held is neither released nor kept: its reference is never given back, so pass
+    /// a record without one.  Where this record has no image, the target's pointer stays as it is; where the
+    /// image cannot be copied, the target's becomes null.
     virtual void Duplicate(VEKPrtFillAttributes& oTarget);
 
     virtual void SetFillStyle(const VEKPrtFillStyle& iStyle);
@@ -39,7 +39,7 @@ public:
     virtual void SetFillColourIndex(unsigned int iIndex);
     virtual void GetFillColourIndex(unsigned int& oIndex) const;
 
-    /// 255, the default, is opaque.
+    /// From 0 to 255, the default, which this project's consumer reads as opaque.
     virtual void SetFillColourTransparency(unsigned char iTransparency);
     /// Not const, unlike its neighbours: the mangled name is part of the binary interface.
     virtual void GetFillColourTransparency(unsigned char& oTransparency);
@@ -55,16 +55,17 @@ public:
     virtual void GetPatternRefPoint(VEKMathPoint2D& oPoint) const;
 
 private:
-    VEKPRT2DMODEL_LOCAL void CopyPlainFields(const VEKPrtFillAttributes& iOther);
+    VEKPRT2DMODEL_LOCAL void CopyColour(const VEKPrtFillAttributes& iOther);
+    VEKPRT2DMODEL_LOCAL void CopyPlacement(const VEKPrtFillAttributes& iOther);
 
     VEKPrtFillStyle _style = VEKPrtFillSolid;
     VEKPrtFillRule _rule = VEKPrtFillEvenOdd;
     unsigned int _colourIndex = 0;
     unsigned char _colourTransparency = 255;
     VEKPixelImage* _image = nullptr;
-    VEKMathVector2D _firstVector;
-    VEKMathVector2D _secondVector;
-    VEKMathPoint2D _refPoint;
+    VEKMathVector2D _firstVector{0.0, 0.0};
+    VEKMathVector2D _secondVector{0.0, 0.0};
+    VEKMathPoint2D _refPoint{0.0, 0.0};
 };
 
 #endif

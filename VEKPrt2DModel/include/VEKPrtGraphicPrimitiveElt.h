@@ -7,7 +7,8 @@
 #include "VEKPrtMetaFamily.h"
 #include "VEKUnicodeString.h"
 
-/// What of a closed shape is drawn.  Stored and handed back, whatever its value.
+/// What of a closed shape or a text is drawn.  Stored and handed back, whatever its value; the names are
+/// those by which this project's consumer reads it.  New elements have VEKPrtDrawOutline.
 enum VEKPrtDrawStyle : int { VEKPrtDrawInterior = 0, VEKPrtDrawOutline = 1, VEKPrtDrawBoth = 2 };
 
 extern VEKPRT2DMODEL_API VEKMetaClass* meta_object__25VEKPrtGraphicPrimitiveElt;
@@ -22,9 +23,14 @@ extern VEKPRT2DMODEL_API VEKMetaClass* meta_object__25VEKPrtGraphicPrimitiveElt;
 /// - Assignment does nothing for the element itself; otherwise it copies the identity strings, then
 ///   the own fields, then the records.  Reference counts of the two elements stay as they are.
 /// - Setters store what they are given, unchecked, and copy records and strings; getters copy out.
-///   Array and list getters hand out internal pointers, valid until the next setter, assignment or
-///   destruction of their owner.
-/// - No operation throws or reports that memory is out; what could not be allocated is absent.
+///   Array getters hand out the element's own array, valid until its next setter, an assignment to the
+///   element or its destruction; list getters the element's own list, valid until an assignment or the
+///   destruction.
+/// - No operation throws or reports a failed allocation; what could not be allocated is absent.
+///
+/// The model gives no meaning to what it stores: units, the direction of the y axis, the sense of angles, the
+/// order of transforms, draw styles, transparency, boxes and clipping are what a consumer makes of them.  The
+/// header of the SVG consumer, VEKPrtSvg.h, says how that one reads them.
 ///
 /// Derived classes append their virtual functions after GetTitle.
 class VEKPRT2DMODEL_API VEKPrtGraphicPrimitiveElt : public VEKBaseUnknown {

@@ -25,7 +25,8 @@ public:
     /// Releases the old children but for the last one, and shares those of \p iOther.
     ///
     /// The last of the old children keeps the reference that this element took.  The target ends with an
-    /// empty list, not null, when \p iOther has none and this element had one.
+    /// empty list, not null, when \p iOther has none and this element had one; where both have none they are
+    /// left alone.
     VEKPrtGroupElt& operator=(const VEKPrtGroupElt& iOther);
 
     VEKPRT_DECLARE_META_FAMILY
@@ -42,8 +43,10 @@ public:
     /// Appends \p iChild as the last child.
     ///
     /// Takes its own reference; the caller keeps the one it has.  Null, and this element itself, are
-    /// ignored.  A child already present is added again and takes a second reference.  If the list
-    /// cannot be made, nothing is added and the child's count is unchanged.
+    /// ignored.  A child already present is added again and takes a second reference.
+    ///
+    /// If the list cannot be allocated, nothing is added and the child's count is unchanged.  If the list
+    /// cannot grow, the child is not added either, but keeps the reference taken for it.
     virtual void AddChild(VEKPrtGraphicPrimitiveElt* iChild);
 
     /// Removes the first occurrence and releases it once; null, this element and an absent child are

@@ -38,9 +38,9 @@ public:
 
     /// Releases the old children but for the last one, and shares those of \p iOther.
     ///
-    /// The last of the old children keeps the reference that this element took.  The target ends with an
-    /// empty list, not null, when \p iOther has none and this element had one.
-    /// The colour table is replaced by a copy.
+    /// The colour table is replaced by a copy, or by none.  The last of the old children keeps the reference
+    /// that this element took.  The target ends with an empty list, not null, when \p iOther has none and
+    /// this element had one; where both have none they are left alone.
     VEKPrtImageElt& operator=(const VEKPrtImageElt& iOther);
 
     VEKPRT_DECLARE_META_FAMILY
@@ -76,7 +76,7 @@ private:
     VEKPRT2DMODEL_LOCAL void CopyFields(const VEKPrtImageElt& iOther);
 
     VEKListPtrVEKPrtGraphicPrimitiveElt* _children = nullptr;
-    VEKMathPoint2D _origin;
+    VEKMathPoint2D _origin{0.0, 0.0};
     double _width = 0.0;
     double _height = 0.0;
     VEKPrtImageUnits _units = VEKPrtImageMillimetre;

@@ -37,8 +37,8 @@ public:
 private:
     VEKPRT2DMODEL_LOCAL void CopyOwn(const VEKPrtLineElt& iOther);
 
-    VEKMathPoint2D _startPoint;
-    VEKMathPoint2D _endPoint;
+    VEKMathPoint2D _startPoint{0.0, 0.0};
+    VEKMathPoint2D _endPoint{0.0, 0.0};
     VEKPrtStrokeAttributes _stroke;
     VEKPrtTransformAttributes _transform;
 };

@@ -17,7 +17,7 @@ public:
     virtual void GetMarkerStyle(VEKPrintMarkerAttribute& oStyle);
 
 private:
-    VEKPrintMarkerAttribute _style = VEKPrintMarkerPlus;
+    VEKPrintMarkerAttribute _style;
 };
 
 #endif

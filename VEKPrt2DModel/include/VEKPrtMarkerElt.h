@@ -40,7 +40,7 @@ public:
 private:
     VEKPRT2DMODEL_LOCAL void CopyOwn(const VEKPrtMarkerElt& iOther);
 
-    VEKMathPoint2D _point;
+    VEKMathPoint2D _point{0.0, 0.0};
     double _size = 0.0;
     VEKPrtMarkerAttributes _marker;
     VEKPrtStrokeAttributes _stroke;

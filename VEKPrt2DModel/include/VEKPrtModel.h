@@ -26,9 +26,7 @@ public:
 
     /// Appends \p iImage as the last page.
     ///
-    /// Takes its own reference; the caller keeps the one it has.  Null is ignored; an image already
-    /// present is added again and takes a second reference.  If the list cannot be made, nothing is
-    /// added and the count is unchanged.
+    /// As VEKPrtGroupElt::AddChild, but any image is accepted.
     virtual void AddImage(VEKPrtImageElt* iImage);
 
     /// Removes the first occurrence and releases it once; null and an absent image are ignored.

@@ -24,7 +24,7 @@ public:
                    float iFirstBound, float iSecondBound, const float* iWeights);
 
     /// Copies order and arrays, but not the bounds: a copy, an assigned and a duplicated curve have the
-    /// bounds 0 and 1.
+    /// bounds 0 and 1.  Copied from a curve that lacks one of the arrays it has a count of 0.
     VEKPrtNURBSElt(const VEKPrtNURBSElt& iOther);
     ~VEKPrtNURBSElt() override;
     VEKPrtNURBSElt& operator=(const VEKPrtNURBSElt& iOther);
@@ -39,9 +39,11 @@ public:
     /// Unlike the constructors it reads knots and weights from their second element on: \p iKnots must
     /// have order + count + 1 elements, \p iWeights count + 1.
     ///
-    /// An array of the element's own passed back is read as far as it goes, zero beyond.  Where a new one
-    /// takes its place, it is then the caller's to `delete[]`; where none is made (a count of 0 or less, or
-    /// another array null), it stays the element's.
+    /// An array of the element's own may be passed back for what it is: it is read as far as it goes, zero
+    /// beyond, and is then the caller's to `delete[]`, also when a new array could not be allocated; where
+    /// none is made (a count of 0 or less, or another array null) it stays the element's.  An argument that
+    /// begins elsewhere in an own array, such as that array less 1 for the knots, is read as far, and the
+    /// array is then freed.
     virtual void SetParameters(int iOrder, int iCount, const double* iControlPoints, const double* iKnots,
                                float iFirstBound, float iSecondBound, const double* iWeights);
 

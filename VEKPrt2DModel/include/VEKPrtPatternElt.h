@@ -13,7 +13,9 @@ extern VEKPRT2DMODEL_API VEKMetaClass* meta_object__16VEKPrtPatternElt;
 
 /// Children in a placement box, meant to be repeated.
 ///
-/// Holds one reference on each child.  Pattern and symbol are alike but for their class.
+/// The box is stored only; this project's consumer repeats it over the box of the nearest symbol around the
+/// pattern, or over the page.  Holds one reference on each child.  Pattern and symbol are alike but for their
+/// class.
 class VEKPRT2DMODEL_API VEKPrtPatternElt : public VEKPrtGraphicPrimitiveElt {
 public:
     VEKPrtPatternElt();
@@ -48,7 +50,7 @@ private:
     VEKPRT2DMODEL_LOCAL void CopyFields(const VEKPrtPatternElt& iOther);
 
     VEKListPtrVEKPrtGraphicPrimitiveElt* _children = nullptr;
-    VEKMathPoint2D _origin;
+    VEKMathPoint2D _origin{0.0, 0.0};
     double _width = 0.0;
     double _height = 0.0;
     VEKPrtTransformAttributes _transform;

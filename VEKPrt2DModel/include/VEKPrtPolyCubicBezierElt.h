@@ -16,8 +16,8 @@ class VEKPRT2DMODEL_API VEKPrtPolyCubicBezierElt : public VEKPrtGraphicPrimitive
 public:
     VEKPrtPolyCubicBezierElt();
 
-    /// Copies the points at positions 1 to the list's size; a null entry gives (0, 0).
-    explicit VEKPrtPolyCubicBezierElt(const VEKListPtrVEKMathPoint2D& iPoints);
+    /// \copydoc VEKPrtPolylineElt::VEKPrtPolylineElt(const VEKListPtrVEKMathPoint2D&)
+    VEKPrtPolyCubicBezierElt(const VEKListPtrVEKMathPoint2D& iPoints);
 
     /// As SetPoints; floats are widened.
     VEKPrtPolyCubicBezierElt(const double* iPoints, int iCount);

@@ -35,8 +35,13 @@ public:
     /// Replaces points and counts by copies.
     ///
     /// \p iPoints holds x0, y0, x1, y1, ... of as many points as the counts add up to; counts are not
-    /// checked, and a negative one lowers the total.  A negative \p iPolygonCount leaves no arrays.
-    /// Where memory is out the array concerned is null; without counts there are no points either.
+    /// checked, and a negative one lowers the total.  A total of 0, also that of no polygons, leaves a point
+    /// array of no length, a negative total none.  A negative \p iPolygonCount is kept and leaves no arrays.
+    /// Null counts are zeros, null points (0, 0).  When allocation fails the array concerned is null; without
+    /// counts there are no points either.
+    ///
+    /// Arguments may lie in the element's own arrays, which are read as far as they go, zero beyond, and then
+    /// freed.
     virtual void SetPoints(const double* iPoints, const int* iCounts, int iPolygonCount);
 
     /// Lends the arrays: valid until the next SetPoints, assignment or destruction.
@@ -51,9 +56,9 @@ public:
     virtual void GetTransformAttributes(VEKPrtTransformAttributes& oAttributes) const;
 
 private:
+    VEKPRT2DMODEL_LOCAL long long MakeCounts(const int* iCounts, long long iReadable);
     template <class Coordinate>
-    VEKPRT2DMODEL_LOCAL void FillArrays(const Coordinate* iPoints, long long iReadable, const int* iCounts,
-                                        long long iReadableCounts, bool iKeepEmpty);
+    VEKPRT2DMODEL_LOCAL void MakePoints(long long iTotal, const Coordinate* iPoints, long long iReadable);
     VEKPRT2DMODEL_LOCAL void CopyOwn(const VEKPrtPolyPolygonElt& iOther);
 
     double* _points = nullptr;

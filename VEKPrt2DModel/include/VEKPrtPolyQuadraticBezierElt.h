@@ -16,8 +16,8 @@ class VEKPRT2DMODEL_API VEKPrtPolyQuadraticBezierElt : public VEKPrtGraphicPrimi
 public:
     VEKPrtPolyQuadraticBezierElt();
 
-    /// Copies the points at positions 1 to the list's size; a null entry gives (0, 0).
-    explicit VEKPrtPolyQuadraticBezierElt(const VEKListPtrVEKMathPoint2D& iPoints);
+    /// \copydoc VEKPrtPolylineElt::VEKPrtPolylineElt(const VEKListPtrVEKMathPoint2D&)
+    VEKPrtPolyQuadraticBezierElt(const VEKListPtrVEKMathPoint2D& iPoints);
 
     /// As SetPoints; floats are widened.
     VEKPrtPolyQuadraticBezierElt(const double* iPoints, int iCount);

@@ -18,8 +18,8 @@ public:
     VEKPrtPolygonElt();
 
     /// Copies the points at positions 0 to the list's size less 1, so that the first is (0, 0) and the last
-    /// is not read; a null entry gives (0, 0).
-    explicit VEKPrtPolygonElt(const VEKListPtrVEKMathPoint2D& iPoints);
+    /// is not read; a null entry gives (0, 0).  An empty list gives no array.
+    VEKPrtPolygonElt(const VEKListPtrVEKMathPoint2D& iPoints);
 
     /// As SetPoints; floats are widened.
     VEKPrtPolygonElt(const double* iPoints, int iCount);

@@ -16,8 +16,9 @@ class VEKPRT2DMODEL_API VEKPrtPolylineElt : public VEKPrtGraphicPrimitiveElt {
 public:
     VEKPrtPolylineElt();
 
-    /// Copies the points at positions 1 to the list's size; a null entry gives (0, 0).
-    explicit VEKPrtPolylineElt(const VEKListPtrVEKMathPoint2D& iPoints);
+    /// Copies the points at positions 1 to the list's size; a null entry gives (0, 0).  An empty list gives
+    /// no array, where SetPoints with a count of 0 gives one.
+    VEKPrtPolylineElt(const VEKListPtrVEKMathPoint2D& iPoints);
 
     /// As SetPoints; floats are widened.
     VEKPrtPolylineElt(const double* iPoints, int iCount);
@@ -37,7 +38,10 @@ public:
     /// Replaces the points by a copy of \p iCount points (x0, y0, x1, y1, ...).
     ///
     /// A count of 0 leaves an array of no length, a negative count no array; the count is kept as given,
-    /// also when memory is out and there is no array.  A null \p iPoints gives points at (0, 0).
+    /// also when allocation fails and there is no array.  A null \p iPoints gives points at (0, 0).
+    ///
+    /// \p iPoints may lie in the element's own array, which is read as far as it goes, (0, 0) beyond, and
+    /// then freed.
     virtual void SetPoints(const double* iPoints, int iCount);
 
     /// Lends the array: valid until the next SetPoints, assignment or destruction.

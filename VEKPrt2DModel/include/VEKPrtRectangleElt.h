@@ -22,8 +22,8 @@ public:
 
     VEKPRT_DECLARE_META_FAMILY
 
-    /// The copy has a pattern image of its own.  The one shared meanwhile is not given back: the source's
-    /// image keeps one reference more for ever.
+    /// The copy has a pattern image of its own.  The one that it shared meanwhile is not given back: the
+    /// source's image keeps a reference that is never released.
     void Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) override;
 
     virtual void SetPoints(const VEKMathPoint2D& iFirst, const VEKMathPoint2D& iSecond);
@@ -40,8 +40,8 @@ public:
 private:
     VEKPRT2DMODEL_LOCAL void CopyOwn(const VEKPrtRectangleElt& iOther);
 
-    VEKMathPoint2D _firstCorner;
-    VEKMathPoint2D _secondCorner;
+    VEKMathPoint2D _firstCorner{0.0, 0.0};
+    VEKMathPoint2D _secondCorner{0.0, 0.0};
     VEKPrtDrawStyle _drawStyle = VEKPrtDrawOutline;
     VEKPrtStrokeAttributes _stroke;
     VEKPrtFillAttributes _fill;

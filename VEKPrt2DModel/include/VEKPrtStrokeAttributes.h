@@ -21,7 +21,7 @@ public:
     virtual void SetStrokeColourIndex(unsigned int iIndex);
     virtual void GetStrokeColourIndex(unsigned int& oIndex) const;
 
-    /// 255, the default, is opaque.
+    /// From 0 to 255, the default, which this project's consumer reads as opaque.
     virtual void SetStrokeColourTransparency(unsigned char iTransparency);
     /// Not const, unlike its neighbours: the mangled name is part of the binary interface.
     virtual void GetStrokeColourTransparency(unsigned char& oTransparency);
@@ -31,10 +31,11 @@ public:
     /// Replaces the dash pattern by a copy of \p iCount values.
     ///
     /// Count 0 drops the pattern.  Null values with a count give a pattern of zeros, but null does
-    /// nothing at all while no pattern is held.
+    /// nothing at all while no pattern is held.  When allocation fails the count stays, and the pattern reads
+    /// as zeros.
     virtual void SetStrokeTypePattern(const float* iValues, unsigned char iCount);
 
-    /// Hands out a fresh copy, the caller's to `delete[]`; null when memory is out.
+    /// Hands out a fresh copy, the caller's to `delete[]`; null when allocation fails.
     ///
     /// With no pattern, \p oCount is 0 and \p oValues is not written: preset it.
     virtual void GetStrokeTypePattern(float*& oValues, unsigned char& oCount) const;
@@ -55,14 +56,14 @@ private:
 
     unsigned int _colourIndex = 0;
     unsigned char _colourTransparency = 255;
-    VEKPrintLineAttribute _type = VEKPrintLineTypeSolid;
+    VEKPrintLineAttribute _type;
     float* _pattern = nullptr;
     unsigned char _patternLength = 0;
     // The float 0.1 widened, not the double 0.1: clients compare for equality.
     double _width = static_cast<double>(0.1F);
-    VEKPrintLineAttribute _style = VEKPrintLineStyleScaled;
-    VEKPrintLineAttribute _cap = VEKPrintLineCapButt;
-    VEKPrintLineAttribute _join = VEKPrintLineJoinMitre;
+    VEKPrintLineAttribute _style;
+    VEKPrintLineAttribute _cap;
+    VEKPrintLineAttribute _join;
 };
 
 #endif

@@ -13,7 +13,9 @@ extern VEKPRT2DMODEL_API VEKMetaClass* meta_object__15VEKPrtSymbolElt;
 
 /// Children in a placement box, meant to be used again.
 ///
-/// Holds one reference on each child.  Pattern and symbol are alike but for their class.
+/// To place a symbol several times, add it to several groups, each with the transforms of one place.  The box
+/// is stored only; this project's consumer clips the symbol to it.  Holds one reference on each child.
+/// Pattern and symbol are alike but for their class.
 class VEKPRT2DMODEL_API VEKPrtSymbolElt : public VEKPrtGraphicPrimitiveElt {
 public:
     VEKPrtSymbolElt();
@@ -48,7 +50,7 @@ private:
     VEKPRT2DMODEL_LOCAL void CopyFields(const VEKPrtSymbolElt& iOther);
 
     VEKListPtrVEKPrtGraphicPrimitiveElt* _children = nullptr;
-    VEKMathPoint2D _origin;
+    VEKMathPoint2D _origin{0.0, 0.0};
     double _width = 0.0;
     double _height = 0.0;
     VEKPrtTransformAttributes _transform;

@@ -44,9 +44,9 @@ public:
 
 private:
     VEKFont* _font = nullptr;
-    VEKPrintTextAttribute _weight = VEKPrintTextWeightRegular;
+    VEKPrintTextAttribute _weight;
     double _height = 10.0;
-    VEKPrintTextAttribute _anchor = VEKPrintTextAnchorBaselineLeft;
+    VEKPrintTextAttribute _anchor;
     float _slant = 0.0F;
     float _direction = 0.0F;
     double _extraSpacing = 0.0;

@@ -14,6 +14,9 @@
 extern VEKPRT2DMODEL_API VEKMetaClass* meta_object__13VEKPrtTextElt;
 
 /// A string, its position, and the richest set of records: stroke, fill, text and transform.
+///
+/// The draw style of a new text is that of a new shape: a consumer that reads it so outlines the letters and
+/// does not fill them.
 class VEKPRT2DMODEL_API VEKPrtTextElt : public VEKPrtGraphicPrimitiveElt {
 public:
     VEKPrtTextElt();
@@ -47,7 +50,7 @@ public:
 private:
     VEKPRT2DMODEL_LOCAL void CopyOwn(const VEKPrtTextElt& iOther);
 
-    VEKMathPoint2D _position;
+    VEKMathPoint2D _position{0.0, 0.0};
     VEKUnicodeString _text;
     VEKPrtDrawStyle _drawStyle = VEKPrtDrawOutline;
     VEKPrtStrokeAttributes _stroke;

@@ -28,12 +28,16 @@ public:
     /// unless it was the last.
     virtual int AddTransformAttributes(const VEKPrtTransformAttributes& iOther);
 
-    // Each Add appends a value and its kind.  When memory is out it returns -1, and either the values of
-    // that kind are lost or, after the value was appended, the list of all kinds; the record stays usable.
-    //
-    // Each Get takes a position, from 0, among all transforms, and yields the latest value of its kind
-    // at or before that position.  The entry at the position itself may be of another kind.  It fails
-    // past the end, and where no value of the kind precedes.
+    /// \name The seven kinds
+    ///
+    /// Each Add appends a value and its kind.  When allocation fails it returns -1, and either the values of
+    /// that kind are lost or, after the value was appended, the list of all kinds; the record stays usable.
+    ///
+    /// Each Get takes a position, from 0, among all transforms.  If n entries of its kind stand up to and
+    /// including that position, it yields the n-th value added of the kind; the entry at the position itself
+    /// may be of another kind.  Get returns -1 past the end, where n is 0, and where fewer than n values were
+    /// added.
+    /// @{
     virtual int AddMatrix(const VEKMath2x2Matrix& iMatrix);
     virtual int GetMatrix(unsigned int iIndex, VEKMath2x2Matrix& oMatrix) const;
     virtual int AddScaleX(double iScale);
@@ -48,35 +52,42 @@ public:
     virtual int GetSkewY(unsigned int iIndex, float& oAngle) const;
     virtual int AddTranslation(const VEKMathVector2D& iTranslation);
     virtual int GetTranslation(unsigned int iIndex, VEKMathVector2D& oTranslation) const;
+    /// @}
 
-    /// Appends a kind without a value; Get then finds the latest value before it, if any.
+    /// Appends a kind without a value.
+    ///
+    /// The n-th entry of a kind goes with the n-th value added of that kind: a value added later goes with
+    /// this entry, if no other entry of the kind lacks one, and the entry made for that value has none.
     virtual int AddTransform(const VEKPrintTransformType& iKind);
 
 private:
+    // The kinds or the values of one kind: an array exactly as long as its count, or, after a failed
+    // addition, none.
     template <class Value>
-    VEKPRT2DMODEL_LOCAL int AddValue(VEKPrintTransformType iKind, Value*& ioValues, unsigned int& ioCount,
+    struct VEKPRT2DMODEL_LOCAL Values {
+        Values() = default;
+        Values(const Values& iOther);
+        Values& operator=(const Values& iOther);
+        int Append(const Value& iValue);
+
+        Value* array = nullptr;
+        unsigned int count = 0;
+    };
+    template <class Value>
+    VEKPRT2DMODEL_LOCAL int AddValue(VEKPrintTransformType iKind, Values<Value>& ioValues,
                                      const Value& iValue);
     template <class Value>
-    VEKPRT2DMODEL_LOCAL int GetValue(VEKPrintTransformType iKind, const Value* iValues, unsigned int iCount,
+    VEKPRT2DMODEL_LOCAL int GetValue(VEKPrintTransformType iKind, const Values<Value>& iValues,
                                      unsigned int iIndex, Value& oValue) const;
-    VEKPRT2DMODEL_LOCAL void CopyOwn(const VEKPrtTransformAttributes& iOther);
 
-    VEKPrintTransformType* _kinds = nullptr;
-    unsigned int _kindCount = 0;
-    VEKMath2x2Matrix* _matrices = nullptr;
-    unsigned int _matrixCount = 0;
-    double* _scalesX = nullptr;
-    unsigned int _scaleXCount = 0;
-    double* _scalesY = nullptr;
-    unsigned int _scaleYCount = 0;
-    float* _rotations = nullptr;
-    unsigned int _rotationCount = 0;
-    float* _skewsX = nullptr;
-    unsigned int _skewXCount = 0;
-    float* _skewsY = nullptr;
-    unsigned int _skewYCount = 0;
-    VEKMathVector2D* _translations = nullptr;
-    unsigned int _translationCount = 0;
+    Values<VEKPrintTransformType> _kinds;
+    Values<VEKMath2x2Matrix> _matrices;
+    Values<double> _scalesX;
+    Values<double> _scalesY;
+    Values<float> _rotations;
+    Values<float> _skewsX;
+    Values<float> _skewsY;
+    Values<VEKMathVector2D> _translations;
 };
 
 #endif

@@ -8,7 +8,10 @@ namespace vekprt {
 
 /// Makes \p ioHeld hold \p iImage, either of them perhaps null: the old image is released before the new one
 /// gains its reference, and the image already held keeps its count.
-inline void HoldImage(VEKPixelImage*& ioHeld, VEKPixelImage* iImage) {
+///
+/// \p iImage is a reference because it may be the field of another record, which the destructor of the old
+/// image may change.
+inline void HoldImage(VEKPixelImage*& ioHeld, VEKPixelImage* const& iImage) {
     if (iImage == ioHeld) return;
     if (ioHeld) ioHeld->Release();
     ioHeld = iImage;

@@ -9,10 +9,19 @@
 
 namespace vekprt {
 
+// Where the walk starts that releases the old members in an assignment.
+//
+// Containers walk positions 0 to count - 1: position 0 yields null, and the member at the last position keeps
+// its reference and outlives the list.  Clients see that count, so it stays
+// (ContainerAssign.LeavesTheLastReference).
+constexpr int containerWalkStart = 0;
+// The closed figure and the model release every member.
+constexpr int completeWalkStart = 1;
+
 /// The operations on a holder's `List*` of `Member*`: made on first need, null until then.
 ///
-/// The holder has one reference on each occurrence of a member.  A list may drop an Append for want of
-/// memory, and nobody can tell: the reference taken for it is then lost.
+/// The holder has one reference on each occurrence of a member.  A list drops an Append without a word when
+/// it cannot grow; the reference taken for it is then never given back.
 template <class List, class Member>
 struct MemberList {
     static void Add(List*& ioList, Member* iMember) {
@@ -39,7 +48,10 @@ struct MemberList {
     /// Makes \p ioList share the members of \p iSource; the walk that releases the old members runs from
     /// \p iFirst over as many positions as there are.  Two holders without a list stay without; otherwise
     /// a list is made, even for a source without one.
-    static void Share(List*& ioList, const List* iSource, int iFirst) {
+    ///
+    /// \p iSource is the field of the source, and read anew when the old members are gone: their destructors
+    /// may give it a list or take it away.
+    static void Share(List*& ioList, List* const& iSource, int iFirst) {
         if (ioList == iSource) return;
         if (ioList) ReleaseWalk(*ioList, iFirst, iFirst + ioList->Size() - 1);
         delete ioList;
@@ -50,12 +62,12 @@ struct MemberList {
     }
 
     /// Makes a list of duplicates, one for each occurrence.  The reference that a duplicate comes with is
-    /// the list's.
-    static void Duplicate(List*& oList, const List* iSource) {
+    /// the list's.  \p iSource is a field here, too: a member's Duplicate may change it.
+    static void Duplicate(List*& oList, List* const& iSource) {
         if (!iSource) return;
         oList = new (std::nothrow) List(0);
         if (!oList) return;
-        for (int position = 1; position <= iSource->Size(); ++position) {
+        for (int position = 1; iSource && position <= iSource->Size(); ++position) {
             Member* const member = At(*iSource, position);
             if (!member) continue;
             Member* copy = nullptr;
@@ -86,7 +98,9 @@ class SourceGuard {
 public:
     SourceGuard(const VEKBaseUnknown& iSource, const void* iOldList)
         : _source(iOldList ? const_cast<VEKBaseUnknown*>(&iSource) : nullptr) {
-        if (_source) _source->AddRef();
+        // A source that nobody held before is being destroyed.  It keeps the reference: giving it back would
+        // destroy the source a second time.
+        if (_source && _source->AddRef() == 1) _source = nullptr;
     }
     ~SourceGuard() {
         if (_source) _source->Release();
@@ -98,27 +112,6 @@ private:
     VEKBaseUnknown* _source;
 };
 
-// Where the release walk of an assignment starts.
-//
-// Containers walk positions 0 to count - 1: position 0 yields null, and the member at the last position
-// keeps its reference and outlives the list.  Clients see that count, so it stays
-// (ContainerAssign.LeavesTheLastReference).
-constexpr int containerWalkStart = 0;
-// The closed figure and the model release every member.
-constexpr int completeWalkStart = 1;
-
 } // namespace vekprt
-
-// The child operations of a container with the field _children; ConstOrNot is the qualifier of GetChildren.
-#define VEKPRT_IMPLEMENT_CHILDREN(Self, ConstOrNot)                                                          \
-    void Self::AddChild(VEKPrtGraphicPrimitiveElt* iChild) {                                                 \
-        if (iChild != this) vekprt::ChildList::Add(_children, iChild);                                       \
-    }                                                                                                        \
-    void Self::RemoveChild(VEKPrtGraphicPrimitiveElt* iChild) {                                              \
-        if (iChild != this) vekprt::ChildList::Remove(_children, iChild);                                    \
-    }                                                                                                        \
-    void Self::GetChildren(VEKListPtrVEKPrtGraphicPrimitiveElt*& oChildren) ConstOrNot {                     \
-        oChildren = _children;                                                                               \
-    }
 
 #endif

@@ -10,15 +10,16 @@
 
 namespace vekprt {
 
-/// An array of \p iCount elements, all zero (or default-constructed).
+/// An array of \p iCount elements, not initialised where their type is not.
 ///
-/// An array of its own for 0, too.  Null when the count is negative, the size does not fit, or memory is
-/// out.  The tests come first because g++ throws from `new (std::nothrow)` for lengths that it finds absurd.
+/// A count of 0 also yields an array.  Null when the count is negative, the size does not fit, or allocation
+/// fails.  The tests come first because g++ throws from `new (std::nothrow)` for lengths that it considers
+/// too long.
 template <class T>
 T* NewArray(std::int64_t iCount) {
     constexpr std::int64_t limit = PTRDIFF_MAX / static_cast<std::int64_t>(sizeof(T));
     if (iCount < 0 || iCount > limit) return nullptr;
-    return new (std::nothrow) T[static_cast<std::size_t>(iCount)]();
+    return new (std::nothrow) T[static_cast<std::size_t>(iCount)];
 }
 
 template <class T>
@@ -27,29 +28,63 @@ void DeleteArray(T*& ioArray) {
     ioArray = nullptr;
 }
 
-/// Copies \p iCount elements from index \p iFirst of the source on, converting each; a missing source or
-/// target, or a count of 0 or less, copies nothing, so that fresh entries without a source stay zero.
+/// Gives all \p iCount elements of an array a value: the first \p iReadable that of the source, converted,
+/// the others \p iBlank.  Without a source all are blank; without an array nothing happens.
 template <class Target, class Source>
-void CopyArray(Target* oTarget, const Source* iSource, std::int64_t iCount, std::int64_t iFirst = 0) {
-    if (!oTarget || !iSource || iCount <= 0) return;
-    std::transform(iSource + iFirst, iSource + iFirst + iCount, oTarget,
-                   [](const Source& iValue) { return Target(iValue); });
+void FillArray(Target* oTarget, std::int64_t iCount, const Source* iSource, std::int64_t iReadable,
+               const Target& iBlank = Target()) {
+    if (!oTarget || iCount <= 0) return;
+    const std::int64_t copied = iSource ? std::clamp<std::int64_t>(iReadable, 0, iCount) : 0;
+    std::copy(iSource, iSource + copied, oTarget);
+    std::fill(oTarget + copied, oTarget + iCount, iBlank);
 }
 
-/// Whether \p iPlace is an element, or the start, of the array of \p iHeld elements at \p iOwn.
-template <class T>
-bool LiesIn(const T* iPlace, const T* iOwn, std::int64_t iHeld) {
-    const std::less<const T*> before;
-    return iOwn && (iPlace == iOwn || (!before(iPlace, iOwn) && before(iPlace, iOwn + iHeld)));
+/// A new array, filled as by FillArray.
+template <class Target, class Source>
+Target* NewCopy(std::int64_t iCount, const Source* iSource, std::int64_t iReadable,
+                const Target& iBlank = Target()) {
+    Target* const copy = NewArray<Target>(iCount);
+    FillArray(copy, iCount, iSource, iReadable, iBlank);
+    return copy;
 }
 
-/// How many elements can be read from \p iSource on, at most \p iWanted: a source that lies in the array
-/// of \p iHeld elements at \p iOwn ends where that array ends, and any other is taken at its word.
+/// An array taken out of its owner to be replaced.  What replaces it may be copied from a part of it, so it
+/// is there until Free is called or the scope ends.
 template <class T>
-std::int64_t CountReadable(const T* iSource, std::int64_t iWanted, const T* iOwn, std::int64_t iHeld) {
-    if (!LiesIn(iSource, iOwn, iHeld)) return iWanted;
-    return std::min<std::int64_t>(iWanted, iOwn + iHeld - iSource);
-}
+class OutgoingArray {
+public:
+    OutgoingArray(T*& ioOwned, std::int64_t iCount) : _array(ioOwned), _count(iCount) { ioOwned = nullptr; }
+    ~OutgoingArray() { Free(); }
+    OutgoingArray(const OutgoingArray&) = delete;
+    OutgoingArray& operator=(const OutgoingArray&) = delete;
+
+    T* Get() const { return _array; }
+    void Free() { DeleteArray(_array); }
+    /// Hands the array to the caller.
+    T* Detach() {
+        T* const array = _array;
+        _array = nullptr;
+        return array;
+    }
+
+    /// Whether a source that is read from its element \p iFirst on is this array or begins within it.
+    bool Holds(const T* iSource, std::int64_t iFirst = 0) const {
+        if (!_array || !iSource) return false;
+        const std::less<const T*> before;
+        const T* const first = iSource + iFirst;
+        return iSource == _array || (!before(first, _array) && before(first, _array + _count));
+    }
+
+    /// How many elements can be read from element \p iFirst of a source on, at most \p iWanted: a source
+    /// within this array ends where the array ends; the length of any other is trusted.
+    std::int64_t CountReadable(const T* iSource, std::int64_t iWanted, std::int64_t iFirst = 0) const {
+        return Holds(iSource, iFirst) ? std::min(iWanted, _array + _count - (iSource + iFirst)) : iWanted;
+    }
+
+private:
+    T* _array;
+    std::int64_t _count;
+};
 
 } // namespace vekprt
 

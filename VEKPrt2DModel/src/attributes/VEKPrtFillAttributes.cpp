@@ -5,25 +5,28 @@
 VEKPrtFillAttributes::VEKPrtFillAttributes() = default;
 
 VEKPrtFillAttributes::VEKPrtFillAttributes(const VEKPrtFillAttributes& iOther) : VEKPrtFillAttributes() {
-    if (&iOther == this) return;
-    CopyPlainFields(iOther);
-    vekprt::HoldImage(_image, iOther._image);
+    *this = iOther;
 }
 
 VEKPrtFillAttributes::~VEKPrtFillAttributes() { vekprt::HoldImage(_image, nullptr); }
 
 VEKPrtFillAttributes& VEKPrtFillAttributes::operator=(const VEKPrtFillAttributes& iOther) {
     if (&iOther == this) return *this;
-    CopyPlainFields(iOther);
+    CopyColour(iOther);
     vekprt::HoldImage(_image, iOther._image);
+    CopyPlacement(iOther);
     return *this;
 }
 
-void VEKPrtFillAttributes::CopyPlainFields(const VEKPrtFillAttributes& iOther) {
+// The image is copied between these two: its functions are virtual and may look at the records.
+void VEKPrtFillAttributes::CopyColour(const VEKPrtFillAttributes& iOther) {
     _style = iOther._style;
     _rule = iOther._rule;
     _colourIndex = iOther._colourIndex;
     _colourTransparency = iOther._colourTransparency;
+}
+
+void VEKPrtFillAttributes::CopyPlacement(const VEKPrtFillAttributes& iOther) {
     _firstVector = iOther._firstVector;
     _secondVector = iOther._secondVector;
     _refPoint = iOther._refPoint;
@@ -33,8 +36,9 @@ void VEKPrtFillAttributes::CopyPlainFields(const VEKPrtFillAttributes& iOther) {
 // shares the image by then, and the reference taken for that is never given back
 // (DuplicateFill.ShapesLeaveAReferenceBehind).
 void VEKPrtFillAttributes::Duplicate(VEKPrtFillAttributes& oTarget) {
+    oTarget.CopyColour(*this);
     if (_image) oTarget._image = _image->Clone();
-    oTarget.CopyPlainFields(*this);
+    oTarget.CopyPlacement(*this);
 }
 
 int VEKPrtFillAttributes::operator==(const VEKPrtFillAttributes& iOther) const {

@@ -1,7 +1,7 @@
 #include "VEKPrtGroupAttributes.h"
 
-// Assigned although it is constructed so already: the default of a host's link type is then the one it
-// gives to copies.
+// Assigned although a default link stands there already: a host's link type sees an assignment from a fresh
+// one.
 VEKPrtGroupAttributes::VEKPrtGroupAttributes() { _linkURI = VEKPrintLinkURI(); }
 
 VEKPrtGroupAttributes::VEKPrtGroupAttributes(const VEKPrtGroupAttributes& iOther) : VEKPrtGroupAttributes() {

@@ -1,6 +1,8 @@
 #include "VEKPrtMarkerAttributes.h"
 
-VEKPrtMarkerAttributes::VEKPrtMarkerAttributes() = default;
+#include "HostValues.h"
+
+VEKPrtMarkerAttributes::VEKPrtMarkerAttributes() : _style(vekprt::defaultMarkerStyle) {}
 
 VEKPrtMarkerAttributes::VEKPrtMarkerAttributes(const VEKPrtMarkerAttributes& iOther)
     : VEKPrtMarkerAttributes() {

@@ -1,8 +1,11 @@
 #include "VEKPrtStrokeAttributes.h"
 
+#include "HostValues.h"
 #include "OwnedArray.h"
 
-VEKPrtStrokeAttributes::VEKPrtStrokeAttributes() = default;
+VEKPrtStrokeAttributes::VEKPrtStrokeAttributes()
+    : _type(vekprt::defaultLineType), _style(vekprt::defaultLineStyle), _cap(vekprt::defaultLineCap),
+      _join(vekprt::defaultLineJoin) {}
 
 VEKPrtStrokeAttributes::VEKPrtStrokeAttributes(const VEKPrtStrokeAttributes& iOther)
     : VEKPrtStrokeAttributes() {
@@ -35,8 +38,7 @@ void VEKPrtStrokeAttributes::CopyPlainFields(const VEKPrtStrokeAttributes& iOthe
 void VEKPrtStrokeAttributes::ReplacePattern(const float* iValues, unsigned char iCount) {
     vekprt::DeleteArray(_pattern);
     _patternLength = iCount;
-    if (iCount > 0) _pattern = vekprt::NewArray<float>(iCount);
-    vekprt::CopyArray(_pattern, iValues, iCount);
+    if (iCount > 0) _pattern = vekprt::NewCopy<float>(iCount, iValues, iCount);
 }
 
 int VEKPrtStrokeAttributes::operator==(const VEKPrtStrokeAttributes& iOther) const {
@@ -70,8 +72,7 @@ void VEKPrtStrokeAttributes::SetStrokeTypePattern(const float* iValues, unsigned
 void VEKPrtStrokeAttributes::GetStrokeTypePattern(float*& oValues, unsigned char& oCount) const {
     oCount = _patternLength;
     if (_patternLength == 0) return;
-    oValues = vekprt::NewArray<float>(_patternLength);
-    vekprt::CopyArray(oValues, _pattern, _patternLength);
+    oValues = vekprt::NewCopy<float>(_patternLength, _pattern, _patternLength);
 }
 
 void VEKPrtStrokeAttributes::SetStrokeWidth(double iWidth) { _width = iWidth; }

@@ -1,13 +1,16 @@
 #include "VEKPrtTextAttributes.h"
 
-VEKPrtTextAttributes::VEKPrtTextAttributes() = default;
+#include "HostValues.h"
+
+VEKPrtTextAttributes::VEKPrtTextAttributes()
+    : _weight(vekprt::defaultTextWeight), _anchor(vekprt::defaultTextAnchor) {}
 
 VEKPrtTextAttributes::VEKPrtTextAttributes(const VEKPrtTextAttributes& iOther) : VEKPrtTextAttributes() {
     *this = iOther;
 }
 
 // The font is borrowed: nothing is released.
-VEKPrtTextAttributes::~VEKPrtTextAttributes() { _font = nullptr; }
+VEKPrtTextAttributes::~VEKPrtTextAttributes() = default;
 
 VEKPrtTextAttributes& VEKPrtTextAttributes::operator=(const VEKPrtTextAttributes& iOther) {
     if (&iOther == this) return *this;

@@ -1,36 +1,23 @@
 #include "VEKPrtTransformAttributes.h"
 
+#include "HostValues.h"
 #include "OwnedArray.h"
 
 namespace {
 
-// Makes room for one more value and returns the place of the last, null when memory is out.
-//
-// The count is raised and the old array let go of before the new one is known to be there: after a
-// failure the count stays raised and the old values are lost, their memory with them.  It stays so
-// (TransformFailure.LosesTheValuesOfOneKind).  The next addition starts from an array of zeros.
+// What an entry is before a value is stored in it.
 template <class Value>
-Value* GrowByOne(Value*& ioValues, unsigned int& ioCount) {
-    Value* old = ioValues;
-    ++ioCount;
-    if (ioCount != 0) ioValues = vekprt::NewArray<Value>(ioCount);
-    if (ioCount == 0 || !ioValues) return nullptr;
-    vekprt::CopyArray(ioValues, old, std::int64_t{ioCount} - 1);
-    vekprt::DeleteArray(old);
-    return ioValues + (ioCount - 1);
+Value Blank() {
+    return Value();
+}
+// Whatever a host's vector is by default.
+template <>
+VEKMathVector2D Blank() {
+    return VEKMathVector2D(0.0, 0.0);
 }
 
-// A source without an array but with a count, left by a failed addition, gives default elements.
-template <class Value>
-void CopyValues(Value*& oValues, unsigned int& oCount, const Value* iValues, unsigned int iCount) {
-    vekprt::DeleteArray(oValues);
-    oCount = iCount;
-    if (oCount == 0) return;
-    oValues = vekprt::NewArray<Value>(oCount);
-    vekprt::CopyArray(oValues, iValues, oCount);
-}
-
-// Appends to ioTarget the transform at iIndex of iSource; what GetValue leaves alone starts at iPreset.
+// Appends to ioTarget the transform at iIndex of iSource.  The preset is what a derived record's Get leaves
+// alone.
 template <class Value, class Parameter>
 int Replay(const VEKPrtTransformAttributes& iSource, unsigned int iIndex, VEKPrtTransformAttributes& ioTarget,
            int (VEKPrtTransformAttributes::*iGet)(unsigned int, Value&) const,
@@ -39,45 +26,57 @@ int Replay(const VEKPrtTransformAttributes& iSource, unsigned int iIndex, VEKPrt
     return status > 0 ? (ioTarget.*iAdd)(iPreset) : status;
 }
 
+template <class... Values>
+void DeleteInOrder(Values&... ioValues) {
+    (vekprt::DeleteArray(ioValues.array), ...);
+}
+
 } // namespace
 
-VEKPrtTransformAttributes::VEKPrtTransformAttributes() = default;
-
-VEKPrtTransformAttributes::VEKPrtTransformAttributes(const VEKPrtTransformAttributes& iOther)
-    : VEKPrtTransformAttributes() {
-    if (&iOther != this) CopyOwn(iOther);
+template <class Value>
+VEKPrtTransformAttributes::Values<Value>::Values(const Values& iOther) {
+    *this = iOther;
 }
 
-VEKPrtTransformAttributes::~VEKPrtTransformAttributes() {
-    vekprt::DeleteArray(_kinds);
-    vekprt::DeleteArray(_matrices);
-    vekprt::DeleteArray(_scalesX);
-    vekprt::DeleteArray(_scalesY);
-    vekprt::DeleteArray(_rotations);
-    vekprt::DeleteArray(_skewsX);
-    vekprt::DeleteArray(_skewsY);
-    vekprt::DeleteArray(_translations);
-}
-
-VEKPrtTransformAttributes& VEKPrtTransformAttributes::operator=(const VEKPrtTransformAttributes& iOther) {
-    if (&iOther != this) CopyOwn(iOther);
+// A source without an array but with a count, left by a failed addition, gives blank entries.
+template <class Value>
+VEKPrtTransformAttributes::Values<Value>&
+VEKPrtTransformAttributes::Values<Value>::operator=(const Values& iOther) {
+    if (&iOther == this) return *this;
+    vekprt::DeleteArray(array);
+    count = iOther.count;
+    if (count != 0) array = vekprt::NewCopy(count, iOther.array, count, Blank<Value>());
     return *this;
 }
 
-void VEKPrtTransformAttributes::CopyOwn(const VEKPrtTransformAttributes& iOther) {
-    CopyValues(_kinds, _kindCount, iOther._kinds, iOther._kindCount);
-    CopyValues(_matrices, _matrixCount, iOther._matrices, iOther._matrixCount);
-    CopyValues(_scalesX, _scaleXCount, iOther._scalesX, iOther._scaleXCount);
-    CopyValues(_scalesY, _scaleYCount, iOther._scalesY, iOther._scaleYCount);
-    CopyValues(_rotations, _rotationCount, iOther._rotations, iOther._rotationCount);
-    CopyValues(_skewsX, _skewXCount, iOther._skewsX, iOther._skewXCount);
-    CopyValues(_skewsY, _skewYCount, iOther._skewsY, iOther._skewYCount);
-    CopyValues(_translations, _translationCount, iOther._translations, iOther._translationCount);
+// The count is raised and the old array let go of before the new one is known to be there: after a
+// failure the count stays raised and the old values are lost, their memory with them.  It stays so
+// (TransformFailure.LosesTheValuesOfOneKind).  The next addition starts from an array of blanks.
+template <class Value>
+int VEKPrtTransformAttributes::Values<Value>::Append(const Value& iValue) {
+    Value* old = array;
+    ++count;
+    if (count != 0) array = vekprt::NewArray<Value>(count);
+    if (count == 0 || !array) return -1;
+    vekprt::FillArray(array, count - 1, old, count - 1, Blank<Value>());
+    array[count - 1] = iValue; // before the old array goes: the value may be an entry of it
+    vekprt::DeleteArray(old);
+    return 1;
+}
+
+VEKPrtTransformAttributes::VEKPrtTransformAttributes() = default;
+VEKPrtTransformAttributes::VEKPrtTransformAttributes(const VEKPrtTransformAttributes& iOther) = default;
+VEKPrtTransformAttributes&
+VEKPrtTransformAttributes::operator=(const VEKPrtTransformAttributes& iOther) = default;
+
+// In the order of declaration, where destructors of the members would run in reverse.
+VEKPrtTransformAttributes::~VEKPrtTransformAttributes() {
+    DeleteInOrder(_kinds, _matrices, _scalesX, _scalesY, _rotations, _skewsX, _skewsY, _translations);
 }
 
 int VEKPrtTransformAttributes::GetTransformTab(unsigned int& oCount, VEKPrintTransformType*& oKinds) const {
-    oCount = _kindCount;
-    oKinds = _kinds;
+    oCount = _kinds.count;
+    oKinds = _kinds.array;
     return 1;
 }
 
@@ -89,31 +88,31 @@ int VEKPrtTransformAttributes::AddTransformAttributes(const VEKPrtTransformAttri
     if (status <= 0) return status;
     if (!kinds || count == 0) return 1;
 
-    const bool ownKinds = kinds == _kinds;
+    const bool ownKinds = kinds == _kinds.array;
     for (unsigned int i = 0; i < count; ++i) {
         // An addition to this record has replaced its kinds: the list handed out is gone.
-        if (ownKinds && kinds != _kinds) return -1;
+        if (ownKinds && kinds != _kinds.array) return -1;
         switch (kinds[i]) {
-        case VEKPrintTransformTranslation:
-            status =
-                Replay(iOther, i, *this, &Record::GetTranslation, &Record::AddTranslation, VEKMathVector2D());
+        case vekprt::transformTranslation:
+            status = Replay(iOther, i, *this, &Record::GetTranslation, &Record::AddTranslation,
+                            VEKMathVector2D(0.0, 0.0));
             break;
-        case VEKPrintTransformRotation:
+        case vekprt::transformRotation:
             status = Replay(iOther, i, *this, &Record::GetRotation, &Record::AddRotation, 0.0F);
             break;
-        case VEKPrintTransformScaleX:
+        case vekprt::transformScaleX:
             status = Replay(iOther, i, *this, &Record::GetScaleX, &Record::AddScaleX, 1.0);
             break;
-        case VEKPrintTransformScaleY:
+        case vekprt::transformScaleY:
             status = Replay(iOther, i, *this, &Record::GetScaleY, &Record::AddScaleY, 1.0);
             break;
-        case VEKPrintTransformSkewX:
+        case vekprt::transformSkewX:
             status = Replay(iOther, i, *this, &Record::GetSkewX, &Record::AddSkewX, 1.0F);
             break;
-        case VEKPrintTransformSkewY:
+        case vekprt::transformSkewY:
             status = Replay(iOther, i, *this, &Record::GetSkewY, &Record::AddSkewY, 1.0F);
             break;
-        case VEKPrintTransformMatrix:
+        case vekprt::transformMatrix:
             status = Replay(iOther, i, *this, &Record::GetMatrix, &Record::AddMatrix, VEKMath2x2Matrix());
             break;
         default: break; // a kind that has no value
@@ -124,73 +123,66 @@ int VEKPrtTransformAttributes::AddTransformAttributes(const VEKPrtTransformAttri
 }
 
 template <class Value>
-int VEKPrtTransformAttributes::AddValue(VEKPrintTransformType iKind, Value*& ioValues, unsigned int& ioCount,
+int VEKPrtTransformAttributes::AddValue(VEKPrintTransformType iKind, Values<Value>& ioValues,
                                         const Value& iValue) {
-    Value* const last = GrowByOne(ioValues, ioCount);
-    if (!last) return -1;
-    *last = iValue;
+    if (ioValues.Append(iValue) != 1) return -1;
     return AddTransform(iKind) == 1 ? 1 : -1;
 }
 
 template <class Value>
-int VEKPrtTransformAttributes::GetValue(VEKPrintTransformType iKind, const Value* iValues,
-                                        unsigned int iCount, unsigned int iIndex, Value& oValue) const {
-    if (!_kinds || _kindCount == 0 || !iValues || iCount == 0 || iIndex >= _kindCount) return -1;
+int VEKPrtTransformAttributes::GetValue(VEKPrintTransformType iKind, const Values<Value>& iValues,
+                                        unsigned int iIndex, Value& oValue) const {
+    if (!_kinds.array || !iValues.array || iIndex >= _kinds.count) return -1;
     // The entry at iIndex need not be of the kind: the latest value up to there is the one asked for.
-    const auto seen = std::count(_kinds, _kinds + iIndex + 1, iKind);
-    if (seen == 0 || seen - 1 >= std::int64_t{iCount}) return -1;
-    oValue = iValues[seen - 1];
+    const auto seen = std::count(_kinds.array, _kinds.array + iIndex + 1, iKind);
+    if (seen == 0 || seen - 1 >= std::int64_t{iValues.count}) return -1;
+    oValue = iValues.array[seen - 1];
     return 1;
 }
 
 int VEKPrtTransformAttributes::AddMatrix(const VEKMath2x2Matrix& iMatrix) {
-    return AddValue(VEKPrintTransformMatrix, _matrices, _matrixCount, iMatrix);
+    return AddValue(vekprt::transformMatrix, _matrices, iMatrix);
 }
 int VEKPrtTransformAttributes::GetMatrix(unsigned int iIndex, VEKMath2x2Matrix& oMatrix) const {
-    return GetValue(VEKPrintTransformMatrix, _matrices, _matrixCount, iIndex, oMatrix);
+    return GetValue(vekprt::transformMatrix, _matrices, iIndex, oMatrix);
 }
 int VEKPrtTransformAttributes::AddScaleX(double iScale) {
-    return AddValue(VEKPrintTransformScaleX, _scalesX, _scaleXCount, iScale);
+    return AddValue(vekprt::transformScaleX, _scalesX, iScale);
 }
 int VEKPrtTransformAttributes::GetScaleX(unsigned int iIndex, double& oScale) const {
-    return GetValue(VEKPrintTransformScaleX, _scalesX, _scaleXCount, iIndex, oScale);
+    return GetValue(vekprt::transformScaleX, _scalesX, iIndex, oScale);
 }
 int VEKPrtTransformAttributes::AddScaleY(double iScale) {
-    return AddValue(VEKPrintTransformScaleY, _scalesY, _scaleYCount, iScale);
+    return AddValue(vekprt::transformScaleY, _scalesY, iScale);
 }
 int VEKPrtTransformAttributes::GetScaleY(unsigned int iIndex, double& oScale) const {
-    return GetValue(VEKPrintTransformScaleY, _scalesY, _scaleYCount, iIndex, oScale);
+    return GetValue(vekprt::transformScaleY, _scalesY, iIndex, oScale);
 }
 int VEKPrtTransformAttributes::AddRotation(float iAngle) {
-    return AddValue(VEKPrintTransformRotation, _rotations, _rotationCount, iAngle);
+    return AddValue(vekprt::transformRotation, _rotations, iAngle);
 }
 int VEKPrtTransformAttributes::GetRotation(unsigned int iIndex, float& oAngle) const {
-    return GetValue(VEKPrintTransformRotation, _rotations, _rotationCount, iIndex, oAngle);
+    return GetValue(vekprt::transformRotation, _rotations, iIndex, oAngle);
 }
 int VEKPrtTransformAttributes::AddSkewX(float iAngle) {
-    return AddValue(VEKPrintTransformSkewX, _skewsX, _skewXCount, iAngle);
+    return AddValue(vekprt::transformSkewX, _skewsX, iAngle);
 }
 int VEKPrtTransformAttributes::GetSkewX(unsigned int iIndex, float& oAngle) const {
-    return GetValue(VEKPrintTransformSkewX, _skewsX, _skewXCount, iIndex, oAngle);
+    return GetValue(vekprt::transformSkewX, _skewsX, iIndex, oAngle);
 }
 int VEKPrtTransformAttributes::AddSkewY(float iAngle) {
-    return AddValue(VEKPrintTransformSkewY, _skewsY, _skewYCount, iAngle);
+    return AddValue(vekprt::transformSkewY, _skewsY, iAngle);
 }
 int VEKPrtTransformAttributes::GetSkewY(unsigned int iIndex, float& oAngle) const {
-    return GetValue(VEKPrintTransformSkewY, _skewsY, _skewYCount, iIndex, oAngle);
+    return GetValue(vekprt::transformSkewY, _skewsY, iIndex, oAngle);
 }
 int VEKPrtTransformAttributes::AddTranslation(const VEKMathVector2D& iTranslation) {
-    return AddValue(VEKPrintTransformTranslation, _translations, _translationCount, iTranslation);
+    return AddValue(vekprt::transformTranslation, _translations, iTranslation);
 }
 int VEKPrtTransformAttributes::GetTranslation(unsigned int iIndex, VEKMathVector2D& oTranslation) const {
-    return GetValue(VEKPrintTransformTranslation, _translations, _translationCount, iIndex, oTranslation);
+    return GetValue(vekprt::transformTranslation, _translations, iIndex, oTranslation);
 }
 
 int VEKPrtTransformAttributes::AddTransform(const VEKPrintTransformType& iKind) {
-    // By value: the reference may be to an entry of the list that goes.
-    const VEKPrintTransformType kind = iKind;
-    VEKPrintTransformType* const last = GrowByOne(_kinds, _kindCount);
-    if (!last) return -1;
-    *last = kind;
-    return 1;
+    return _kinds.Append(iKind);
 }

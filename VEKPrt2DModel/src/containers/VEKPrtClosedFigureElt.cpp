@@ -7,11 +7,20 @@
 
 using RegionList = vekprt::MemberList<VEKListPtrVEKPrtClosedFigureRegionElt, VEKPrtClosedFigureRegionElt>;
 
-VEKPRT_IMPLEMENT_ELEMENT(VEKPrtClosedFigureElt, 21)
+VEKPRT_IMPLEMENT_META_FAMILY(VEKPrtClosedFigureElt, 21, VEKPrtGraphicPrimitiveElt)
 
 VEKPrtClosedFigureElt::VEKPrtClosedFigureElt() = default;
 
+VEKPrtClosedFigureElt::VEKPrtClosedFigureElt(const VEKPrtClosedFigureElt& iOther) : VEKPrtClosedFigureElt() {
+    if (&iOther != this) CopyOwn(iOther);
+}
+
 VEKPrtClosedFigureElt::~VEKPrtClosedFigureElt() { RegionList::Destroy(_regions); }
+
+VEKPrtClosedFigureElt& VEKPrtClosedFigureElt::operator=(const VEKPrtClosedFigureElt& iOther) {
+    vekprt::Assign(*this, iOther, &VEKPrtClosedFigureElt::CopyOwn);
+    return *this;
+}
 
 void VEKPrtClosedFigureElt::CopyOwn(const VEKPrtClosedFigureElt& iOther) {
     const vekprt::SourceGuard guard(iOther, _regions);
@@ -35,9 +44,24 @@ void VEKPrtClosedFigureElt::Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) {
 
 void VEKPrtClosedFigureElt::SetDrawStyle(VEKPrtDrawStyle iStyle) { _drawStyle = iStyle; }
 void VEKPrtClosedFigureElt::GetDrawStyle(VEKPrtDrawStyle& oStyle) const { oStyle = _drawStyle; }
-VEKPRT_IMPLEMENT_RECORD(VEKPrtClosedFigureElt, StrokeAttributes, _stroke)
-VEKPRT_IMPLEMENT_RECORD(VEKPrtClosedFigureElt, FillAttributes, _fill)
-VEKPRT_IMPLEMENT_RECORD(VEKPrtClosedFigureElt, TransformAttributes, _transform)
+void VEKPrtClosedFigureElt::SetStrokeAttributes(const VEKPrtStrokeAttributes& iAttributes) {
+    _stroke = iAttributes;
+}
+void VEKPrtClosedFigureElt::GetStrokeAttributes(VEKPrtStrokeAttributes& oAttributes) const {
+    oAttributes = _stroke;
+}
+void VEKPrtClosedFigureElt::SetFillAttributes(const VEKPrtFillAttributes& iAttributes) {
+    _fill = iAttributes;
+}
+void VEKPrtClosedFigureElt::GetFillAttributes(VEKPrtFillAttributes& oAttributes) const {
+    oAttributes = _fill;
+}
+void VEKPrtClosedFigureElt::SetTransformAttributes(const VEKPrtTransformAttributes& iAttributes) {
+    _transform = iAttributes;
+}
+void VEKPrtClosedFigureElt::GetTransformAttributes(VEKPrtTransformAttributes& oAttributes) const {
+    oAttributes = _transform;
+}
 
 void VEKPrtClosedFigureElt::AddChild(VEKPrtClosedFigureRegionElt* iRegion) {
     RegionList::Add(_regions, iRegion);

@@ -3,11 +3,22 @@
 #include "ElementProtocol.h"
 #include "MemberList.h"
 
-VEKPRT_IMPLEMENT_ELEMENT(VEKPrtClosedFigureRegionElt, 27)
+VEKPRT_IMPLEMENT_META_FAMILY(VEKPrtClosedFigureRegionElt, 27, VEKPrtGraphicPrimitiveElt)
 
 VEKPrtClosedFigureRegionElt::VEKPrtClosedFigureRegionElt() = default;
 
+VEKPrtClosedFigureRegionElt::VEKPrtClosedFigureRegionElt(const VEKPrtClosedFigureRegionElt& iOther)
+    : VEKPrtClosedFigureRegionElt() {
+    if (&iOther != this) CopyOwn(iOther);
+}
+
 VEKPrtClosedFigureRegionElt::~VEKPrtClosedFigureRegionElt() { vekprt::ChildList::Destroy(_children); }
+
+VEKPrtClosedFigureRegionElt&
+VEKPrtClosedFigureRegionElt::operator=(const VEKPrtClosedFigureRegionElt& iOther) {
+    vekprt::Assign(*this, iOther, &VEKPrtClosedFigureRegionElt::CopyOwn);
+    return *this;
+}
 
 void VEKPrtClosedFigureRegionElt::CopyOwn(const VEKPrtClosedFigureRegionElt& iOther) {
     const vekprt::SourceGuard guard(iOther, _children);
@@ -26,6 +37,19 @@ void VEKPrtClosedFigureRegionElt::DuplicateInto(Out*& oCopy) const {
 void VEKPrtClosedFigureRegionElt::Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) { DuplicateInto(oCopy); }
 void VEKPrtClosedFigureRegionElt::Duplicate(VEKPrtClosedFigureRegionElt*& oCopy) { DuplicateInto(oCopy); }
 
-VEKPRT_IMPLEMENT_RECORD(VEKPrtClosedFigureRegionElt, TransformAttributes, _transform)
+void VEKPrtClosedFigureRegionElt::SetTransformAttributes(const VEKPrtTransformAttributes& iAttributes) {
+    _transform = iAttributes;
+}
+void VEKPrtClosedFigureRegionElt::GetTransformAttributes(VEKPrtTransformAttributes& oAttributes) const {
+    oAttributes = _transform;
+}
 
-VEKPRT_IMPLEMENT_CHILDREN(VEKPrtClosedFigureRegionElt, /* not const */)
+void VEKPrtClosedFigureRegionElt::AddChild(VEKPrtGraphicPrimitiveElt* iChild) {
+    if (iChild != this) vekprt::ChildList::Add(_children, iChild);
+}
+void VEKPrtClosedFigureRegionElt::RemoveChild(VEKPrtGraphicPrimitiveElt* iChild) {
+    if (iChild != this) vekprt::ChildList::Remove(_children, iChild);
+}
+void VEKPrtClosedFigureRegionElt::GetChildren(VEKListPtrVEKPrtGraphicPrimitiveElt*& oChildren) {
+    oChildren = _children;
+}

@@ -3,11 +3,20 @@
 #include "ElementProtocol.h"
 #include "MemberList.h"
 
-VEKPRT_IMPLEMENT_ELEMENT(VEKPrtGroupElt, 14)
+VEKPRT_IMPLEMENT_META_FAMILY(VEKPrtGroupElt, 14, VEKPrtGraphicPrimitiveElt)
 
 VEKPrtGroupElt::VEKPrtGroupElt() = default;
 
+VEKPrtGroupElt::VEKPrtGroupElt(const VEKPrtGroupElt& iOther) : VEKPrtGroupElt() {
+    if (&iOther != this) CopyOwn(iOther);
+}
+
 VEKPrtGroupElt::~VEKPrtGroupElt() { vekprt::ChildList::Destroy(_children); }
+
+VEKPrtGroupElt& VEKPrtGroupElt::operator=(const VEKPrtGroupElt& iOther) {
+    vekprt::Assign(*this, iOther, &VEKPrtGroupElt::CopyOwn);
+    return *this;
+}
 
 void VEKPrtGroupElt::CopyOwn(const VEKPrtGroupElt& iOther) {
     const vekprt::SourceGuard guard(iOther, _children);
@@ -27,7 +36,23 @@ void VEKPrtGroupElt::Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) {
     copy->CopyFields(*this);
 }
 
-VEKPRT_IMPLEMENT_RECORD(VEKPrtGroupElt, GroupAttributes, _groupAttributes)
-VEKPRT_IMPLEMENT_RECORD(VEKPrtGroupElt, TransformAttributes, _transform)
+void VEKPrtGroupElt::SetGroupAttributes(const VEKPrtGroupAttributes& iAttributes) {
+    _groupAttributes = iAttributes;
+}
+void VEKPrtGroupElt::GetGroupAttributes(VEKPrtGroupAttributes& oAttributes) const {
+    oAttributes = _groupAttributes;
+}
+void VEKPrtGroupElt::SetTransformAttributes(const VEKPrtTransformAttributes& iAttributes) {
+    _transform = iAttributes;
+}
+void VEKPrtGroupElt::GetTransformAttributes(VEKPrtTransformAttributes& oAttributes) const {
+    oAttributes = _transform;
+}
 
-VEKPRT_IMPLEMENT_CHILDREN(VEKPrtGroupElt, /* not const */)
+void VEKPrtGroupElt::AddChild(VEKPrtGraphicPrimitiveElt* iChild) {
+    if (iChild != this) vekprt::ChildList::Add(_children, iChild);
+}
+void VEKPrtGroupElt::RemoveChild(VEKPrtGraphicPrimitiveElt* iChild) {
+    if (iChild != this) vekprt::ChildList::Remove(_children, iChild);
+}
+void VEKPrtGroupElt::GetChildren(VEKListPtrVEKPrtGraphicPrimitiveElt*& oChildren) { oChildren = _children; }

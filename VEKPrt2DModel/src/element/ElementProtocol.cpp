@@ -1,15 +1,19 @@
 #include "ElementProtocol.h"
 
+#include "HostValues.h"
+
 namespace vekprt {
 
-VEKMetaClass* RetrieveMetaObject(VEKMetaClass*& ioCache, const char* iClassName, VEKMetaClass* (*iBase)(),
-                                 const char* iLateType, long iSize) {
-    if (ioCache) return ioCache;
-    VEKMetaClass* const base = iBase();
-    if (base)
-        ioCache =
-            fct_RetrieveMetaObject(iClassName, VEKTypeImplementation, base, iLateType, "PrintBase", iSize);
-    return ioCache;
+VEKMetaClass* RegisterClass(VEKMetaClass*& oCache, const char* iClassName, VEKMetaClass* iBase,
+                            const char* iLateType, long iSize) {
+    oCache = fct_RetrieveMetaObject(iClassName, typeImplementation, iBase, iLateType, "PrintBase", iSize);
+    return oCache;
+}
+
+const char* IdOf(const VEKMetaClass* iClass) { return iClass ? iClass->GetId() : nullptr; }
+const char* NameOf(const VEKMetaClass* iClass) { return iClass ? iClass->GetName() : nullptr; }
+int IsAKindOf(const VEKMetaClass* iClass, const char* iClassName) {
+    return iClass ? iClass->IsAKindOf(iClassName) : 0;
 }
 
 } // namespace vekprt

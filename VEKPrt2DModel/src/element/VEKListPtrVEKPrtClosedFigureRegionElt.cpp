@@ -5,5 +5,10 @@ VEKListPtrVEKPrtClosedFigureRegionElt::VEKListPtrVEKPrtClosedFigureRegionElt(int
 VEKListPtrVEKPrtClosedFigureRegionElt::VEKListPtrVEKPrtClosedFigureRegionElt(
     const VEKListPtrVEKPrtClosedFigureRegionElt& iOther) = default;
 VEKListPtrVEKPrtClosedFigureRegionElt::~VEKListPtrVEKPrtClosedFigureRegionElt() = default;
-VEKListPtrVEKPrtClosedFigureRegionElt& VEKListPtrVEKPrtClosedFigureRegionElt::operator=(
-    const VEKListPtrVEKPrtClosedFigureRegionElt& iOther) = default;
+
+// Tested here: a host's collection need not survive its own assignment.
+VEKListPtrVEKPrtClosedFigureRegionElt&
+VEKListPtrVEKPrtClosedFigureRegionElt::operator=(const VEKListPtrVEKPrtClosedFigureRegionElt& iOther) {
+    if (&iOther != this) VEKRawCollPV::operator=(iOther);
+    return *this;
+}

@@ -5,5 +5,10 @@ VEKListPtrVEKPrtGraphicPrimitiveElt::VEKListPtrVEKPrtGraphicPrimitiveElt(int iIn
 VEKListPtrVEKPrtGraphicPrimitiveElt::VEKListPtrVEKPrtGraphicPrimitiveElt(
     const VEKListPtrVEKPrtGraphicPrimitiveElt& iOther) = default;
 VEKListPtrVEKPrtGraphicPrimitiveElt::~VEKListPtrVEKPrtGraphicPrimitiveElt() = default;
+
+// Tested here: a host's collection need not survive its own assignment.
 VEKListPtrVEKPrtGraphicPrimitiveElt&
-VEKListPtrVEKPrtGraphicPrimitiveElt::operator=(const VEKListPtrVEKPrtGraphicPrimitiveElt& iOther) = default;
+VEKListPtrVEKPrtGraphicPrimitiveElt::operator=(const VEKListPtrVEKPrtGraphicPrimitiveElt& iOther) {
+    if (&iOther != this) VEKRawCollPV::operator=(iOther);
+    return *this;
+}

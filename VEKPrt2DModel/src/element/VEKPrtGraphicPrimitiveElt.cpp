@@ -4,8 +4,8 @@
 
 VEKPRT_IMPLEMENT_META_FAMILY(VEKPrtGraphicPrimitiveElt, 25, VEKBaseUnknown)
 
-// Here and elsewhere strings are default-constructed and then assigned: that is all that is asked of a
-// host's string type.
+// Here and elsewhere strings are default-constructed and then assigned: nothing else is asked of a host's
+// string type.
 VEKPrtGraphicPrimitiveElt::VEKPrtGraphicPrimitiveElt() {
     _id = "";
     _description = "";

@@ -16,6 +16,7 @@ VEKPrtModel::~VEKPrtModel() { ImageList::Destroy(_images); }
 
 VEKPrtModel& VEKPrtModel::operator=(const VEKPrtModel& iOther) {
     if (&iOther == this) return *this;
+    const vekprt::SourceGuard guard(iOther, _images);
     VEKBaseUnknown::operator=(iOther);
     ImageList::Share(_images, iOther._images, vekprt::completeWalkStart);
     return *this;

@@ -3,7 +3,7 @@
 #include "ElementProtocol.h"
 #include "HeldImage.h"
 
-VEKPRT_IMPLEMENT_ELEMENT(VEKPrtBitmapImageElt, 20)
+VEKPRT_IMPLEMENT_META_FAMILY(VEKPrtBitmapImageElt, 20, VEKPrtGraphicPrimitiveElt)
 
 VEKPrtBitmapImageElt::VEKPrtBitmapImageElt() = default;
 
@@ -13,9 +13,15 @@ VEKPrtBitmapImageElt::VEKPrtBitmapImageElt(const VEKMathPoint2D& iOrigin, double
     vekprt::HoldImage(_image, iImage);
 }
 
-VEKPrtBitmapImageElt::~VEKPrtBitmapImageElt() {
-    if (_image) _image->Release();
-    _image = nullptr;
+VEKPrtBitmapImageElt::VEKPrtBitmapImageElt(const VEKPrtBitmapImageElt& iOther) : VEKPrtBitmapImageElt() {
+    if (&iOther != this) CopyOwn(iOther);
+}
+
+VEKPrtBitmapImageElt::~VEKPrtBitmapImageElt() { vekprt::HoldImage(_image, nullptr); }
+
+VEKPrtBitmapImageElt& VEKPrtBitmapImageElt::operator=(const VEKPrtBitmapImageElt& iOther) {
+    vekprt::Assign(*this, iOther, &VEKPrtBitmapImageElt::CopyOwn);
+    return *this;
 }
 
 void VEKPrtBitmapImageElt::CopyOwn(const VEKPrtBitmapImageElt& iOther) {
@@ -75,4 +81,9 @@ void VEKPrtBitmapImageElt::GetParameters(VEKMathPoint2D& oOrigin, double& oWidth
     oImage = _image;
 }
 
-VEKPRT_IMPLEMENT_RECORD(VEKPrtBitmapImageElt, TransformAttributes, _transform)
+void VEKPrtBitmapImageElt::SetTransformAttributes(const VEKPrtTransformAttributes& iAttributes) {
+    _transform = iAttributes;
+}
+void VEKPrtBitmapImageElt::GetTransformAttributes(VEKPrtTransformAttributes& oAttributes) const {
+    oAttributes = _transform;
+}

@@ -8,9 +8,10 @@ namespace {
 
 constexpr unsigned int growthStep = 256;
 
-void ReplaceComponent(unsigned char*& ioHeld, unsigned char* iLarger, unsigned int iCount) {
-    vekprt::CopyArray(iLarger, ioHeld, iCount);
-    vekprt::DeleteArray(ioHeld);
+// Moves the iCount components in use to a larger array.
+void Replace(unsigned char*& ioHeld, unsigned char* iLarger, unsigned int iCount) {
+    std::copy_n(ioHeld, iCount, iLarger);
+    delete[] ioHeld;
     ioHeld = iLarger;
 }
 
@@ -29,9 +30,9 @@ VEKPrtColourTable::~VEKPrtColourTable() {
 }
 
 VEKPrtColourTable& VEKPrtColourTable::operator=(const VEKPrtColourTable& iOther) {
-    // By pointer: two tables without arrays count as one and the same.
-    if (&iOther == this || _red == iOther._red || _green == iOther._green || _blue == iOther._blue)
-        return *this;
+    // By pointer: two tables without arrays count as one and the same.  The three arrays come and go
+    // together, here and below, so that one speaks for all.
+    if (_red == iOther._red) return *this;
     vekprt::DeleteArray(_red);
     vekprt::DeleteArray(_green);
     vekprt::DeleteArray(_blue);
@@ -39,23 +40,23 @@ VEKPrtColourTable& VEKPrtColourTable::operator=(const VEKPrtColourTable& iOther)
     return *this;
 }
 
-// Where one of the arrays cannot be had, or the source has none, the copy is empty; arrays that were got are
-// not freed (ColourTableFailure.CopyIsEmpty).
+// Where one of the arrays cannot be allocated, or the source has none, the copy is empty; arrays that were
+// allocated are not freed (ColourTableFailure.CopyIsEmpty).
 void VEKPrtColourTable::CopyOwn(const VEKPrtColourTable& iOther) {
     _capacity = _count = _allocated = 0;
     if (iOther._capacity == 0) return;
     unsigned char* const red = vekprt::NewArray<unsigned char>(iOther._capacity);
     unsigned char* const green = vekprt::NewArray<unsigned char>(iOther._capacity);
     unsigned char* const blue = vekprt::NewArray<unsigned char>(iOther._capacity);
-    if (!red || !green || !blue || !iOther._red || !iOther._green || !iOther._blue ||
-        iOther._capacity < iOther._count)
-        return;
-    _capacity = iOther._capacity;
+    if (!red || !green || !blue || !iOther._red) return;
+    _capacity = _allocated = iOther._capacity;
     _count = iOther._count;
-    _allocated = _capacity;
-    vekprt::CopyArray(_red = red, iOther._red, _count);
-    vekprt::CopyArray(_green = green, iOther._green, _count);
-    vekprt::CopyArray(_blue = blue, iOther._blue, _count);
+    _red = red;
+    _green = green;
+    _blue = blue;
+    std::copy_n(iOther._red, _count, _red);
+    std::copy_n(iOther._green, _count, _green);
+    std::copy_n(iOther._blue, _count, _blue);
 }
 
 int VEKPrtColourTable::GetColourCount(int& oCount) const {
@@ -63,11 +64,17 @@ int VEKPrtColourTable::GetColourCount(int& oCount) const {
     return 1;
 }
 
+// One slot always stays free: the arrays grow when a single one is left, the last is used only after a growth
+// has failed (ColourTable.GrowsBy256WithOneSlotFree).  Where a failed growth has left the capacity above what
+// the arrays hold, the next addition that does not fit takes arrays of the capacity as it stands.
 int VEKPrtColourTable::AddColour(unsigned char iRed, unsigned char iGreen, unsigned char iBlue,
                                  unsigned int& oIndex) {
-    if (!(_count + 1 < _capacity) && Grow() < 0) return -1;
-    // After a failed growth the capacity promises more than the arrays hold.
-    if (_count >= _allocated) return -1;
+    if (_count + 1 >= _capacity) {
+        if (_capacity > std::numeric_limits<unsigned int>::max() - growthStep) return -1;
+        _capacity += growthStep;
+        if (!Reallocate()) return -1;
+    }
+    if (_count >= _allocated && !Reallocate()) return -1;
     _red[_count] = iRed;
     _green[_count] = iGreen;
     _blue[_count] = iBlue;
@@ -75,31 +82,25 @@ int VEKPrtColourTable::AddColour(unsigned char iRed, unsigned char iGreen, unsig
     return 1;
 }
 
-// On failure the capacity stays raised and arrays that were got before are not freed; the old ones stay in
-// use (ColourTableFailure.CapacityStaysRaised).
-int VEKPrtColourTable::Grow() {
-    if (_capacity > std::numeric_limits<unsigned int>::max() - growthStep) return -1;
-    _capacity += growthStep;
+// Takes arrays of the capacity.  When one cannot be allocated the old ones stay in use, the capacity stays as
+// it is, and arrays allocated before are not freed (ColourTableFailure.CapacityStaysRaised).
+bool VEKPrtColourTable::Reallocate() {
     unsigned char* const red = vekprt::NewArray<unsigned char>(_capacity);
-    if (!red) return -1;
+    if (!red) return false;
     unsigned char* const green = vekprt::NewArray<unsigned char>(_capacity);
-    if (!green) return -1;
+    if (!green) return false;
     unsigned char* const blue = vekprt::NewArray<unsigned char>(_capacity);
-    if (!blue) return -1;
-    ReplaceComponent(_red, red, _count);
-    ReplaceComponent(_green, green, _count);
-    ReplaceComponent(_blue, blue, _count);
+    if (!blue) return false;
+    Replace(_red, red, _count);
+    Replace(_green, green, _count);
+    Replace(_blue, blue, _count);
     _allocated = _capacity;
-    return 1;
-}
-
-bool VEKPrtColourTable::HasColour(unsigned int iIndex) const {
-    return iIndex < _count && _red && _green && _blue;
+    return true;
 }
 
 int VEKPrtColourTable::ModifyColour(unsigned int iIndex, unsigned char iRed, unsigned char iGreen,
                                     unsigned char iBlue) {
-    if (!HasColour(iIndex)) return -1;
+    if (iIndex >= _count) return -1;
     _red[iIndex] = iRed;
     _green[iIndex] = iGreen;
     _blue[iIndex] = iBlue;
@@ -108,7 +109,7 @@ int VEKPrtColourTable::ModifyColour(unsigned int iIndex, unsigned char iRed, uns
 
 int VEKPrtColourTable::GetColourIndex(unsigned int& oIndex, unsigned char iRed, unsigned char iGreen,
                                       unsigned char iBlue) const {
-    for (unsigned int i = 0; HasColour(i); ++i) {
+    for (unsigned int i = 0; i < _count; ++i) {
         if (_red[i] != iRed || _green[i] != iGreen || _blue[i] != iBlue) continue;
         oIndex = i;
         return 1;
@@ -118,7 +119,7 @@ int VEKPrtColourTable::GetColourIndex(unsigned int& oIndex, unsigned char iRed, 
 
 int VEKPrtColourTable::GetColour(unsigned int iIndex, unsigned char& oRed, unsigned char& oGreen,
                                  unsigned char& oBlue) const {
-    if (!HasColour(iIndex)) return -1;
+    if (iIndex >= _count) return -1;
     oRed = _red[iIndex];
     oGreen = _green[iIndex];
     oBlue = _blue[iIndex];

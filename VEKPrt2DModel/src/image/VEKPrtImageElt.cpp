@@ -4,7 +4,7 @@
 #include "MemberList.h"
 #include "VEKPrtColourTable.h"
 
-VEKPRT_IMPLEMENT_ELEMENT(VEKPrtImageElt, 14)
+VEKPRT_IMPLEMENT_META_FAMILY(VEKPrtImageElt, 14, VEKPrtGraphicPrimitiveElt)
 
 VEKPrtImageElt::VEKPrtImageElt() = default;
 
@@ -12,10 +12,19 @@ VEKPrtImageElt::VEKPrtImageElt(const VEKMathPoint2D& iOrigin, double iWidth, dou
                                const VEKPrtImageUnits& iUnits, const VEKMath2x2Matrix& iMatrix)
     : _origin(iOrigin), _width(iWidth), _height(iHeight), _units(iUnits), _matrix(iMatrix) {}
 
+VEKPrtImageElt::VEKPrtImageElt(const VEKPrtImageElt& iOther) : VEKPrtImageElt() {
+    if (&iOther != this) CopyOwn(iOther);
+}
+
 VEKPrtImageElt::~VEKPrtImageElt() {
     delete _colourTable;
-    _colourTable = nullptr;
+    _colourTable = nullptr; // the destructors of the children may still ask for it
     vekprt::ChildList::Destroy(_children);
+}
+
+VEKPrtImageElt& VEKPrtImageElt::operator=(const VEKPrtImageElt& iOther) {
+    vekprt::Assign(*this, iOther, &VEKPrtImageElt::CopyOwn);
+    return *this;
 }
 
 void VEKPrtImageElt::CopyOwn(const VEKPrtImageElt& iOther) {
@@ -63,4 +72,12 @@ void VEKPrtImageElt::SetColourTable(VEKPrtColourTable* iTable) {
     _colourTable = iTable;
 }
 void VEKPrtImageElt::GetColourTable(VEKPrtColourTable*& oTable) { oTable = _colourTable; }
-VEKPRT_IMPLEMENT_CHILDREN(VEKPrtImageElt, const)
+void VEKPrtImageElt::AddChild(VEKPrtGraphicPrimitiveElt* iChild) {
+    if (iChild != this) vekprt::ChildList::Add(_children, iChild);
+}
+void VEKPrtImageElt::RemoveChild(VEKPrtGraphicPrimitiveElt* iChild) {
+    if (iChild != this) vekprt::ChildList::Remove(_children, iChild);
+}
+void VEKPrtImageElt::GetChildren(VEKListPtrVEKPrtGraphicPrimitiveElt*& oChildren) const {
+    oChildren = _children;
+}

@@ -2,46 +2,45 @@
 #ifndef PointArray_H
 #define PointArray_H
 
-#include "ElementProtocol.h"
 #include "OwnedArray.h"
 #include "VEKListPtrVEKMathPoint2D.h"
 
 namespace vekprt {
 
-// In all of these an array that is there holds exactly the points that its count says.  A count without
-// an array is possible: a negative one, and one whose allocation failed.
+// In all of these an array that is there holds exactly the points that its count says.  A count without an
+// array is possible: a negative one, and one whose allocation failed.
 
-/// Sets \p oPoints to a copy of \p iCount points: an array of no length for 0, none for a negative count.
+/// A copy of \p iCount points: an array of no length for 0, none for a negative count.
 template <class Coordinate>
-void NewPoints(double*& oPoints, int iCount, const Coordinate* iPoints) {
-    oPoints = NewArray<double>(2 * std::int64_t{iCount});
-    CopyArray(oPoints, iPoints, iCount < 0 ? 0 : 2 * std::int64_t{iCount});
+double* NewPoints(const Coordinate* iPoints, int iCount) {
+    const std::int64_t coordinates = 2 * std::int64_t{iCount};
+    return NewCopy<double>(coordinates, iPoints, coordinates);
 }
 
-/// Sets \p oPoints to \p iCount points of a list, from position \p iFirst on; none for 0 or less.
-inline void NewPointsFromList(double*& oPoints, int iCount, const VEKListPtrVEKMathPoint2D& iList,
-                              int iFirst) {
-    if (iCount > 0) oPoints = NewArray<double>(2 * std::int64_t{iCount});
-    if (!oPoints) return;
-    double* coordinate = oPoints;
-    for (int i = 0; i < iCount; ++i) {
+/// As many points as the list has, or \p iCount says, from position \p iFirst on; none for 0 or less.
+///
+/// From 1 that is the list; from 0 it begins with the null at position 0, which is (0, 0), and leaves the
+/// last point out.  The classes differ in it, and clients see which points they get, so each keeps its own
+/// (PointArrayList.FirstPosition).
+inline double* NewPointsFromList(const VEKListPtrVEKMathPoint2D& iList, int iCount, int iFirst) {
+    double* const points = iCount > 0 ? NewArray<double>(2 * std::int64_t{iCount}) : nullptr;
+    double* coordinate = points;
+    for (int i = 0; points && i < iCount; ++i) {
         const auto* const point = static_cast<const VEKMathPoint2D*>(iList[iFirst + i]);
         *coordinate++ = point ? point->GetX() : 0.0;
         *coordinate++ = point ? point->GetY() : 0.0;
     }
+    return points;
 }
 
 /// SetPoints.  The old array goes first, unless \p iPoints lies in it: it is then read as far as it goes.
 inline void ReplacePoints(double*& ioPoints, int& ioCount, const double* iPoints, int iCount) {
-    double* old = ioPoints;
+    OutgoingArray<double> old(ioPoints, 2 * std::int64_t{ioCount});
     const std::int64_t wanted = 2 * std::int64_t{iCount};
-    const std::int64_t held = 2 * std::int64_t{ioCount};
-    const std::int64_t readable = CountReadable(iPoints, wanted, old, held);
-    if (!LiesIn<double>(iPoints, old, held)) DeleteArray(old);
+    const std::int64_t readable = old.CountReadable(iPoints, wanted);
+    if (!old.Holds(iPoints)) old.Free();
     ioCount = iCount;
-    ioPoints = NewArray<double>(wanted);
-    CopyArray(ioPoints, iPoints, readable);
-    DeleteArray(old);
+    ioPoints = NewCopy<double>(wanted, iPoints, readable);
 }
 
 /// Copying.  Two elements without an array are left alone, counts included; otherwise a source without
@@ -50,51 +49,9 @@ inline void CopyPoints(double*& ioPoints, int& ioCount, const double* iPoints, i
     if (ioPoints == iPoints) return;
     DeleteArray(ioPoints);
     ioCount = iPoints ? iCount : 0;
-    if (ioCount > 0) NewPoints(ioPoints, ioCount, iPoints);
+    if (ioCount > 0) ioPoints = NewPoints(iPoints, ioCount);
 }
 
 } // namespace vekprt
-
-// What the point-array classes have in common, for a class with the fields _points and _count.
-
-// Destructor, SetPoints and GetPoints.
-#define VEKPRT_IMPLEMENT_POINT_ARRAY(Self)                                                                   \
-    Self::~Self() {                                                                                          \
-        vekprt::DeleteArray(_points);                                                                        \
-        _count = 0;                                                                                          \
-    }                                                                                                        \
-    void Self::SetPoints(const double* iPoints, int iCount) {                                                \
-        vekprt::ReplacePoints(_points, _count, iPoints, iCount);                                             \
-    }                                                                                                        \
-    void Self::GetPoints(double*& oPoints, int& oCount) const {                                              \
-        oPoints = _points;                                                                                   \
-        oCount = _count;                                                                                     \
-    }
-
-// All constructors but the copy constructor.  The list constructor reads as many positions as the list has,
-// from FirstPosition on: from 1 it reads the list; from 0 it begins with the null at position 0, which is
-// (0, 0), and leaves the last point out.  The classes differ in it, and clients rely on each
-// (PointArrayList.FirstPosition).
-#define VEKPRT_IMPLEMENT_POINT_CONSTRUCTORS(Self, FirstPosition)                                             \
-    Self::Self() = default;                                                                                  \
-    Self::Self(const VEKListPtrVEKMathPoint2D& iPoints) : _count(iPoints.Size()) {                           \
-        vekprt::NewPointsFromList(_points, _count, iPoints, FirstPosition);                                  \
-    }                                                                                                        \
-    Self::Self(const double* iPoints, int iCount) : _count(iCount) {                                         \
-        vekprt::NewPoints(_points, _count, iPoints);                                                         \
-    }                                                                                                        \
-    Self::Self(const float* iPoints, int iCount) : _count(iCount) {                                          \
-        vekprt::NewPoints(_points, _count, iPoints);                                                         \
-    }
-
-// Copying and the records of a class that has a stroke and a transform besides.
-#define VEKPRT_IMPLEMENT_STROKED_POINTS(Self)                                                                \
-    void Self::CopyOwn(const Self& iOther) {                                                                 \
-        vekprt::CopyPoints(_points, _count, iOther._points, iOther._count);                                  \
-        _stroke = iOther._stroke;                                                                            \
-        _transform = iOther._transform;                                                                      \
-    }                                                                                                        \
-    VEKPRT_IMPLEMENT_RECORD(Self, StrokeAttributes, _stroke)                                                 \
-    VEKPRT_IMPLEMENT_RECORD(Self, TransformAttributes, _transform)
 
 #endif

@@ -1,9 +1,6 @@
 #include "VEKPrtNURBSElt.h"
 
-#include <algorithm>
 #include <cstdint>
-#include <iterator>
-#include <utility>
 
 #include "ElementProtocol.h"
 #include "OwnedArray.h"
@@ -15,7 +12,7 @@ std::int64_t KnotCount(int iOrder, int iCount) { return std::int64_t{iOrder} + i
 
 } // namespace
 
-VEKPRT_IMPLEMENT_ELEMENT(VEKPrtNURBSElt, 14)
+VEKPRT_IMPLEMENT_META_FAMILY(VEKPrtNURBSElt, 14, VEKPrtGraphicPrimitiveElt)
 
 VEKPrtNURBSElt::VEKPrtNURBSElt() = default;
 
@@ -31,31 +28,15 @@ VEKPrtNURBSElt::VEKPrtNURBSElt(int iOrder, int iCount, const float* iControlPoin
     Construct(iControlPoints, iKnots, iWeights);
 }
 
-// From the first knot and the first weight on, where SetParameters starts at the second.
-template <class Value>
-void VEKPrtNURBSElt::Construct(const Value* iControlPoints, const Value* iKnots, const Value* iWeights) {
-    if (_count <= 0 || !iControlPoints || !iKnots || !iWeights || !NewArrays()) return;
-    vekprt::CopyArray(_controlPoints, iControlPoints, 2 * std::int64_t{_count});
-    vekprt::CopyArray(_knots, iKnots, KnotCount(_order, _count));
-    vekprt::CopyArray(_weights, iWeights, _count);
+VEKPrtNURBSElt::VEKPrtNURBSElt(const VEKPrtNURBSElt& iOther) : VEKPrtNURBSElt() {
+    if (&iOther != this) CopyOwn(iOther);
 }
 
-// All three are asked for in any case; those that could be had stay, zero, when another could not.
-bool VEKPrtNURBSElt::NewArrays() {
-    _heldOrder = _order;
-    _heldCount = _count;
-    _controlPoints = vekprt::NewArray<double>(2 * std::int64_t{_count});
-    _knots = vekprt::NewArray<double>(KnotCount(_order, _count));
-    _weights = vekprt::NewArray<double>(_count);
-    return _controlPoints && _knots && _weights;
-}
+VEKPrtNURBSElt::~VEKPrtNURBSElt() { DeleteArrays(); }
 
-VEKPrtNURBSElt::~VEKPrtNURBSElt() {
-    DeleteArrays();
-    _count = 0;
-    _order = 0;
-    _firstBound = 0.0F;
-    _secondBound = 1.0F;
+VEKPrtNURBSElt& VEKPrtNURBSElt::operator=(const VEKPrtNURBSElt& iOther) {
+    vekprt::Assign(*this, iOther, &VEKPrtNURBSElt::CopyOwn);
+    return *this;
 }
 
 void VEKPrtNURBSElt::DeleteArrays() {
@@ -64,8 +45,35 @@ void VEKPrtNURBSElt::DeleteArrays() {
     vekprt::DeleteArray(_weights);
 }
 
-// The bounds are not copied but set to their defaults.  Consumers know copies by that, so it stays
-// (NURBS.CopiesResetTheBounds).
+// Makes arrays for order and count, and says whether all three could be allocated.  All are asked for in any
+// case; where one is missing, the others stay and are zero.
+bool VEKPrtNURBSElt::NewArrays() {
+    const std::int64_t coordinates = 2 * std::int64_t{_count}, knots = KnotCount(_order, _count);
+    _heldOrder = _order;
+    _heldCount = _count;
+    _controlPoints = vekprt::NewArray<double>(coordinates);
+    _knots = vekprt::NewArray<double>(knots);
+    _weights = vekprt::NewArray<double>(_count);
+    if (_controlPoints && _knots && _weights) return true;
+    const double* const nothing = nullptr;
+    vekprt::FillArray(_controlPoints, coordinates, nothing, 0);
+    vekprt::FillArray(_knots, knots, nothing, 0);
+    vekprt::FillArray(_weights, _count, nothing, 0);
+    return false;
+}
+
+// From the first knot and the first weight on, where SetParameters starts at the second.
+template <class Value>
+void VEKPrtNURBSElt::Construct(const Value* iControlPoints, const Value* iKnots, const Value* iWeights) {
+    if (_count <= 0 || !iControlPoints || !iKnots || !iWeights || !NewArrays()) return;
+    const std::int64_t coordinates = 2 * std::int64_t{_count}, knots = KnotCount(_order, _count);
+    vekprt::FillArray(_controlPoints, coordinates, iControlPoints, coordinates);
+    vekprt::FillArray(_knots, knots, iKnots, knots);
+    vekprt::FillArray(_weights, _count, iWeights, _count);
+}
+
+// The bounds are not copied but set to their defaults: the copy of a curve that is drawn in part is drawn
+// whole. It stays so (NURBS.CopiesResetTheBounds).
 void VEKPrtNURBSElt::CopyOwn(const VEKPrtNURBSElt& iOther) {
     DeleteArrays();
     _order = iOther._order;
@@ -84,54 +92,50 @@ void VEKPrtNURBSElt::Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) {
     vekprt::DuplicateByCopying(*this, oCopy);
 }
 
-// Reads knots and weights from their second element on, where the constructors start at the first.  Clients
-// pad their arrays for it, so it stays (NURBS.SetParametersReadsFromTheSecondElement).
-//
-// An array passed back is left alone: it is the caller's once a new one takes its place, and stays held where
-// none is made.  The others go, at once unless an argument lies in one of them; no argument is read beyond an
-// own array that it lies in.
+// Reads knots and weights from their second element on, where the constructors start at the first: the same
+// arrays give another curve.  It stays so (NURBS.SetParametersReadsFromTheSecondElement).
 void VEKPrtNURBSElt::SetParameters(int iOrder, int iCount, const double* iControlPoints, const double* iKnots,
                                    float iFirstBound, float iSecondBound, const double* iWeights) {
-    struct Held {
-        double** array;
+    double** const fields[] = {&_controlPoints, &_knots, &_weights};
+    vekprt::OutgoingArray<double> old[] = {{_controlPoints, 2 * std::int64_t{_heldCount}},
+                                           {_knots, KnotCount(_heldOrder, _heldCount)},
+                                           {_weights, _heldCount}};
+    struct Argument {
+        const double* array;
+        int first; // the element that reading begins at
         std::int64_t count;
-        const double* argument;
     };
-    const Held held[] = {{&_controlPoints, 2 * std::int64_t{_heldCount}, iControlPoints},
-                         {&_knots, KnotCount(_heldOrder, _heldCount), iKnots},
-                         {&_weights, _heldCount, iWeights}};
-    const auto readable = [&held](const double* iArray, std::int64_t iWanted) {
-        for (const Held& own : held)
-            iWanted = vekprt::CountReadable<double>(iArray, iWanted, *own.array, own.count);
-        return iWanted;
-    };
-    const std::int64_t coordinates = readable(iControlPoints, 2 * std::int64_t{iCount});
-    const std::int64_t knots = readable(iKnots, KnotCount(iOrder, iCount) + 1) - 1;
-    const std::int64_t weights = readable(iWeights, std::int64_t{iCount} + 1) - 1;
+    Argument arguments[] = {{iControlPoints, 0, 2 * std::int64_t{iCount}},
+                            {iKnots, 1, KnotCount(iOrder, iCount)},
+                            {iWeights, 1, iCount}};
+    // No argument is read beyond an own array that it lies in.
+    for (Argument& argument : arguments)
+        for (const auto& array : old)
+            argument.count = array.CountReadable(argument.array, argument.count, argument.first);
 
-    double* unused[3] = {};
+    // An array passed back is the caller's once a new one takes its place, and stays held where none does.
+    // The others go: at once, unless an argument lies in them.
+    const bool isReplaced = iCount > 0 && iControlPoints && iKnots && iWeights;
     for (int i = 0; i < 3; ++i) {
-        double*& array = *held[i].array;
-        if (array == held[i].argument) continue;
-        const bool isRead =
-            std::any_of(std::begin(held), std::end(held), [array, count = held[i].count](const Held& iOther) {
-                return vekprt::LiesIn<double>(iOther.argument, array, count);
-            });
-        if (isRead) unused[i] = std::exchange(array, nullptr);
-        vekprt::DeleteArray(array);
+        if (old[i].Get() == arguments[i].array) {
+            double* const passedBack = old[i].Detach();
+            if (!isReplaced) *fields[i] = passedBack;
+            continue;
+        }
+        bool isRead = false;
+        for (const Argument& argument : arguments)
+            isRead = isRead || old[i].Holds(argument.array, argument.first);
+        if (!isRead) old[i].Free();
     }
 
     _count = iCount;
     _firstBound = iFirstBound;
     _order = iOrder;
     _secondBound = iSecondBound;
-    if (iCount > 0 && iControlPoints && iKnots && iWeights && NewArrays()) {
-        vekprt::CopyArray(_controlPoints, iControlPoints, coordinates);
-        vekprt::CopyArray(_knots, iKnots, knots, 1);
-        vekprt::CopyArray(_weights, iWeights, weights, 1);
-    }
-    for (double* array : unused)
-        vekprt::DeleteArray(array);
+    if (!isReplaced || !NewArrays()) return;
+    vekprt::FillArray(_controlPoints, 2 * std::int64_t{iCount}, iControlPoints, arguments[0].count);
+    vekprt::FillArray(_knots, KnotCount(iOrder, iCount), iKnots + 1, arguments[1].count);
+    vekprt::FillArray(_weights, iCount, iWeights + 1, arguments[2].count);
 }
 
 void VEKPrtNURBSElt::GetParameters(int& oOrder, int& oCount, double*& oControlPoints, double*& oKnots,
@@ -145,5 +149,11 @@ void VEKPrtNURBSElt::GetParameters(int& oOrder, int& oCount, double*& oControlPo
     oWeights = _weights;
 }
 
-VEKPRT_IMPLEMENT_RECORD(VEKPrtNURBSElt, StrokeAttributes, _stroke)
-VEKPRT_IMPLEMENT_RECORD(VEKPrtNURBSElt, TransformAttributes, _transform)
+void VEKPrtNURBSElt::SetStrokeAttributes(const VEKPrtStrokeAttributes& iAttributes) { _stroke = iAttributes; }
+void VEKPrtNURBSElt::GetStrokeAttributes(VEKPrtStrokeAttributes& oAttributes) const { oAttributes = _stroke; }
+void VEKPrtNURBSElt::SetTransformAttributes(const VEKPrtTransformAttributes& iAttributes) {
+    _transform = iAttributes;
+}
+void VEKPrtNURBSElt::GetTransformAttributes(VEKPrtTransformAttributes& oAttributes) const {
+    oAttributes = _transform;
+}

@@ -1,57 +1,54 @@
 #include "VEKPrtPolyPolygonElt.h"
 
-#include <algorithm>
 #include <cstdint>
-#include <limits>
 #include <numeric>
 
 #include "ElementProtocol.h"
 #include "OwnedArray.h"
 
-namespace {
-
-constexpr std::int64_t unlimited = std::numeric_limits<std::int64_t>::max();
-
-// In 64 bits, and signed: a negative count lowers the total.
-std::int64_t Total(const int* iCounts, int iPolygonCount) {
-    return std::accumulate(iCounts, iCounts + iPolygonCount, std::int64_t{0});
-}
-
-} // namespace
-
-VEKPRT_IMPLEMENT_ELEMENT(VEKPrtPolyPolygonElt, 20)
+VEKPRT_IMPLEMENT_META_FAMILY(VEKPrtPolyPolygonElt, 20, VEKPrtGraphicPrimitiveElt)
 
 VEKPrtPolyPolygonElt::VEKPrtPolyPolygonElt() = default;
 
 VEKPrtPolyPolygonElt::VEKPrtPolyPolygonElt(const double* iPoints, const int* iCounts, int iPolygonCount)
     : _polygonCount(iPolygonCount) {
-    FillArrays(iPoints, unlimited, iCounts, iPolygonCount, false);
+    const std::int64_t total = MakeCounts(iCounts, iPolygonCount);
+    if (total > 0) MakePoints(total, iPoints, 2 * total);
 }
 
 VEKPrtPolyPolygonElt::VEKPrtPolyPolygonElt(const float* iPoints, const int* iCounts, int iPolygonCount)
     : _polygonCount(iPolygonCount) {
-    FillArrays(iPoints, unlimited, iCounts, iPolygonCount, false);
+    const std::int64_t total = MakeCounts(iCounts, iPolygonCount);
+    if (total > 0) MakePoints(total, iPoints, 2 * total);
+}
+
+VEKPrtPolyPolygonElt::VEKPrtPolyPolygonElt(const VEKPrtPolyPolygonElt& iOther) : VEKPrtPolyPolygonElt() {
+    if (&iOther != this) CopyOwn(iOther);
 }
 
 VEKPrtPolyPolygonElt::~VEKPrtPolyPolygonElt() {
     vekprt::DeleteArray(_points);
     vekprt::DeleteArray(_counts);
-    _polygonCount = 0;
 }
 
-// Both arrays null, _polygonCount set: makes them, from as many counts and coordinates as can be read.
+VEKPrtPolyPolygonElt& VEKPrtPolyPolygonElt::operator=(const VEKPrtPolyPolygonElt& iOther) {
+    vekprt::Assign(*this, iOther, &VEKPrtPolyPolygonElt::CopyOwn);
+    return *this;
+}
+
+// Makes the array of counts, of which iReadable can be read, and yields the number of points that they add up
+// to: in 64 bits, and signed, as a negative count lowers the total.  Without an array there are no points
+// either.
+long long VEKPrtPolyPolygonElt::MakeCounts(const int* iCounts, long long iReadable) {
+    _counts = vekprt::NewCopy<int>(_polygonCount, iCounts, iReadable);
+    return _counts ? std::accumulate(_counts, _counts + _polygonCount, std::int64_t{0}) : -1;
+}
+
+// Makes the array of points from as many coordinates as can be read: of no length for 0, none below that.
 template <class Coordinate>
-void VEKPrtPolyPolygonElt::FillArrays(const Coordinate* iPoints, long long iReadable, const int* iCounts,
-                                      long long iReadableCounts, bool iKeepEmpty) {
-    _counts = vekprt::NewArray<int>(_polygonCount);
-    if (!_counts) return;
-    vekprt::CopyArray(_counts, iCounts, iReadableCounts);
-    const std::int64_t total = Total(_counts, _polygonCount);
-    if (total <= 0 && !iKeepEmpty) return;
-    _points = vekprt::NewArray<double>(2 * total);
-    if (!_points) return;
-    _pointsHeld = total;
-    vekprt::CopyArray(_points, iPoints, std::min<std::int64_t>(2 * total, iReadable));
+void VEKPrtPolyPolygonElt::MakePoints(long long iTotal, const Coordinate* iPoints, long long iReadable) {
+    _points = vekprt::NewCopy<double>(2 * iTotal, iPoints, iReadable);
+    _pointsHeld = _points ? iTotal : 0;
 }
 
 void VEKPrtPolyPolygonElt::CopyOwn(const VEKPrtPolyPolygonElt& iOther) {
@@ -59,8 +56,10 @@ void VEKPrtPolyPolygonElt::CopyOwn(const VEKPrtPolyPolygonElt& iOther) {
     vekprt::DeleteArray(_counts);
     _pointsHeld = 0;
     _polygonCount = iOther._points && iOther._counts ? iOther._polygonCount : 0;
-    if (_polygonCount > 0)
-        FillArrays(iOther._points, 2 * iOther._pointsHeld, iOther._counts, _polygonCount, false);
+    if (_polygonCount > 0) {
+        const std::int64_t total = MakeCounts(iOther._counts, _polygonCount);
+        if (total > 0) MakePoints(total, iOther._points, 2 * iOther._pointsHeld);
+    }
     _drawStyle = iOther._drawStyle;
     _stroke = iOther._stroke;
     _fill = iOther._fill;
@@ -75,20 +74,14 @@ void VEKPrtPolyPolygonElt::Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) {
 // A total of 0 leaves an array of no length here, where the constructors and copying leave none.  The old
 // arrays go first, unless an argument lies in them: it is then read as far as they go.
 void VEKPrtPolyPolygonElt::SetPoints(const double* iPoints, const int* iCounts, int iPolygonCount) {
-    double* oldPoints = _points;
-    int* oldCounts = _counts;
-    const std::int64_t readable = vekprt::CountReadable(iPoints, unlimited, oldPoints, 2 * _pointsHeld);
-    const std::int64_t readableCounts =
-        vekprt::CountReadable(iCounts, iPolygonCount, oldCounts, _polygonCount);
-    if (!vekprt::LiesIn<double>(iPoints, oldPoints, 2 * _pointsHeld)) vekprt::DeleteArray(oldPoints);
-    if (!vekprt::LiesIn<int>(iCounts, oldCounts, _polygonCount)) vekprt::DeleteArray(oldCounts);
-    _points = nullptr;
-    _counts = nullptr;
+    vekprt::OutgoingArray<double> oldPoints(_points, 2 * _pointsHeld);
+    vekprt::OutgoingArray<int> oldCounts(_counts, _polygonCount);
+    if (!oldPoints.Holds(iPoints)) oldPoints.Free();
+    if (!oldCounts.Holds(iCounts)) oldCounts.Free();
     _pointsHeld = 0;
     _polygonCount = iPolygonCount;
-    FillArrays(iPoints, readable, iCounts, readableCounts, true);
-    vekprt::DeleteArray(oldPoints);
-    vekprt::DeleteArray(oldCounts);
+    const std::int64_t total = MakeCounts(iCounts, oldCounts.CountReadable(iCounts, iPolygonCount));
+    MakePoints(total, iPoints, oldPoints.CountReadable(iPoints, 2 * total));
 }
 
 void VEKPrtPolyPolygonElt::GetPoints(double*& oPoints, int*& oCounts, int& oPolygonCount) const {
@@ -99,6 +92,17 @@ void VEKPrtPolyPolygonElt::GetPoints(double*& oPoints, int*& oCounts, int& oPoly
 
 void VEKPrtPolyPolygonElt::SetDrawStyle(VEKPrtDrawStyle iStyle) { _drawStyle = iStyle; }
 void VEKPrtPolyPolygonElt::GetDrawStyle(VEKPrtDrawStyle& oStyle) const { oStyle = _drawStyle; }
-VEKPRT_IMPLEMENT_RECORD(VEKPrtPolyPolygonElt, StrokeAttributes, _stroke)
-VEKPRT_IMPLEMENT_RECORD(VEKPrtPolyPolygonElt, FillAttributes, _fill)
-VEKPRT_IMPLEMENT_RECORD(VEKPrtPolyPolygonElt, TransformAttributes, _transform)
+void VEKPrtPolyPolygonElt::SetStrokeAttributes(const VEKPrtStrokeAttributes& iAttributes) {
+    _stroke = iAttributes;
+}
+void VEKPrtPolyPolygonElt::GetStrokeAttributes(VEKPrtStrokeAttributes& oAttributes) const {
+    oAttributes = _stroke;
+}
+void VEKPrtPolyPolygonElt::SetFillAttributes(const VEKPrtFillAttributes& iAttributes) { _fill = iAttributes; }
+void VEKPrtPolyPolygonElt::GetFillAttributes(VEKPrtFillAttributes& oAttributes) const { oAttributes = _fill; }
+void VEKPrtPolyPolygonElt::SetTransformAttributes(const VEKPrtTransformAttributes& iAttributes) {
+    _transform = iAttributes;
+}
+void VEKPrtPolyPolygonElt::GetTransformAttributes(VEKPrtTransformAttributes& oAttributes) const {
+    oAttributes = _transform;
+}

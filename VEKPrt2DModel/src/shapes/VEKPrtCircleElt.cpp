@@ -2,14 +2,23 @@
 
 #include "ElementProtocol.h"
 
-VEKPRT_IMPLEMENT_ELEMENT(VEKPrtCircleElt, 15)
+VEKPRT_IMPLEMENT_META_FAMILY(VEKPrtCircleElt, 15, VEKPrtGraphicPrimitiveElt)
 
 VEKPrtCircleElt::VEKPrtCircleElt() = default;
 
 VEKPrtCircleElt::VEKPrtCircleElt(const VEKMathPoint2D& iCenter, double iRadius)
     : _center(iCenter), _radius(iRadius) {}
 
+VEKPrtCircleElt::VEKPrtCircleElt(const VEKPrtCircleElt& iOther) : VEKPrtCircleElt() {
+    if (&iOther != this) CopyOwn(iOther);
+}
+
 VEKPrtCircleElt::~VEKPrtCircleElt() = default;
+
+VEKPrtCircleElt& VEKPrtCircleElt::operator=(const VEKPrtCircleElt& iOther) {
+    vekprt::Assign(*this, iOther, &VEKPrtCircleElt::CopyOwn);
+    return *this;
+}
 
 void VEKPrtCircleElt::CopyOwn(const VEKPrtCircleElt& iOther) {
     _center = iOther._center;
@@ -40,6 +49,17 @@ void VEKPrtCircleElt::GetParameters(VEKMathPoint2D& oCenter, double& oRadius) co
 }
 void VEKPrtCircleElt::SetDrawStyle(VEKPrtDrawStyle iStyle) { _drawStyle = iStyle; }
 void VEKPrtCircleElt::GetDrawStyle(VEKPrtDrawStyle& oStyle) const { oStyle = _drawStyle; }
-VEKPRT_IMPLEMENT_RECORD(VEKPrtCircleElt, StrokeAttributes, _stroke)
-VEKPRT_IMPLEMENT_RECORD(VEKPrtCircleElt, FillAttributes, _fill)
-VEKPRT_IMPLEMENT_RECORD(VEKPrtCircleElt, TransformAttributes, _transform)
+void VEKPrtCircleElt::SetStrokeAttributes(const VEKPrtStrokeAttributes& iAttributes) {
+    _stroke = iAttributes;
+}
+void VEKPrtCircleElt::GetStrokeAttributes(VEKPrtStrokeAttributes& oAttributes) const {
+    oAttributes = _stroke;
+}
+void VEKPrtCircleElt::SetFillAttributes(const VEKPrtFillAttributes& iAttributes) { _fill = iAttributes; }
+void VEKPrtCircleElt::GetFillAttributes(VEKPrtFillAttributes& oAttributes) const { oAttributes = _fill; }
+void VEKPrtCircleElt::SetTransformAttributes(const VEKPrtTransformAttributes& iAttributes) {
+    _transform = iAttributes;
+}
+void VEKPrtCircleElt::GetTransformAttributes(VEKPrtTransformAttributes& oAttributes) const {
+    oAttributes = _transform;
+}

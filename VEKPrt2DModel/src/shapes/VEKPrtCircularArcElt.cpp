@@ -2,7 +2,7 @@
 
 #include "ElementProtocol.h"
 
-VEKPRT_IMPLEMENT_ELEMENT(VEKPrtCircularArcElt, 20)
+VEKPRT_IMPLEMENT_META_FAMILY(VEKPrtCircularArcElt, 20, VEKPrtGraphicPrimitiveElt)
 
 VEKPrtCircularArcElt::VEKPrtCircularArcElt() = default;
 
@@ -10,7 +10,16 @@ VEKPrtCircularArcElt::VEKPrtCircularArcElt(const VEKMathPoint2D& iCenter, double
                                            float iEndAngle)
     : _center(iCenter), _radius(iRadius), _startAngle(iStartAngle), _endAngle(iEndAngle) {}
 
+VEKPrtCircularArcElt::VEKPrtCircularArcElt(const VEKPrtCircularArcElt& iOther) : VEKPrtCircularArcElt() {
+    if (&iOther != this) CopyOwn(iOther);
+}
+
 VEKPrtCircularArcElt::~VEKPrtCircularArcElt() = default;
+
+VEKPrtCircularArcElt& VEKPrtCircularArcElt::operator=(const VEKPrtCircularArcElt& iOther) {
+    vekprt::Assign(*this, iOther, &VEKPrtCircularArcElt::CopyOwn);
+    return *this;
+}
 
 void VEKPrtCircularArcElt::CopyOwn(const VEKPrtCircularArcElt& iOther) {
     _center = iOther._center;
@@ -53,6 +62,17 @@ void VEKPrtCircularArcElt::GetParameters(VEKMathPoint2D& oCenter, double& oRadiu
 }
 void VEKPrtCircularArcElt::SetDrawStyle(VEKPrtDrawStyle iStyle) { _drawStyle = iStyle; }
 void VEKPrtCircularArcElt::GetDrawStyle(VEKPrtDrawStyle& oStyle) const { oStyle = _drawStyle; }
-VEKPRT_IMPLEMENT_RECORD(VEKPrtCircularArcElt, StrokeAttributes, _stroke)
-VEKPRT_IMPLEMENT_RECORD(VEKPrtCircularArcElt, FillAttributes, _fill)
-VEKPRT_IMPLEMENT_RECORD(VEKPrtCircularArcElt, TransformAttributes, _transform)
+void VEKPrtCircularArcElt::SetStrokeAttributes(const VEKPrtStrokeAttributes& iAttributes) {
+    _stroke = iAttributes;
+}
+void VEKPrtCircularArcElt::GetStrokeAttributes(VEKPrtStrokeAttributes& oAttributes) const {
+    oAttributes = _stroke;
+}
+void VEKPrtCircularArcElt::SetFillAttributes(const VEKPrtFillAttributes& iAttributes) { _fill = iAttributes; }
+void VEKPrtCircularArcElt::GetFillAttributes(VEKPrtFillAttributes& oAttributes) const { oAttributes = _fill; }
+void VEKPrtCircularArcElt::SetTransformAttributes(const VEKPrtTransformAttributes& iAttributes) {
+    _transform = iAttributes;
+}
+void VEKPrtCircularArcElt::GetTransformAttributes(VEKPrtTransformAttributes& oAttributes) const {
+    oAttributes = _transform;
+}

@@ -2,7 +2,7 @@
 
 #include "ElementProtocol.h"
 
-VEKPRT_IMPLEMENT_ELEMENT(VEKPrtEllipseElt, 16)
+VEKPRT_IMPLEMENT_META_FAMILY(VEKPrtEllipseElt, 16, VEKPrtGraphicPrimitiveElt)
 
 VEKPrtEllipseElt::VEKPrtEllipseElt() = default;
 
@@ -10,7 +10,16 @@ VEKPrtEllipseElt::VEKPrtEllipseElt(const VEKMathPoint2D& iCenter, double iHorzRa
                                    float iSlope)
     : _center(iCenter), _horzRadius(iHorzRadius), _vertRadius(iVertRadius), _slope(iSlope) {}
 
+VEKPrtEllipseElt::VEKPrtEllipseElt(const VEKPrtEllipseElt& iOther) : VEKPrtEllipseElt() {
+    if (&iOther != this) CopyOwn(iOther);
+}
+
 VEKPrtEllipseElt::~VEKPrtEllipseElt() = default;
+
+VEKPrtEllipseElt& VEKPrtEllipseElt::operator=(const VEKPrtEllipseElt& iOther) {
+    vekprt::Assign(*this, iOther, &VEKPrtEllipseElt::CopyOwn);
+    return *this;
+}
 
 void VEKPrtEllipseElt::CopyOwn(const VEKPrtEllipseElt& iOther) {
     _center = iOther._center;
@@ -53,6 +62,17 @@ void VEKPrtEllipseElt::GetParameters(VEKMathPoint2D& oCenter, double& oHorzRadiu
 }
 void VEKPrtEllipseElt::SetDrawStyle(VEKPrtDrawStyle iStyle) { _drawStyle = iStyle; }
 void VEKPrtEllipseElt::GetDrawStyle(VEKPrtDrawStyle& oStyle) const { oStyle = _drawStyle; }
-VEKPRT_IMPLEMENT_RECORD(VEKPrtEllipseElt, StrokeAttributes, _stroke)
-VEKPRT_IMPLEMENT_RECORD(VEKPrtEllipseElt, FillAttributes, _fill)
-VEKPRT_IMPLEMENT_RECORD(VEKPrtEllipseElt, TransformAttributes, _transform)
+void VEKPrtEllipseElt::SetStrokeAttributes(const VEKPrtStrokeAttributes& iAttributes) {
+    _stroke = iAttributes;
+}
+void VEKPrtEllipseElt::GetStrokeAttributes(VEKPrtStrokeAttributes& oAttributes) const {
+    oAttributes = _stroke;
+}
+void VEKPrtEllipseElt::SetFillAttributes(const VEKPrtFillAttributes& iAttributes) { _fill = iAttributes; }
+void VEKPrtEllipseElt::GetFillAttributes(VEKPrtFillAttributes& oAttributes) const { oAttributes = _fill; }
+void VEKPrtEllipseElt::SetTransformAttributes(const VEKPrtTransformAttributes& iAttributes) {
+    _transform = iAttributes;
+}
+void VEKPrtEllipseElt::GetTransformAttributes(VEKPrtTransformAttributes& oAttributes) const {
+    oAttributes = _transform;
+}

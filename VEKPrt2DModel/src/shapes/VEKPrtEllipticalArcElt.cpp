@@ -2,7 +2,7 @@
 
 #include "ElementProtocol.h"
 
-VEKPRT_IMPLEMENT_ELEMENT(VEKPrtEllipticalArcElt, 22)
+VEKPRT_IMPLEMENT_META_FAMILY(VEKPrtEllipticalArcElt, 22, VEKPrtGraphicPrimitiveElt)
 
 VEKPrtEllipticalArcElt::VEKPrtEllipticalArcElt() = default;
 
@@ -12,7 +12,17 @@ VEKPrtEllipticalArcElt::VEKPrtEllipticalArcElt(const VEKMathPoint2D& iCenter, do
     : _center(iCenter), _horzRadius(iHorzRadius), _vertRadius(iVertRadius), _startAngle(iStartAngle),
       _endAngle(iEndAngle), _slope(iSlope) {}
 
+VEKPrtEllipticalArcElt::VEKPrtEllipticalArcElt(const VEKPrtEllipticalArcElt& iOther)
+    : VEKPrtEllipticalArcElt() {
+    if (&iOther != this) CopyOwn(iOther);
+}
+
 VEKPrtEllipticalArcElt::~VEKPrtEllipticalArcElt() = default;
+
+VEKPrtEllipticalArcElt& VEKPrtEllipticalArcElt::operator=(const VEKPrtEllipticalArcElt& iOther) {
+    vekprt::Assign(*this, iOther, &VEKPrtEllipticalArcElt::CopyOwn);
+    return *this;
+}
 
 void VEKPrtEllipticalArcElt::CopyOwn(const VEKPrtEllipticalArcElt& iOther) {
     _center = iOther._center;
@@ -66,6 +76,21 @@ void VEKPrtEllipticalArcElt::GetParameters(VEKMathPoint2D& oCenter, double& oHor
 }
 void VEKPrtEllipticalArcElt::SetDrawStyle(VEKPrtDrawStyle iStyle) { _drawStyle = iStyle; }
 void VEKPrtEllipticalArcElt::GetDrawStyle(VEKPrtDrawStyle& oStyle) const { oStyle = _drawStyle; }
-VEKPRT_IMPLEMENT_RECORD(VEKPrtEllipticalArcElt, StrokeAttributes, _stroke)
-VEKPRT_IMPLEMENT_RECORD(VEKPrtEllipticalArcElt, FillAttributes, _fill)
-VEKPRT_IMPLEMENT_RECORD(VEKPrtEllipticalArcElt, TransformAttributes, _transform)
+void VEKPrtEllipticalArcElt::SetStrokeAttributes(const VEKPrtStrokeAttributes& iAttributes) {
+    _stroke = iAttributes;
+}
+void VEKPrtEllipticalArcElt::GetStrokeAttributes(VEKPrtStrokeAttributes& oAttributes) const {
+    oAttributes = _stroke;
+}
+void VEKPrtEllipticalArcElt::SetFillAttributes(const VEKPrtFillAttributes& iAttributes) {
+    _fill = iAttributes;
+}
+void VEKPrtEllipticalArcElt::GetFillAttributes(VEKPrtFillAttributes& oAttributes) const {
+    oAttributes = _fill;
+}
+void VEKPrtEllipticalArcElt::SetTransformAttributes(const VEKPrtTransformAttributes& iAttributes) {
+    _transform = iAttributes;
+}
+void VEKPrtEllipticalArcElt::GetTransformAttributes(VEKPrtTransformAttributes& oAttributes) const {
+    oAttributes = _transform;
+}

@@ -2,14 +2,23 @@
 
 #include "ElementProtocol.h"
 
-VEKPRT_IMPLEMENT_ELEMENT(VEKPrtLineElt, 13)
+VEKPRT_IMPLEMENT_META_FAMILY(VEKPrtLineElt, 13, VEKPrtGraphicPrimitiveElt)
 
 VEKPrtLineElt::VEKPrtLineElt() = default;
 
 VEKPrtLineElt::VEKPrtLineElt(const VEKMathPoint2D& iStart, const VEKMathPoint2D& iEnd)
     : _startPoint(iStart), _endPoint(iEnd) {}
 
+VEKPrtLineElt::VEKPrtLineElt(const VEKPrtLineElt& iOther) : VEKPrtLineElt() {
+    if (&iOther != this) CopyOwn(iOther);
+}
+
 VEKPrtLineElt::~VEKPrtLineElt() = default;
+
+VEKPrtLineElt& VEKPrtLineElt::operator=(const VEKPrtLineElt& iOther) {
+    vekprt::Assign(*this, iOther, &VEKPrtLineElt::CopyOwn);
+    return *this;
+}
 
 void VEKPrtLineElt::CopyOwn(const VEKPrtLineElt& iOther) {
     _startPoint = iOther._startPoint;
@@ -36,5 +45,11 @@ void VEKPrtLineElt::GetParameters(VEKMathPoint2D& oStart, VEKMathPoint2D& oEnd) 
     oEnd = _endPoint;
 }
 
-VEKPRT_IMPLEMENT_RECORD(VEKPrtLineElt, StrokeAttributes, _stroke)
-VEKPRT_IMPLEMENT_RECORD(VEKPrtLineElt, TransformAttributes, _transform)
+void VEKPrtLineElt::SetStrokeAttributes(const VEKPrtStrokeAttributes& iAttributes) { _stroke = iAttributes; }
+void VEKPrtLineElt::GetStrokeAttributes(VEKPrtStrokeAttributes& oAttributes) const { oAttributes = _stroke; }
+void VEKPrtLineElt::SetTransformAttributes(const VEKPrtTransformAttributes& iAttributes) {
+    _transform = iAttributes;
+}
+void VEKPrtLineElt::GetTransformAttributes(VEKPrtTransformAttributes& oAttributes) const {
+    oAttributes = _transform;
+}

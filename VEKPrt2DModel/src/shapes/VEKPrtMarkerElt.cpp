@@ -2,13 +2,22 @@
 
 #include "ElementProtocol.h"
 
-VEKPRT_IMPLEMENT_ELEMENT(VEKPrtMarkerElt, 15)
+VEKPRT_IMPLEMENT_META_FAMILY(VEKPrtMarkerElt, 15, VEKPrtGraphicPrimitiveElt)
 
 VEKPrtMarkerElt::VEKPrtMarkerElt() = default;
 
 VEKPrtMarkerElt::VEKPrtMarkerElt(const VEKMathPoint2D& iPoint, double iSize) : _point(iPoint), _size(iSize) {}
 
+VEKPrtMarkerElt::VEKPrtMarkerElt(const VEKPrtMarkerElt& iOther) : VEKPrtMarkerElt() {
+    if (&iOther != this) CopyOwn(iOther);
+}
+
 VEKPrtMarkerElt::~VEKPrtMarkerElt() = default;
+
+VEKPrtMarkerElt& VEKPrtMarkerElt::operator=(const VEKPrtMarkerElt& iOther) {
+    vekprt::Assign(*this, iOther, &VEKPrtMarkerElt::CopyOwn);
+    return *this;
+}
 
 void VEKPrtMarkerElt::CopyOwn(const VEKPrtMarkerElt& iOther) {
     _point = iOther._point;
@@ -36,6 +45,21 @@ void VEKPrtMarkerElt::GetParameters(VEKMathPoint2D& oPoint, double& oSize) const
     oSize = _size;
 }
 
-VEKPRT_IMPLEMENT_RECORD(VEKPrtMarkerElt, MarkerAttributes, _marker)
-VEKPRT_IMPLEMENT_RECORD(VEKPrtMarkerElt, StrokeAttributes, _stroke)
-VEKPRT_IMPLEMENT_RECORD(VEKPrtMarkerElt, TransformAttributes, _transform)
+void VEKPrtMarkerElt::SetMarkerAttributes(const VEKPrtMarkerAttributes& iAttributes) {
+    _marker = iAttributes;
+}
+void VEKPrtMarkerElt::GetMarkerAttributes(VEKPrtMarkerAttributes& oAttributes) const {
+    oAttributes = _marker;
+}
+void VEKPrtMarkerElt::SetStrokeAttributes(const VEKPrtStrokeAttributes& iAttributes) {
+    _stroke = iAttributes;
+}
+void VEKPrtMarkerElt::GetStrokeAttributes(VEKPrtStrokeAttributes& oAttributes) const {
+    oAttributes = _stroke;
+}
+void VEKPrtMarkerElt::SetTransformAttributes(const VEKPrtTransformAttributes& iAttributes) {
+    _transform = iAttributes;
+}
+void VEKPrtMarkerElt::GetTransformAttributes(VEKPrtTransformAttributes& oAttributes) const {
+    oAttributes = _transform;
+}

@@ -2,14 +2,23 @@
 
 #include "ElementProtocol.h"
 
-VEKPRT_IMPLEMENT_ELEMENT(VEKPrtRectangleElt, 18)
+VEKPRT_IMPLEMENT_META_FAMILY(VEKPrtRectangleElt, 18, VEKPrtGraphicPrimitiveElt)
 
 VEKPrtRectangleElt::VEKPrtRectangleElt() = default;
 
 VEKPrtRectangleElt::VEKPrtRectangleElt(const VEKMathPoint2D& iFirst, const VEKMathPoint2D& iSecond)
     : _firstCorner(iFirst), _secondCorner(iSecond) {}
 
+VEKPrtRectangleElt::VEKPrtRectangleElt(const VEKPrtRectangleElt& iOther) : VEKPrtRectangleElt() {
+    if (&iOther != this) CopyOwn(iOther);
+}
+
 VEKPrtRectangleElt::~VEKPrtRectangleElt() = default;
+
+VEKPrtRectangleElt& VEKPrtRectangleElt::operator=(const VEKPrtRectangleElt& iOther) {
+    vekprt::Assign(*this, iOther, &VEKPrtRectangleElt::CopyOwn);
+    return *this;
+}
 
 void VEKPrtRectangleElt::CopyOwn(const VEKPrtRectangleElt& iOther) {
     _firstCorner = iOther._firstCorner;
@@ -36,6 +45,17 @@ void VEKPrtRectangleElt::GetPoints(VEKMathPoint2D& oFirst, VEKMathPoint2D& oSeco
 }
 void VEKPrtRectangleElt::SetDrawStyle(VEKPrtDrawStyle iStyle) { _drawStyle = iStyle; }
 void VEKPrtRectangleElt::GetDrawStyle(VEKPrtDrawStyle& oStyle) const { oStyle = _drawStyle; }
-VEKPRT_IMPLEMENT_RECORD(VEKPrtRectangleElt, StrokeAttributes, _stroke)
-VEKPRT_IMPLEMENT_RECORD(VEKPrtRectangleElt, FillAttributes, _fill)
-VEKPRT_IMPLEMENT_RECORD(VEKPrtRectangleElt, TransformAttributes, _transform)
+void VEKPrtRectangleElt::SetStrokeAttributes(const VEKPrtStrokeAttributes& iAttributes) {
+    _stroke = iAttributes;
+}
+void VEKPrtRectangleElt::GetStrokeAttributes(VEKPrtStrokeAttributes& oAttributes) const {
+    oAttributes = _stroke;
+}
+void VEKPrtRectangleElt::SetFillAttributes(const VEKPrtFillAttributes& iAttributes) { _fill = iAttributes; }
+void VEKPrtRectangleElt::GetFillAttributes(VEKPrtFillAttributes& oAttributes) const { oAttributes = _fill; }
+void VEKPrtRectangleElt::SetTransformAttributes(const VEKPrtTransformAttributes& iAttributes) {
+    _transform = iAttributes;
+}
+void VEKPrtRectangleElt::GetTransformAttributes(VEKPrtTransformAttributes& oAttributes) const {
+    oAttributes = _transform;
+}

@@ -2,7 +2,7 @@
 
 #include "ElementProtocol.h"
 
-VEKPRT_IMPLEMENT_ELEMENT(VEKPrtTextElt, 13)
+VEKPRT_IMPLEMENT_META_FAMILY(VEKPrtTextElt, 13, VEKPrtGraphicPrimitiveElt)
 
 VEKPrtTextElt::VEKPrtTextElt() { _text = ""; }
 
@@ -11,7 +11,25 @@ VEKPrtTextElt::VEKPrtTextElt(const VEKMathPoint2D& iPosition, const VEKUnicodeSt
     _text = iText;
 }
 
+// The text record comes before the draw style and the other records here, and between them in the assignment;
+// a host's or client's types see which is copied first.
+VEKPrtTextElt::VEKPrtTextElt(const VEKPrtTextElt& iOther) : VEKPrtTextElt() {
+    if (&iOther == this) return;
+    _position = iOther._position;
+    _text = iOther._text;
+    _textAttributes = iOther._textAttributes;
+    _drawStyle = iOther._drawStyle;
+    _stroke = iOther._stroke;
+    _fill = iOther._fill;
+    _transform = iOther._transform;
+}
+
 VEKPrtTextElt::~VEKPrtTextElt() = default;
+
+VEKPrtTextElt& VEKPrtTextElt::operator=(const VEKPrtTextElt& iOther) {
+    vekprt::Assign(*this, iOther, &VEKPrtTextElt::CopyOwn);
+    return *this;
+}
 
 void VEKPrtTextElt::CopyOwn(const VEKPrtTextElt& iOther) {
     _position = iOther._position;
@@ -43,7 +61,19 @@ void VEKPrtTextElt::GetParameters(VEKMathPoint2D& oPosition, VEKUnicodeString& o
 }
 void VEKPrtTextElt::SetDrawStyle(VEKPrtDrawStyle iStyle) { _drawStyle = iStyle; }
 void VEKPrtTextElt::GetDrawStyle(VEKPrtDrawStyle& oStyle) const { oStyle = _drawStyle; }
-VEKPRT_IMPLEMENT_RECORD(VEKPrtTextElt, StrokeAttributes, _stroke)
-VEKPRT_IMPLEMENT_RECORD(VEKPrtTextElt, FillAttributes, _fill)
-VEKPRT_IMPLEMENT_RECORD(VEKPrtTextElt, TextAttributes, _textAttributes)
-VEKPRT_IMPLEMENT_RECORD(VEKPrtTextElt, TransformAttributes, _transform)
+void VEKPrtTextElt::SetStrokeAttributes(const VEKPrtStrokeAttributes& iAttributes) { _stroke = iAttributes; }
+void VEKPrtTextElt::GetStrokeAttributes(VEKPrtStrokeAttributes& oAttributes) const { oAttributes = _stroke; }
+void VEKPrtTextElt::SetFillAttributes(const VEKPrtFillAttributes& iAttributes) { _fill = iAttributes; }
+void VEKPrtTextElt::GetFillAttributes(VEKPrtFillAttributes& oAttributes) const { oAttributes = _fill; }
+void VEKPrtTextElt::SetTextAttributes(const VEKPrtTextAttributes& iAttributes) {
+    _textAttributes = iAttributes;
+}
+void VEKPrtTextElt::GetTextAttributes(VEKPrtTextAttributes& oAttributes) const {
+    oAttributes = _textAttributes;
+}
+void VEKPrtTextElt::SetTransformAttributes(const VEKPrtTransformAttributes& iAttributes) {
+    _transform = iAttributes;
+}
+void VEKPrtTextElt::GetTransformAttributes(VEKPrtTransformAttributes& oAttributes) const {
+    oAttributes = _transform;
+}
