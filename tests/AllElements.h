@@ -44,6 +44,9 @@ using AllElements =
 // Those with a list of children of any class.
 using Containers = testing::Types<VEKPrtGroupElt, VEKPrtImageElt, VEKPrtPatternElt, VEKPrtSymbolElt,
                                   VEKPrtClosedFigureRegionElt>;
+// All that hold members by count.
+using Holders = testing::Types<VEKPrtGroupElt, VEKPrtImageElt, VEKPrtPatternElt, VEKPrtSymbolElt,
+                               VEKPrtClosedFigureRegionElt, VEKPrtClosedFigureElt, VEKPrtModel>;
 // Those with nothing but a sequence of points besides their records.
 using PointArrays = testing::Types<VEKPrtPolylineElt, VEKPrtPolyCubicBezierElt, VEKPrtPolyQuadraticBezierElt,
                                    VEKPrtPolygonElt, VEKPrtDisjointPolylineElt>;

@@ -24,16 +24,54 @@ TEST(BaseUnknown, CountsFromOneAndAssignsItsDataWordsOnly) {
     EXPECT_EQ(Count(Make<Thing>(*thing)), 1UL) << "a copy counts from 1";
     EXPECT_EQ(thing->IsEqual(other.Get()), 1);
     EXPECT_EQ(thing->IsEqual(first.Get()), 0);
+    EXPECT_EQ(thing->IsNull(), 0);
+    for (const char* const kind : {"VEKBaseUnknown", VEKBaseUnknown::ClassName(), thing->IsA()})
+        EXPECT_EQ(thing->IsAKindOf(kind), 1) << kind;
+    EXPECT_EQ(thing->IsAKindOf("Thing"), 0) << "the base answers for itself";
+    EXPECT_EQ(thing->GetMetaObject(), VEKBaseUnknown::MetaObject());
+    EXPECT_STREQ(VEKBaseUnknown::ClassId(), "System.VEKBaseUnknown");
+    EXPECT_EQ(VEKBaseUnknown::MetaObject()->GetSize(), static_cast<long>(sizeof(VEKBaseUnknown)));
     EXPECT_EQ(first->Release(), 1UL);
 }
 
-TEST(BaseUnknown, NewYieldsNullWhenMemoryIsOut) {
-    VEKPrtLineElt* line = nullptr;
-    WithFault(0, [&] { line = new VEKPrtLineElt; });
-    EXPECT_EQ(line, nullptr);
+TEST(BaseUnknown, OffersNoInterface) {
+    const auto thing = Make<VEKBaseUnknown>();
+    void *any = &any, *info = &info;
+    unsigned count = 9, bad = 9;
+    long id = 9;
+    const char* const name = "x";
+    EXPECT_EQ(thing->QueryInterface(nullptr, &any), VEKBaseUnknown::NotImplemented);
+    EXPECT_EQ(thing->GetTypeInfoCount(&count), VEKBaseUnknown::Done);
+    EXPECT_EQ(thing->GetTypeInfo(0, 0, &info), VEKBaseUnknown::NotImplemented);
+    EXPECT_EQ(thing->GetIDsOfNames(nullptr, &name, 1, 0, &id), VEKBaseUnknown::NotImplemented);
+    EXPECT_EQ(thing->Invoke(0, nullptr, 0, 0, nullptr, nullptr, nullptr, &bad),
+              VEKBaseUnknown::NotImplemented);
+    EXPECT_EQ(any, nullptr);
+    EXPECT_EQ(info, nullptr);
+    EXPECT_EQ(count, 0U);
+    EXPECT_EQ(id + bad, 18) << "other outputs are left alone";
+    EXPECT_EQ(thing->QueryInterface(nullptr, nullptr), VEKBaseUnknown::NotImplemented);
+    EXPECT_EQ(thing->GetTypeInfoCount(nullptr), VEKBaseUnknown::Done);
+    EXPECT_EQ(thing->GetTypeInfo(0, 0, nullptr), VEKBaseUnknown::NotImplemented);
+    EXPECT_EQ(thing->QueryInterface(name), nullptr);
+    thing->ChangeComponentState(1, 2);
+    thing->SetImpl(&count);
+    EXPECT_EQ(thing->GetImpl(), &count);
 }
 
-TEST(MetaClass, RegistersOnceAndSurvivesExhaustedMemory) {
+TEST(BaseUnknown, NewYieldsNullWhenAllocationFails) {
+    VEKPrtLineElt *line = nullptr, *other = nullptr;
+    WithFault(0, [&] { line = new VEKPrtLineElt; });
+    WithFault(0, [&] { other = new (std::nothrow) VEKPrtLineElt; });
+    EXPECT_EQ(line, nullptr);
+    EXPECT_EQ(other, nullptr);
+    const long before = VEKBaseUnknown::CountLiveObjects();
+    line = new (std::nothrow) VEKPrtLineElt;
+    EXPECT_EQ(VEKBaseUnknown::CountLiveObjects(), before + 1);
+    line->Release();
+}
+
+TEST(Registration, OfOneClassHappensOnce) {
     const auto retrieve = [](VEKMetaClass* iBase) {
         return fct_RetrieveMetaObject("TestThing", VEKTypeImplementation, iBase, "VEKnull", "Test", 12);
     };

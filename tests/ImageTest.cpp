@@ -1,3 +1,5 @@
+#include <array>
+
 #include "TestSupport.h"
 
 namespace {
@@ -55,7 +57,9 @@ TEST(ColourTable, AppendsAndFindsTheLowest) {
     EXPECT_EQ(ColourAt(table, 1), 0x040506);
     EXPECT_EQ(ColourAt(table, 2), -1);
     EXPECT_EQ(table.ModifyColour(2, 0, 0, 0), -1);
-    EXPECT_EQ(table.GetColourIndex(index, 3, 2, 1), -1);
+    for (const auto& other : {std::array<unsigned char, 3>{9, 5, 6}, {4, 9, 6}, {4, 5, 9}})
+        EXPECT_EQ(table.GetColourIndex(index, other[0], other[1], other[2]), -1)
+            << "two components are not enough";
 }
 
 TEST(ColourTable, GrowsBy256WithOneSlotFree) {
@@ -90,36 +94,50 @@ TEST(ColourTable, CopiesAreIndependent) {
 }
 
 TEST(ColourTableFailure, CapacityStaysRaised) {
-    const DemandedLeak leak;
     for (int nth = 0; nth < 3; ++nth) {
+        const DemandedLeak leak(0, 3L * nth);
         VEKPrtColourTable table;
         for (int i = 0; i < 255; ++i)
             Add(table, i);
-        const long before = LiveBlocks();
+        long before = LiveBlocks();
         WithFault(nth, [&] { EXPECT_EQ(Add(table, 255), -1); });
-        EXPECT_EQ(LiveBlocks(), before + nth) << "arrays got before the failing one are not freed";
+        EXPECT_EQ(LiveBlocks(), before + nth) << "arrays that came before the failing one are not freed";
         EXPECT_EQ(RedAt(table, 254), 254);
+        EXPECT_EQ(CountOf(table), 255);
         EXPECT_EQ(Add(table, 255), 1) << "the free slot of the old arrays";
-        EXPECT_EQ(Add(table, 0), -1) << "nothing is written past them";
-        EXPECT_EQ(CountOf(table), 256);
-        VEKPrtColourTable copy(table);
+        before = LiveBlocks();
         const long allocations = Allocations();
+        for (int i = 0; i < 2; ++i)
+            WithFault(nth, [&] { EXPECT_EQ(Add(table, 0), -1) << "as long as memory is short"; });
+        EXPECT_EQ(LiveBlocks(), before + 2 * nth);
+        EXPECT_EQ(Allocations(), allocations + 2 * (nth + 1));
+        EXPECT_EQ(ColourAt(table, 255), 0xFF0203);
+        VEKPrtColourTable copy(table);
         EXPECT_EQ(Add(copy, 7), 1);
-        EXPECT_EQ(Allocations(), allocations) << "a copy has arrays of the raised capacity";
-        EXPECT_EQ(RedAt(copy, 255), 255);
+        EXPECT_EQ(RedAt(copy, 256), 7) << "a copy has arrays of the raised capacity";
+
+        for (int i = 256; i < 511; ++i)
+            ASSERT_EQ(Add(table, i % 256), 1) << i;
+        EXPECT_EQ(Allocations(), allocations + 2 * (nth + 1) + 6)
+            << "three for the copy, three of 512 entries";
+        EXPECT_EQ(Add(table, 255), 1);
+        EXPECT_EQ(Allocations(), allocations + 2 * (nth + 1) + 9) << "then it grows as ever";
+        for (unsigned i = 0; i < 512; ++i)
+            ASSERT_EQ(RedAt(table, i), static_cast<int>(i % 256)) << i;
     }
     VEKPrtColourTable first;
     unsigned index = 77;
     WithFault(0, [&] { EXPECT_EQ(first.AddColour(1, 2, 3, index), -1); });
-    EXPECT_EQ(first.AddColour(1, 2, 3, index), -1);
     EXPECT_EQ(index, 77U);
-    EXPECT_EQ(CountOf(VEKPrtColourTable(first)), 0);
+    const DemandedLeak leak(0, 3);
+    EXPECT_EQ(CountOf(VEKPrtColourTable(first)), 0) << "arrays were asked for, and lost";
     first = VEKPrtColourTable();
-    EXPECT_EQ(Add(first, 1), -1) << "neither has arrays: nothing is assigned, the capacity stays raised";
+    EXPECT_EQ(first.AddColour(1, 2, 3, index), 1);
+    EXPECT_EQ(index, 0U);
 }
 
 TEST(ColourTableFailure, CopyIsEmpty) {
-    const DemandedLeak leak;
+    const DemandedLeak leak(0, 6);
     VEKPrtColourTable table;
     Add(table, 1);
     for (int nth = 0; nth < 3; ++nth) {
@@ -130,7 +148,7 @@ TEST(ColourTableFailure, CopyIsEmpty) {
             EXPECT_EQ(RedAt(copy, 0), -1);
             EXPECT_EQ(Add(copy, 1), 1) << "of no capacity, so that it can grow";
         });
-        EXPECT_EQ(LiveBlocks(), before + 2) << "all three are asked for; those that were got are not freed";
+        EXPECT_EQ(LiveBlocks(), before + 2) << "all three are asked for; those that came are not freed";
     }
 }
 
@@ -173,7 +191,7 @@ TEST(Image, OwnsItsColourTable) {
     *copy = *std::as_const(copy).Get();
     EXPECT_EQ(RedAt(*TableOf(*copy), 0), 42) << "assigned to itself";
     WithFault(0, [&] { *copy = *duplicate; });
-    EXPECT_EQ(TableOf(*copy), nullptr) << "memory out: none, not the old one";
+    EXPECT_EQ(TableOf(*copy), nullptr) << "none, not the old one";
     *assigned = *image;
     EXPECT_EQ(TableOf(*assigned), nullptr) << "a source without a table takes the target's away";
 }
@@ -194,6 +212,10 @@ TEST(Image, StoresWhatItIsGiven) {
     image->SetOrigin(VEKMathPoint2D(1, 2));
     image->SetSize(3, 4);
     image->SetUnits(static_cast<VEKPrtImageUnits>(-123456));
+    image->SetMatrix(VEKMath2x2Matrix(1, 2, 3, 4));
+    VEKMath2x2Matrix matrix;
+    image->GetMatrix(matrix);
+    EXPECT_EQ(matrix, VEKMath2x2Matrix(1, 2, 3, 4));
     EXPECT_EQ(read(), 1234.0);
     EXPECT_EQ(units, -123456);
     EXPECT_EQ(TableOf(*Make<VEKPrtImageElt>(origin, 1.0, 1.0, units, VEKMath2x2Matrix())), nullptr);
@@ -213,23 +235,24 @@ TEST(BitmapImage, SetParametersKeepsTheOldImage) {
     const auto first = Make<VEKPixelImage>(1, 1), second = Make<VEKPixelImage>(1, 1);
     const auto bitmap = Make<VEKPrtBitmapImageElt>(VEKMathPoint2D(1, 2), 3.0, 4.0, 0.1, first.Get());
     EXPECT_EQ(Count(first), 2UL);
+    const auto expect = [&](VEKPixelImage* iImage, const VEKMathPoint2D& iOrigin, double iSize) {
+        double wide = 0, width = 0, height = 0;
+        VEKMathPoint2D origin(9, 9);
+        VEKPixelImage* image = nullptr;
+        bitmap->GetParameters(origin, width, height, wide, image);
+        EXPECT_EQ(wide, static_cast<double>(0.1F)) << "narrowed when it was constructed, then never set";
+        EXPECT_EQ(origin, iOrigin);
+        EXPECT_EQ(width * 10 + height, iSize);
+        EXPECT_EQ(image, iImage);
+    };
+    expect(first.Get(), VEKMathPoint2D(1, 2), 34.0);
     bitmap->SetParameters(VEKMathPoint2D(), 5.0, 6.0, 45.0, first.Get());
     EXPECT_EQ(Count(first), 2UL) << "one released, one taken";
     bitmap->SetParameters(VEKMathPoint2D(7, 8), 5.0, 6.0, 45.0, second.Get());
     EXPECT_EQ(Count(first), 2UL) << "the old image keeps the reference";
     EXPECT_EQ(Count(second), 2UL);
-    float orientation = 0;
-    bitmap->GetOrientation(orientation);
-    EXPECT_EQ(orientation, 0.1F) << "the orientation is ignored";
-    double wide = 0, width = 0, height = 0;
-    VEKMathPoint2D origin(9, 9);
-    VEKPixelImage* image = nullptr;
-    bitmap->GetParameters(origin, width, height, wide, image);
-    EXPECT_EQ(wide, static_cast<double>(0.1F)) << "narrowed when it was constructed";
-    EXPECT_EQ(origin, VEKMathPoint2D(7, 8));
-    EXPECT_EQ(width * 10 + height, 56.0);
-    EXPECT_EQ(image, second.Get());
-    bitmap->SetParameters(origin, 0, 0, 0, nullptr);
+    expect(second.Get(), VEKMathPoint2D(7, 8), 56.0);
+    bitmap->SetParameters(VEKMathPoint2D(), 0, 0, 0, nullptr);
     EXPECT_EQ(Count(second), 2UL);
     first->Release();
     second->Release();

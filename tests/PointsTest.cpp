@@ -26,8 +26,8 @@ Values PointsOf(const Element& iElement, int& oCount) {
 template <class Element>
 void ExpectPoints(const Element& iElement, int iCount, const Values& iPoints, const char* iWhat = "") {
     int count = -99;
-    EXPECT_EQ(PointsOf(iElement, count), iPoints) << iWhat;
-    EXPECT_EQ(count, iCount) << iWhat;
+    EXPECT_EQ(PointsOf(iElement, count), iPoints) << iElement.IsA() << ' ' << iWhat;
+    EXPECT_EQ(count, iCount) << iElement.IsA() << ' ' << iWhat;
 }
 
 template <class Element>
@@ -63,7 +63,8 @@ TYPED_TEST(PointArrayList, FirstPosition) {
                  rounds                     ? Values{0, 0, 1, 2}
                  : readsFromZero<TypeParam> ? Values{0, 0, 1, 2, 0, 0}
                                             : Values{1, 2, 0, 0, 3, 4});
-    WithFault(0, [&] { ExpectPoints(TypeParam(list), rounds ? 2 : 3, g_null, "memory out"); });
+    WithFault(0, [&] { ExpectPoints(TypeParam(list), rounds ? 2 : 3, g_null, "no array"); });
+    static_assert(std::is_convertible<const VEKListPtrVEKMathPoint2D&, TypeParam>::value, "clients convert");
 }
 
 TYPED_TEST(EveryPointArray, ConstructsFromArrays) {
@@ -105,7 +106,7 @@ TYPED_TEST(EveryPointArray, ReplacesAsGiven) {
     element->SetPoints(g_five, -3);
     ExpectPoints(*element, -3, g_null);
     WithFault(0, [&] { element->SetPoints(g_five, 4); });
-    ExpectPoints(*element, 4, g_null, "memory out: the count is kept");
+    ExpectPoints(*element, 4, g_null, "no array: the count is kept");
     ExpectPoints(*Make<TypeParam>(*element), 0, g_null, "copied from an element without an array");
 }
 
@@ -128,7 +129,7 @@ TYPED_TEST(EveryPointArray, CopiesItsArray) {
     *copy = *Make<TypeParam>(g_five, -3);
     ExpectPoints(*copy, 0, g_null, "a source without an array has no count either");
     WithFault(0, [&] { *copy = *duplicate; });
-    ExpectPoints(*copy, 4, g_null, "memory out: the source's count");
+    ExpectPoints(*copy, 4, g_null, "no array: the source's count");
     WithSelfCopy<TypeParam>([](const TypeParam& iCopy) { ExpectPoints(iCopy, 0, g_null); });
 }
 
@@ -179,6 +180,8 @@ TEST(PolyPolygon, HoldsPointsAndCounts) {
     };
     EXPECT_EQ(PolygonsOf(P(), 0), (Polygons{g_null, g_noCounts, 0}));
     EXPECT_EQ(PolygonsOf(P(g_five, counts, 2), 3), three);
+    EXPECT_EQ(PolygonsOf(P(g_five, counts, 1), 2), (Polygons{{1, 2, 3, 4}, {2}, 1}));
+    EXPECT_EQ(PolygonsOf(*set(g_five, counts, 1), 2), (Polygons{{1, 2, 3, 4}, {2}, 1}));
     EXPECT_EQ(PolygonsOf(P(narrow, counts, 2), 3), three);
     EXPECT_EQ(PolygonsOf(*set(g_five, counts, 2), 3), three);
     EXPECT_EQ(PolygonsOf(*set(g_five, counts, 0), 0), (Polygons{{}, {}, 0})) << "arrays of no length";
@@ -282,8 +285,8 @@ TEST(NURBS, SetParametersReadsFromTheSecondElement) {
     ExpectNurbs(*curve, {1, 2, 3, 4}, {11, 12, 13, 14, 15}, {21, 22}, 3, 2, 0.25F, 0.75F);
     ExpectNurbs(N(3, 2, g_points, g_knots, 0.25F, 0.75F, g_weights), {1, 2, 3, 4}, {10, 11, 12, 13, 14},
                 {20, 21}, 3, 2, 0.25F, 0.75F);
-    const float narrow[] = {1, 2, 3, 4, 5};
-    ExpectNurbs(N(1, 2, narrow, narrow, 0.0F, 2.0F, narrow), {1, 2, 3, 4}, {1, 2, 3}, {1, 2}, 1, 2, 0.0F,
+    const float points[] = {1, 2, 3, 4}, knots[] = {5, 6, 7}, weights[] = {8, 9};
+    ExpectNurbs(N(1, 2, points, knots, 0.0F, 2.0F, weights), {1, 2, 3, 4}, {5, 6, 7}, {8, 9}, 1, 2, 0.0F,
                 2.0F);
     ExpectNurbs(N(-1, 2, g_points, g_knots, 0.0F, 2.0F, g_weights), {1, 2, 3, 4}, {10}, {20, 21}, -1, 2, 0.0F,
                 2.0F);
@@ -337,6 +340,21 @@ TEST(NURBS, CopiesResetTheBounds) {
     *curve = *std::as_const(curve).Get();
     ExpectNurbs(*curve, {1, 2, 3, 4}, {10, 11, 12, 13, 14}, {20, 21}, 3, 2, 0.25F, 0.75F);
     WithSelfCopy<N>([](const N& iCopy) { ExpectNurbs(iCopy, g_null, g_null, g_null, 0, 0, 0.0F, 1.0F); });
+}
+
+// Each argument is judged by the first element that is read.  The new points come to lie where the old knots
+// were.
+TEST(NURBS, ReadsOwnArraysBeforeTheyGo) {
+    const auto curve = Make<VEKPrtNURBSElt>(2, 2, g_points, g_knots, 0.0F, 1.0F, g_weights);
+    const NurbsData old = DataOf(*curve);
+    const double points[] = {5, 6, 7, 8};
+    curve->SetParameters(2, 2, points, old.knots - 1, 0.0F, 1.0F, old.weights - 1);
+    ExpectNurbs(*curve, {5, 6, 7, 8}, {10, 11, 12, 13}, {20, 21}, 2, 2, 0.0F, 1.0F);
+    // An array of one knot holds nothing from its second element on.
+    const auto least = Make<VEKPrtNURBSElt>(0, 1, g_points, g_knots, 0.0F, 1.0F, g_weights);
+    const std::unique_ptr<double[]> knots(DataOf(*least).knots);
+    least->SetParameters(0, 1, points, knots.get(), 0.0F, 1.0F, g_weights);
+    ExpectNurbs(*least, {5, 6}, {0}, {21}, 0, 1, 0.0F, 1.0F);
 }
 
 TEST(NURBS, LeavesArraysPassedBackToTheCaller) {

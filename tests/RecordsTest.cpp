@@ -1,5 +1,7 @@
 #include <cfloat>
 #include <cmath>
+#include <cstring>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -62,6 +64,8 @@ void ExpectOneOfEach(const Transform& iTransform, unsigned iFirst) {
     EXPECT_EQ(translation, VEKMathVector2D(5, 6));
 }
 
+VEKFont g_font("Sans");
+
 const std::vector<int> g_oneOfEach = {6, 3, 0, 1, 2, 5, 4};
 
 } // namespace
@@ -96,6 +100,25 @@ TEST(Transform, RecordsAKindWithoutAValue) {
     transform.GetTransformTab(count, kinds);
     transform.AddTransform(kinds[0]);
     EXPECT_EQ(Kinds(transform).back(), 3) << "the argument may be an entry of the list that is replaced";
+}
+
+// Pairs of array and count, in the order of the kinds' fields: what debuggers and other compilers rely on.
+TEST(Transform, KeepsItsLayout) {
+    const Transform transform = OneOfEach();
+    struct Pair {
+        void* values;
+        unsigned count;
+    };
+    struct Layout {
+        void* table;
+        Pair pairs[8];
+    } layout;
+    static_assert(sizeof layout == sizeof transform, "nothing besides");
+    std::memcpy(&layout, static_cast<const void*>(&transform), sizeof layout);
+    for (int i = 0; i < 8; ++i)
+        EXPECT_EQ(layout.pairs[i].count, i == 0 ? 7U : 1U) << i;
+    EXPECT_EQ(static_cast<double*>(layout.pairs[2].values)[0], 2.0);
+    EXPECT_EQ(static_cast<float*>(layout.pairs[6].values)[0], 7.0F);
 }
 
 TEST(Transform, CopiesAreIndependentAndSelfCopiesEmpty) {
@@ -191,8 +214,40 @@ TEST(Transform, HandsOnTheStatusOfWhatItCalls) {
     }
 }
 
+// A Get that succeeds without a value leaves the value that the replay starts with.
+TEST(Transform, ReplaysFromPresets) {
+    struct Silent : Transform {
+        int GetMatrix(unsigned, VEKMath2x2Matrix&) const override { return 1; }
+        int GetScaleX(unsigned, double&) const override { return 1; }
+        int GetScaleY(unsigned, double&) const override { return 1; }
+        int GetRotation(unsigned, float&) const override { return 1; }
+        int GetSkewX(unsigned, float&) const override { return 1; }
+        int GetSkewY(unsigned, float&) const override { return 1; }
+        int GetTranslation(unsigned, VEKMathVector2D&) const override { return 1; }
+    };
+    Silent source;
+    source.Transform::AddTransformAttributes(OneOfEach());
+    Transform target;
+    EXPECT_EQ(target.AddTransformAttributes(source), 1);
+    float angles[3] = {9, 9, 9};
+    double scales[2] = {9, 9};
+    VEKMath2x2Matrix matrix(9, 9, 9, 9);
+    VEKMathVector2D vector(9, 9);
+    target.GetSkewY(6, angles[0]);
+    target.GetSkewX(6, angles[1]);
+    target.GetRotation(6, angles[2]);
+    target.GetScaleX(6, scales[0]);
+    target.GetScaleY(6, scales[1]);
+    target.GetMatrix(6, matrix);
+    target.GetTranslation(6, vector);
+    EXPECT_EQ((std::vector<double>{angles[0], angles[1], angles[2], scales[0], scales[1]}),
+              (std::vector<double>{1, 1, 0, 1, 1}));
+    EXPECT_EQ(matrix, VEKMath2x2Matrix());
+    EXPECT_EQ(vector, VEKMathVector2D(0, 0));
+}
+
 TEST(TransformFailure, LosesTheValuesOfOneKind) {
-    const DemandedLeak leak;
+    const DemandedLeak leak(0, 1);
     Transform transform;
     transform.AddScaleX(2.0);
     transform.AddRotation(1.0F);
@@ -212,7 +267,7 @@ TEST(TransformFailure, LosesTheValuesOfOneKind) {
 }
 
 TEST(TransformFailure, LosesTheListOfKinds) {
-    const DemandedLeak leak;
+    const DemandedLeak leak(0, 1);
     Transform transform;
     transform.AddScaleX(2.0);
     WithFault(1, [&] { EXPECT_EQ(transform.AddScaleX(3.0), -1); });
@@ -308,31 +363,48 @@ TEST(Stroke, ReadsBackWhatItIsGiven) {
               (std::vector<double>{7, -2, 2, 9}));
 }
 
+namespace {
+
+// A change of one field, by its name.
+template <class Record>
+struct Named {
+    const char* name;
+    void (*change)(Record&);
+};
+
+} // namespace
+
 TEST(Stroke, ComparesEveryFieldExactly) {
     using S = VEKPrtStrokeAttributes;
-    void (*const changes[])(S&) = {[](S& s) { s.SetStrokeColourIndex(1); },
-                                   [](S& s) { s.SetStrokeColourTransparency(254); },
-                                   [](S& s) { s.SetStrokeType(VEKPrintLineTypeDashed); },
-                                   [](S& s) {
-                                       s = Dashed({1, 2});
-                                   },
-                                   [](S& s) {
-                                       s = Dashed({1, 2, std::nextafter(3.0F, 4.0F)});
-                                   },
-                                   [](S& s) { s.SetStrokeWidth(0.1); },
-                                   [](S& s) { s.SetStrokeStyle(VEKPrintLineStyleFixed); },
-                                   [](S& s) { s.SetStrokeCap(VEKPrintLineCapRound); },
-                                   [](S& s) { s.SetStrokeJoin(VEKPrintLineJoinBevel); }};
+    const Named<S> changes[] = {{"colour", [](S& s) { s.SetStrokeColourIndex(1); }},
+                                {"transparency", [](S& s) { s.SetStrokeColourTransparency(254); }},
+                                {"type", [](S& s) { s.SetStrokeType(VEKPrintLineTypeDashed); }},
+                                {"fewer dashes",
+                                 [](S& s) {
+                                     s = Dashed({1, 2});
+                                 }},
+                                {"one dash", [](S& s) { s = Dashed({1}); }},
+                                {"first dash",
+                                 [](S& s) {
+                                     s = Dashed({2, 2, 3});
+                                 }},
+                                {"last dash",
+                                 [](S& s) {
+                                     s = Dashed({1, 2, std::nextafter(3.0F, 4.0F)});
+                                 }},
+                                {"width", [](S& s) { s.SetStrokeWidth(0.1); }},
+                                {"style", [](S& s) { s.SetStrokeStyle(VEKPrintLineStyleFixed); }},
+                                {"cap", [](S& s) { s.SetStrokeCap(VEKPrintLineCapRound); }},
+                                {"join", [](S& s) { s.SetStrokeJoin(VEKPrintLineJoinBevel); }}};
     const S original = Dashed({1, 2, 3});
-    for (const auto& change : changes) {
-        S other(original);
-        EXPECT_EQ(original == other, 1);
+    for (const auto& [name, change] : changes) {
+        S other(original), assigned;
+        EXPECT_EQ(original == other, 1) << name;
         change(other);
-        EXPECT_EQ(original == other, 0) << "change " << &change - changes;
-        S assigned;
+        EXPECT_EQ(original == other, 0) << name;
         assigned = other;
-        EXPECT_EQ(assigned == other, 1) << "assigned after change " << &change - changes;
-        EXPECT_EQ(S(other) == other, 1) << "copied after change " << &change - changes;
+        EXPECT_EQ(assigned == other, 1) << name << ", assigned";
+        EXPECT_EQ(S(other) == other, 1) << name << ", copied";
     }
 }
 
@@ -380,6 +452,81 @@ TEST(Fill, SharesItsImageByCount) {
     EXPECT_EQ(Count(image), 1UL);
 }
 
+namespace {
+
+// An image that notes what is in a copy when it is asked for a reference or for a copy of itself.
+struct Witness : VEKPixelImage {
+    Witness() : VEKPixelImage(1, 1) {}
+    std::function<double()> look;
+    mutable std::vector<double> seen;
+    unsigned long AddRef() override {
+        if (look) seen.push_back(look());
+        return VEKPixelImage::AddRef();
+    }
+    VEKPixelImage* Clone() const override {
+        seen.push_back(look());
+        return VEKPixelImage::Clone();
+    }
+};
+
+} // namespace
+
+TEST(Fill, TakesItsImageBetweenColourAndVectors) {
+    using F = VEKPrtFillAttributes;
+    const auto image = Make<Witness>();
+    F source, assigned, duplicate;
+    source.SetFillColourIndex(7);
+    source.SetPattern(image.Get(), VEKMathVector2D(1, 0), VEKMathVector2D(0, 1));
+    const auto looking = [&](const F& iTarget) {
+        image->look = [&iTarget] {
+            unsigned colour = 0;
+            VEKPixelImage* held = nullptr;
+            VEKMathVector2D first, second;
+            iTarget.GetFillColourIndex(colour);
+            const_cast<F&>(iTarget).GetPattern(held, first, second);
+            return colour + first.GetX() + second.GetY();
+        };
+    };
+    alignas(F) unsigned char memory[sizeof(F)];
+    F* const copy = reinterpret_cast<F*>(memory);
+    looking(*copy);
+    ::new (memory) F(source);
+    looking(assigned);
+    assigned = source;
+    looking(duplicate);
+    source.Duplicate(duplicate);
+    EXPECT_EQ(image->seen, (std::vector<double>{7, 7, 7})) << "the colour is there, the vectors are not";
+    copy->~F();
+    image->look = nullptr;
+}
+
+TEST(Text, CopiesItsRecordBeforeOrAfterTheFill) {
+    using T = VEKPrtTextElt;
+    const auto image = Make<Witness>();
+    VEKPrtFillAttributes fill;
+    VEKPrtTextAttributes attributes;
+    fill.SetPattern(image.Get(), {}, {});
+    attributes.SetHeight(20.0);
+    const auto source = Make<T>(), assigned = Make<T>();
+    source->SetFillAttributes(fill);
+    source->SetTextAttributes(attributes);
+    static T* target;
+    image->look = [] {
+        VEKPrtTextAttributes text;
+        double height = 0;
+        target->GetTextAttributes(text);
+        text.GetHeight(height);
+        return height;
+    };
+    target = assigned.Get();
+    *assigned = *source;
+    void* const place = VEKBaseUnknown::operator new(sizeof(T));
+    target = static_cast<T*>(place);
+    const auto copy = VEKRef<T>::Adopt(::new (place) T(*source));
+    EXPECT_EQ(image->seen, (std::vector<double>{10, 20})) << "assigned after it, constructed before it";
+    image->look = nullptr;
+}
+
 TEST(Fill, DuplicateCopiesTheImageAndLosesTheTargets) {
     const auto image = Make<VEKPixelImage>(2, 2), old = Make<VEKPixelImage>(1, 1);
     VEKPrtFillAttributes fill, target;
@@ -417,24 +564,31 @@ TEST(Fill, DuplicateCopiesTheImageAndLosesTheTargets) {
 
 TEST(Fill, ComparesEveryFieldExactly) {
     using F = VEKPrtFillAttributes;
-    void (*const changes[])(F&) = {
-        [](F& f) { f.SetFillStyle(VEKPrtFillPattern); },
-        [](F& f) { f.SetFillRule(VEKPrtFillNonZero); },
-        [](F& f) { f.SetFillColourIndex(1); },
-        [](F& f) { f.SetFillColourTransparency(0); },
-        [](F& f) { f.SetPattern(Make<VEKPixelImage>(1, 1).Get(), VEKMathVector2D(), VEKMathVector2D()); },
-        [](F& f) { f.SetPattern(nullptr, VEKMathVector2D(0, DBL_MIN), VEKMathVector2D()); },
-        [](F& f) { f.SetPattern(nullptr, VEKMathVector2D(), VEKMathVector2D(1, 0)); },
-        [](F& f) { f.SetPatternRefPoint(VEKMathPoint2D(0, 1)); }};
-    for (const auto& change : changes) {
-        F fill, other;
-        EXPECT_EQ(fill == other, 1);
+    const Named<F> changes[] = {
+        {"style", [](F& f) { f.SetFillStyle(VEKPrtFillPattern); }},
+        {"rule", [](F& f) { f.SetFillRule(VEKPrtFillNonZero); }},
+        {"colour", [](F& f) { f.SetFillColourIndex(1); }},
+        {"transparency", [](F& f) { f.SetFillColourTransparency(0); }},
+        {"image", [](F& f) { f.SetPattern(Make<VEKPixelImage>(1, 1).Get(), {}, {}); }},
+        {"first vector",
+         [](F& f) {
+             f.SetPattern(nullptr, {0, DBL_MIN}, {});
+         }},
+        {"second vector",
+         [](F& f) {
+             f.SetPattern(nullptr, {}, {1, 0});
+         }},
+        {"reference point", [](F& f) {
+             f.SetPatternRefPoint({0, 1});
+         }}};
+    for (const auto& [name, change] : changes) {
+        F fill, other, duplicate;
+        EXPECT_EQ(fill == other, 1) << name;
         change(other);
-        EXPECT_EQ(fill == other, 0) << "change " << &change - changes;
-        EXPECT_EQ(F(other) == other, 1) << "copied after change " << &change - changes;
-        F duplicate;
+        EXPECT_EQ(fill == other, 0) << name;
+        EXPECT_EQ(F(other) == other, 1) << name << ", copied";
         other.Duplicate(duplicate);
-        EXPECT_EQ(duplicate == other, &change - changes == 4 ? 0 : 1) << "only the image is another one";
+        EXPECT_EQ(duplicate == other, name == std::string("image") ? 0 : 1) << name << ", duplicated";
     }
     F fill;
     fill.SetPatternRefPoint(VEKMathPoint2D(1, 2));
@@ -452,24 +606,24 @@ TEST(Fill, ComparesEveryFieldExactly) {
 
 TEST(Text, ComparesEveryFieldAndBorrowsItsFont) {
     using T = VEKPrtTextAttributes;
-    static VEKFont font("Sans");
-    void (*const changes[])(T&) = {[](T& t) { t.SetFont(&font); },
-                                   [](T& t) { t.SetWeight(VEKPrintTextWeightBold); },
-                                   [](T& t) { t.SetHeight(std::nextafter(10.0, 11.0)); },
-                                   [](T& t) { t.SetAnchor(VEKPrintTextAnchorTopLeft); },
-                                   [](T& t) { t.SetSlant(1.0F); },
-                                   [](T& t) { t.SetDirection(-1.0F); },
-                                   [](T& t) { t.SetExtraSpacing(0.5); },
-                                   [](T& t) { t.SetExpansion(0.5); },
-                                   [](T& t) { t.SetWritingMode(static_cast<VEKPrtTextWritingMode>(-7)); }};
-    for (const auto& change : changes) {
+    const Named<T> changes[] = {
+        {"font", [](T& t) { t.SetFont(&g_font); }},
+        {"weight", [](T& t) { t.SetWeight(VEKPrintTextWeightBold); }},
+        {"height", [](T& t) { t.SetHeight(std::nextafter(10.0, 11.0)); }},
+        {"anchor", [](T& t) { t.SetAnchor(VEKPrintTextAnchorTopLeft); }},
+        {"slant", [](T& t) { t.SetSlant(1.0F); }},
+        {"direction", [](T& t) { t.SetDirection(-1.0F); }},
+        {"spacing", [](T& t) { t.SetExtraSpacing(0.5); }},
+        {"expansion", [](T& t) { t.SetExpansion(0.5); }},
+        {"writing mode", [](T& t) { t.SetWritingMode(static_cast<VEKPrtTextWritingMode>(-7)); }}};
+    for (const auto& [name, change] : changes) {
         T text, other;
-        EXPECT_EQ(text == other, 1);
+        EXPECT_EQ(text == other, 1) << name;
         change(other);
-        EXPECT_EQ(text == other, 0) << "change " << &change - changes;
+        EXPECT_EQ(text == other, 0) << name;
         text = other;
-        EXPECT_EQ(text == other, 1) << "assigned after change " << &change - changes;
-        EXPECT_EQ(T(other) == other, 1) << "copied after change " << &change - changes;
+        EXPECT_EQ(text == other, 1) << name << ", assigned";
+        EXPECT_EQ(T(other) == other, 1) << name << ", copied";
     }
     T set;
     set.SetWeight(VEKPrintTextWeightBold);
@@ -497,7 +651,7 @@ TEST(Text, ComparesEveryFieldAndBorrowsItsFont) {
     };
     EXPECT_EQ(plain(set), (std::vector<double>{27, -1, 2, 3, 4, 5, 1}));
     EXPECT_EQ(plain(text), (std::vector<double>{25, 10, 0, 0, 0, 1, 0}));
-    VEKFont* held = &font;
+    VEKFont* held = &g_font;
     VEKPrintTextAttribute anchor;
     text.GetFont(held);
     text.GetAnchor(anchor);

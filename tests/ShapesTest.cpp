@@ -9,6 +9,7 @@
 namespace {
 
 using Point = VEKMathPoint2D;
+VEKFont g_font("Sans");
 
 void Append(std::ostream& ioStream, const Point& iPoint) {
     ioStream << iPoint.GetX() << ',' << iPoint.GetY();
@@ -128,6 +129,7 @@ int StyleOf(const Shape&, long) {
 template <class Shape>
 void Check(const char* iDefault, const VEKRef<Shape>& iConstructed, const char* iGeometry, Shape& ioSet,
            const std::vector<std::function<void(Shape&)>>& iSetters, const char* iSet) {
+    SCOPED_TRACE(Shape::ClassName());
     EXPECT_EQ(Geometry(*Make<Shape>()), iDefault);
     EXPECT_EQ(Geometry(*iConstructed), iGeometry);
     EXPECT_EQ(StyleOf(*iConstructed, 0), 1);
@@ -138,8 +140,9 @@ void Check(const char* iDefault, const VEKRef<Shape>& iConstructed, const char* 
     EXPECT_EQ(Geometry(ioSet), iSet);
     const auto assigned = Make<Shape>();
     *assigned = ioSet;
-    for (const auto& copy : {Make<Shape>(ioSet), assigned, Duplicated(ioSet)})
-        EXPECT_EQ(Geometry(*copy), iSet);
+    EXPECT_EQ(Geometry(*Make<Shape>(ioSet)), iSet) << "copied";
+    EXPECT_EQ(Geometry(*assigned), iSet) << "assigned";
+    EXPECT_EQ(Geometry(*Duplicated(ioSet)), iSet) << "duplicated";
     WithSelfCopy<Shape>([&](const Shape& iCopy) { EXPECT_EQ(Geometry(iCopy), iDefault); });
 }
 
@@ -207,12 +210,11 @@ TEST(Shapes, StoreWhatTheyAreGiven) {
     }
     {
         using S = VEKPrtTextElt;
-        static VEKFont font("Sans");
         Check<S>("0,0  -", Make<S>(Point(1, 2), VEKUnicodeString("x")), "1,2 x -", *Make<S>(),
                  {[](S& s) { s.SetParameters(Point(1, 2), "x"); }, [](S& s) { s.SetText("z"); },
                   [](S& s) {
                       VEKPrtTextAttributes text;
-                      text.SetFont(&font);
+                      text.SetFont(&g_font);
                       s.SetTextAttributes(text);
                   },
                   [](S& s) { s.SetPosition(Point(9, 9)); }},

@@ -1,6 +1,7 @@
 #include "TestSupport.h"
 
 #include <cstdlib>
+#include <cstring>
 #include <new>
 
 // g++ says by a macro, clang by a feature, that the address sanitizer is on.
@@ -24,7 +25,8 @@ namespace {
 
 long g_blocks = 0;
 long g_allocations = 0;
-long g_demandedLeak = 0;
+long g_demandedObjects = 0;
+long g_demandedBlocks = 0;
 
 struct Faults {
     bool on = false;
@@ -53,16 +55,34 @@ void Deallocate(void* iBlock) noexcept {
     std::free(iBlock);
 }
 
-// After every test: no framework object is left that the behaviour does not demand.
-class LiveObjectCheck : public testing::EmptyTestEventListener {
-    void OnTestStart(const testing::TestInfo&) override {
-        _before = VEKBaseUnknown::CountLiveObjects();
-        g_demandedLeak = 0;
+template <class... Elements>
+void Register(testing::Types<Elements...>) {
+    for (const VEKMetaClass* const meta : {Elements::MetaObject()...})
+        if (!meta) std::abort();
+}
+
+// After every test: no framework object and no memory block is left that the behaviour does not demand.
+class LeakCheck : public testing::EmptyTestEventListener {
+    void OnTestStart(const testing::TestInfo& iTest) override {
+        // A class is registered once in a process, here so that no test seems to lose the block; the tests of
+        // registration itself run in processes of their own.
+        if (!IsRegistration(iTest)) Register(AllElements());
+        { SCOPED_TRACE("makes room for the traces of the tests"); }
+        g_demandedObjects = g_demandedBlocks = 0;
+        _objects = VEKBaseUnknown::CountLiveObjects();
+        _blocks = LiveBlocks();
     }
-    void OnTestEnd(const testing::TestInfo&) override {
-        EXPECT_EQ(VEKBaseUnknown::CountLiveObjects() - _before, g_demandedLeak) << "objects left alive";
+    void OnTestEnd(const testing::TestInfo& iTest) override {
+        const long blocks = LiveBlocks() - _blocks; // before an expectation allocates
+        EXPECT_EQ(VEKBaseUnknown::CountLiveObjects() - _objects, g_demandedObjects) << "objects left";
+        if (IsRegistration(iTest) || iTest.result()->Failed()) return; // what a failure says stays in memory
+        EXPECT_EQ(blocks, g_demandedBlocks) << "memory blocks left";
     }
-    long _before = 0;
+    static bool IsRegistration(const testing::TestInfo& iTest) {
+        return std::strcmp(iTest.test_suite_name(), "Registration") == 0;
+    }
+    long _objects = 0;
+    long _blocks = 0;
 };
 
 } // namespace
@@ -91,14 +111,18 @@ long AllocationFaults::Stop() {
     return g_faults.hits;
 }
 
-DemandedLeak::DemandedLeak(long iObjects) {
-    g_demandedLeak += iObjects;
+DemandedLeak::DemandedLeak(long iObjects, long iBlocks) {
+    Add(iObjects, iBlocks);
     LSAN_DISABLE();
 }
 DemandedLeak::~DemandedLeak() { LSAN_ENABLE(); }
+void DemandedLeak::Add(long iObjects, long iBlocks) {
+    g_demandedObjects += iObjects;
+    g_demandedBlocks += iBlocks;
+}
 
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
-    testing::UnitTest::GetInstance()->listeners().Append(new LiveObjectCheck);
+    testing::UnitTest::GetInstance()->listeners().Append(new LeakCheck);
     return RUN_ALL_TESTS();
 }

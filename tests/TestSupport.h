@@ -17,7 +17,7 @@ long LiveBlocks();
 /// Requests made so far.
 long Allocations();
 
-/// Makes the \p iNth allocation (from 0) fail, and with \p iSticky all that follow, until Stop.
+/// Makes the \p iNth allocation from now on (from 0) fail, and with \p iSticky all that follow, until Stop.
 class AllocationFaults {
 public:
     AllocationFaults(long iNth, bool iSticky);
@@ -28,7 +28,7 @@ public:
     long Stop();
 };
 
-/// Runs an operation that allocates at most once too often: \p iFail (from 0) fails, and must be reached.
+/// Runs an operation in which the \p iNth allocation (from 0) fails; the operation must get that far.
 template <class Operation>
 void WithFault(long iNth, Operation iOperation) {
     AllocationFaults faults(iNth, false);
@@ -36,14 +36,16 @@ void WithFault(long iNth, Operation iOperation) {
     EXPECT_EQ(faults.Stop(), 1) << "allocation " << iNth << " was not reached";
 }
 
-/// The behaviour demands that \p iObjects framework objects are lost in this test; without this, one that is
-/// alive at the end of a test fails it.  What is allocated in the scope is no leak to the sanitizer.
+/// The behaviour demands that this test loses framework objects and memory blocks (those of the objects
+/// included); any other that is left at the end of a test fails it.  What is allocated in the scope is no
+/// leak to the sanitizer.
 class DemandedLeak {
 public:
-    explicit DemandedLeak(long iObjects = 0);
+    DemandedLeak(long iObjects, long iBlocks);
     ~DemandedLeak();
     DemandedLeak(const DemandedLeak&) = delete;
     DemandedLeak& operator=(const DemandedLeak&) = delete;
+    static void Add(long iObjects, long iBlocks);
 };
 
 template <class T>
@@ -82,12 +84,22 @@ std::string Id(const Element& iElement) {
     return id.ToUtf8();
 }
 
-/// The list itself; null where there is none.
+/// A holder's list itself; null where there is none.
 template <class Container>
-auto ListOf(Container& ioContainer) {
+VEKListPtrVEKPrtGraphicPrimitiveElt* ListOf(Container& ioContainer) {
     VEKListPtrVEKPrtGraphicPrimitiveElt* children = nullptr;
     ioContainer.GetChildren(children);
     return children;
+}
+inline VEKListPtrVEKPrtClosedFigureRegionElt* ListOf(VEKPrtClosedFigureElt& ioFigure) {
+    VEKListPtrVEKPrtClosedFigureRegionElt* regions = nullptr;
+    ioFigure.GetChildren(regions);
+    return regions;
+}
+inline VEKListPtrVEKPrtImageElt* ListOf(VEKPrtModel& ioModel) {
+    VEKListPtrVEKPrtImageElt* images = nullptr;
+    ioModel.GetImages(images);
+    return images;
 }
 
 #endif
