@@ -31,13 +31,13 @@ public:
 
         Iterator(const VEKRawCollPV* iList, int iPosition, int iEnd)
             : _list(iList), _position(iPosition), _end(iEnd) {
-            PassNull();
+            FindMember();
         }
-        Member& operator*() const { return *At(); }
-        Member* operator->() const { return At(); }
+        Member& operator*() const { return *_member; }
+        Member* operator->() const { return _member; }
         Iterator& operator++() {
             ++_position;
-            PassNull();
+            FindMember();
             return *this;
         }
         Iterator operator++(int) {
@@ -45,20 +45,22 @@ public:
             ++*this;
             return before;
         }
-        bool operator==(const Iterator& iOther) const { return _position == iOther._position; }
-        bool operator!=(const Iterator& iOther) const { return _position != iOther._position; }
+        bool operator==(const Iterator& iOther) const {
+            return _member == iOther._member && (!_member || _position == iOther._position);
+        }
+        bool operator!=(const Iterator& iOther) const { return !(*this == iOther); }
 
     private:
-        Member* At() const { return static_cast<Member*>((*_list)[_position]); }
         // A list that has become shorter yields null for the positions that it lost.
-        void PassNull() {
-            while (_position < _end && !At())
-                ++_position;
+        void FindMember() {
+            for (_member = nullptr; !_member && _position < _end; _position += _member ? 0 : 1)
+                _member = static_cast<Member*>((*_list)[_position]);
         }
 
         const VEKRawCollPV* _list;
         int _position;
         int _end;
+        Member* _member = nullptr; // null at the end
     };
 
     explicit VEKPrtMembers(const VEKRawCollPV* iList) : _list(iList), _end(iList ? iList->Size() + 1 : 1) {}
