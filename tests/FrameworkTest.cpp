@@ -1,4 +1,5 @@
 #include <climits>
+#include <cstdlib>
 
 #include "TestSupport.h"
 #include "VEKFont.h"
@@ -168,4 +169,24 @@ TEST(PixelImage, ClonesOrYieldsNull) {
         WithFault(nth, [&] { EXPECT_EQ(image->Clone(), nullptr); });
     EXPECT_EQ(Make<VEKPixelImage>(INT_MAX, INT_MAX)->GetWidth(), 0);
     EXPECT_EQ(Make<VEKPixelImage>(5, -1)->GetHeight(), 0);
+}
+
+// In a process of its own, in which no class is registered yet.
+TEST(Registration, TriesAgainButNotForItsBase) {
+    testing::GTEST_FLAG(death_test_style) = "threadsafe";
+    const auto check = [] {
+        AllocationFaults none(0, true);
+        bool right = !VEKPrtLineElt::MetaObject() && !VEKPrtLineElt::ClassName() && !VEKPrtLineElt::ClassId();
+        none.Stop();
+        // The root alone fails; what is registered without it stays so.
+        AllocationFaults root(0, false);
+        const VEKMetaClass* const line = VEKPrtLineElt::MetaObject();
+        right = right && root.Stop() == 1 && line &&
+                line->GetBase() == meta_object__25VEKPrtGraphicPrimitiveElt && line->GetBase() &&
+                !line->GetBase()->GetBase() && VEKBaseUnknown::MetaObject() &&
+                VEKPrtGraphicPrimitiveElt::MetaObject() == line->GetBase() && !line->GetBase()->GetBase() &&
+                line->IsAKindOf("VEKBaseUnknown") == 0 && line->IsAKindOf("VEKPrtGraphicPrimitiveElt") == 1;
+        std::exit(right ? 0 : 1);
+    };
+    EXPECT_EXIT(check(), testing::ExitedWithCode(0), "");
 }

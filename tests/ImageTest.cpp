@@ -246,13 +246,13 @@ TEST(BitmapImage, SetParametersKeepsTheOldImage) {
         EXPECT_EQ(image, iImage);
     };
     expect(first.Get(), VEKMathPoint2D(1, 2), 34.0);
-    bitmap->SetParameters(VEKMathPoint2D(), 5.0, 6.0, 45.0, first.Get());
+    bitmap->SetParameters(VEKMathPoint2D(0, 0), 5.0, 6.0, 45.0, first.Get());
     EXPECT_EQ(Count(first), 2UL) << "one released, one taken";
     bitmap->SetParameters(VEKMathPoint2D(7, 8), 5.0, 6.0, 45.0, second.Get());
     EXPECT_EQ(Count(first), 2UL) << "the old image keeps the reference";
     EXPECT_EQ(Count(second), 2UL);
     expect(second.Get(), VEKMathPoint2D(7, 8), 56.0);
-    bitmap->SetParameters(VEKMathPoint2D(), 0, 0, 0, nullptr);
+    bitmap->SetParameters(VEKMathPoint2D(0, 0), 0, 0, 0, nullptr);
     EXPECT_EQ(Count(second), 2UL);
     first->Release();
     second->Release();
@@ -261,7 +261,7 @@ TEST(BitmapImage, SetParametersKeepsTheOldImage) {
 TEST(BitmapImage, HoldsTheOnlyReference) {
     const auto bitmap = Make<VEKPrtBitmapImageElt>();
     bitmap->SetPixelImage(Make<VEKPixelImage>(1, 1).Get());
-    bitmap->SetParameters(VEKMathPoint2D(), 0, 0, 0, PixelsOf(*bitmap));
+    bitmap->SetParameters(VEKMathPoint2D(0, 0), 0, 0, 0, PixelsOf(*bitmap));
     EXPECT_EQ(Count(PixelsOf(*bitmap)), 1UL) << "passed back to itself it survives";
     bitmap->SetPixelImage(PixelsOf(*bitmap));
     EXPECT_EQ(Count(PixelsOf(*bitmap)), 1UL) << "by its own setter, too";
@@ -279,7 +279,7 @@ TEST(BitmapImage, CopiesShareAndDuplicatesCopy) {
     bitmap->GetOrigin(origin);
     bitmap->GetSize(width, height);
     bitmap->GetOrientation(orientation);
-    EXPECT_EQ(origin, VEKMathPoint2D());
+    EXPECT_EQ(origin, VEKMathPoint2D(0, 0));
     EXPECT_EQ(width + height + static_cast<double>(orientation), 0.0);
     bitmap->SetOrigin(VEKMathPoint2D(1, 2));
     bitmap->SetSize(3, 4);

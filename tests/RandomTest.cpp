@@ -472,7 +472,8 @@ private:
         Begin("client's record");
         if (aspect == 1) _stroke.SetStrokeTypePattern(values, static_cast<unsigned char>(length));
         if (aspect == 2) _stroke.SetStrokeColourIndex(static_cast<unsigned>(length));
-        if (aspect == 3) _fill.SetPattern(image ? static_cast<VEKPixelImage*>(image->real) : nullptr, {}, {});
+        if (aspect == 3)
+            _fill.SetPattern(image ? static_cast<VEKPixelImage*>(image->real) : nullptr, {0, 0}, {0, 0});
         if (aspect == 4) _transform.AddTranslation(VEKMathVector2D(value, 0));
         if (aspect > 4) _transform.AddRotation(values[0]);
         Replay();

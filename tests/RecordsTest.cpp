@@ -90,7 +90,7 @@ TEST(Transform, LooksUpLeniently) {
 
 TEST(Transform, RecordsAKindWithoutAValue) {
     Transform transform;
-    EXPECT_EQ(transform.AddTransform(VEKPrintTransformScaleX), 1);
+    EXPECT_EQ(transform.AddTransform(Value<VEKPrintTransformType>(3)), 1);
     EXPECT_EQ(ScaleXAt(transform, 0), -99.0);
     transform.AddScaleX(5.0);
     EXPECT_EQ(ScaleXAt(transform, 0), 5.0);
@@ -149,7 +149,7 @@ TEST(Transform, AppendsInOrder) {
 
     Transform valueless;
     valueless.AddScaleX(4.0);
-    valueless.AddTransform(VEKPrintTransformSkewX);
+    valueless.AddTransform(Value<VEKPrintTransformType>(5));
     valueless.AddScaleX(5.0);
     Transform part;
     EXPECT_EQ(part.AddTransformAttributes(valueless), -1);
@@ -350,8 +350,8 @@ TEST(Stroke, ReadsBackWhatItIsGiven) {
     VEKPrtStrokeAttributes stroke;
     stroke.SetStrokeColourIndex(7);
     stroke.SetStrokeWidth(-2.0);
-    stroke.SetStrokeType(VEKPrintLineTypeDotted);
-    stroke.SetStrokeStyle(VEKPrintLineStyleFixed);
+    stroke.SetStrokeType(Value<VEKPrintLineAttribute>(2));
+    stroke.SetStrokeStyle(Value<VEKPrintLineAttribute>(9));
     unsigned colour = 0;
     double width = 0;
     VEKPrintLineAttribute type, style;
@@ -378,7 +378,7 @@ TEST(Stroke, ComparesEveryFieldExactly) {
     using S = VEKPrtStrokeAttributes;
     const Named<S> changes[] = {{"colour", [](S& s) { s.SetStrokeColourIndex(1); }},
                                 {"transparency", [](S& s) { s.SetStrokeColourTransparency(254); }},
-                                {"type", [](S& s) { s.SetStrokeType(VEKPrintLineTypeDashed); }},
+                                {"type", [](S& s) { s.SetStrokeType(Value<VEKPrintLineAttribute>(1)); }},
                                 {"fewer dashes",
                                  [](S& s) {
                                      s = Dashed({1, 2});
@@ -393,9 +393,9 @@ TEST(Stroke, ComparesEveryFieldExactly) {
                                      s = Dashed({1, 2, std::nextafter(3.0F, 4.0F)});
                                  }},
                                 {"width", [](S& s) { s.SetStrokeWidth(0.1); }},
-                                {"style", [](S& s) { s.SetStrokeStyle(VEKPrintLineStyleFixed); }},
-                                {"cap", [](S& s) { s.SetStrokeCap(VEKPrintLineCapRound); }},
-                                {"join", [](S& s) { s.SetStrokeJoin(VEKPrintLineJoinBevel); }}};
+                                {"style", [](S& s) { s.SetStrokeStyle(Value<VEKPrintLineAttribute>(9)); }},
+                                {"cap", [](S& s) { s.SetStrokeCap(Value<VEKPrintLineAttribute>(11)); }},
+                                {"join", [](S& s) { s.SetStrokeJoin(Value<VEKPrintLineAttribute>(15)); }}};
     const S original = Dashed({1, 2, 3});
     for (const auto& [name, change] : changes) {
         S other(original), assigned;
@@ -505,7 +505,7 @@ TEST(Text, CopiesItsRecordBeforeOrAfterTheFill) {
     const auto image = Make<Witness>();
     VEKPrtFillAttributes fill;
     VEKPrtTextAttributes attributes;
-    fill.SetPattern(image.Get(), {}, {});
+    fill.SetPattern(image.Get(), {0, 0}, {0, 0});
     attributes.SetHeight(20.0);
     const auto source = Make<T>(), assigned = Make<T>();
     source->SetFillAttributes(fill);
@@ -531,7 +531,7 @@ TEST(Fill, DuplicateCopiesTheImageAndLosesTheTargets) {
     const auto image = Make<VEKPixelImage>(2, 2), old = Make<VEKPixelImage>(1, 1);
     VEKPrtFillAttributes fill, target;
     fill.SetPattern(image.Get(), VEKMathVector2D(1, 0), VEKMathVector2D(0, 1));
-    target.SetPattern(old.Get(), VEKMathVector2D(), VEKMathVector2D());
+    target.SetPattern(old.Get(), VEKMathVector2D(0, 0), VEKMathVector2D(0, 0));
     fill.Duplicate(target);
     EXPECT_EQ(Count(old), 2UL) << "its reference is lost";
     old->Release();
@@ -553,7 +553,7 @@ TEST(Fill, DuplicateCopiesTheImageAndLosesTheTargets) {
     };
     fill.SetPattern(Make<Uncopyable>().Get(), VEKMathVector2D(1, 0), VEKMathVector2D(0, 1));
     VEKPrtFillAttributes failed;
-    failed.SetPattern(old.Get(), VEKMathVector2D(), VEKMathVector2D());
+    failed.SetPattern(old.Get(), VEKMathVector2D(0, 0), VEKMathVector2D(0, 0));
     fill.Duplicate(failed);
     EXPECT_EQ(Count(old), 2UL) << "lost to an image that cannot be copied, too";
     old->Release();
@@ -564,23 +564,25 @@ TEST(Fill, DuplicateCopiesTheImageAndLosesTheTargets) {
 
 TEST(Fill, ComparesEveryFieldExactly) {
     using F = VEKPrtFillAttributes;
-    const Named<F> changes[] = {
-        {"style", [](F& f) { f.SetFillStyle(VEKPrtFillPattern); }},
-        {"rule", [](F& f) { f.SetFillRule(VEKPrtFillNonZero); }},
-        {"colour", [](F& f) { f.SetFillColourIndex(1); }},
-        {"transparency", [](F& f) { f.SetFillColourTransparency(0); }},
-        {"image", [](F& f) { f.SetPattern(Make<VEKPixelImage>(1, 1).Get(), {}, {}); }},
-        {"first vector",
-         [](F& f) {
-             f.SetPattern(nullptr, {0, DBL_MIN}, {});
-         }},
-        {"second vector",
-         [](F& f) {
-             f.SetPattern(nullptr, {}, {1, 0});
-         }},
-        {"reference point", [](F& f) {
-             f.SetPatternRefPoint({0, 1});
-         }}};
+    const Named<F> changes[] = {{"style", [](F& f) { f.SetFillStyle(VEKPrtFillPattern); }},
+                                {"rule", [](F& f) { f.SetFillRule(VEKPrtFillNonZero); }},
+                                {"colour", [](F& f) { f.SetFillColourIndex(1); }},
+                                {"transparency", [](F& f) { f.SetFillColourTransparency(0); }},
+                                {"image",
+                                 [](F& f) {
+                                     f.SetPattern(Make<VEKPixelImage>(1, 1).Get(), {0, 0}, {0, 0});
+                                 }},
+                                {"first vector",
+                                 [](F& f) {
+                                     f.SetPattern(nullptr, {0, DBL_MIN}, {0, 0});
+                                 }},
+                                {"second vector",
+                                 [](F& f) {
+                                     f.SetPattern(nullptr, {0, 0}, {1, 0});
+                                 }},
+                                {"reference point", [](F& f) {
+                                     f.SetPatternRefPoint({0, 1});
+                                 }}};
     for (const auto& [name, change] : changes) {
         F fill, other, duplicate;
         EXPECT_EQ(fill == other, 1) << name;
@@ -608,9 +610,9 @@ TEST(Text, ComparesEveryFieldAndBorrowsItsFont) {
     using T = VEKPrtTextAttributes;
     const Named<T> changes[] = {
         {"font", [](T& t) { t.SetFont(&g_font); }},
-        {"weight", [](T& t) { t.SetWeight(VEKPrintTextWeightBold); }},
+        {"weight", [](T& t) { t.SetWeight(Value<VEKPrintTextAttribute>(27)); }},
         {"height", [](T& t) { t.SetHeight(std::nextafter(10.0, 11.0)); }},
-        {"anchor", [](T& t) { t.SetAnchor(VEKPrintTextAnchorTopLeft); }},
+        {"anchor", [](T& t) { t.SetAnchor(Value<VEKPrintTextAttribute>(35)); }},
         {"slant", [](T& t) { t.SetSlant(1.0F); }},
         {"direction", [](T& t) { t.SetDirection(-1.0F); }},
         {"spacing", [](T& t) { t.SetExtraSpacing(0.5); }},
@@ -626,7 +628,7 @@ TEST(Text, ComparesEveryFieldAndBorrowsItsFont) {
         EXPECT_EQ(T(other) == other, 1) << name << ", copied";
     }
     T set;
-    set.SetWeight(VEKPrintTextWeightBold);
+    set.SetWeight(Value<VEKPrintTextAttribute>(27));
     set.SetHeight(-1.0);
     set.SetSlant(2.0F);
     set.SetDirection(3.0F);
@@ -661,12 +663,12 @@ TEST(Text, ComparesEveryFieldAndBorrowsItsFont) {
 
 TEST(SmallRecords, CopyTheirField) {
     VEKPrtMarkerAttributes marker;
-    VEKPrintMarkerAttribute style = VEKPrintMarkerDisc;
+    VEKPrintMarkerAttribute style = Value<VEKPrintMarkerAttribute>(4);
     marker.GetMarkerStyle(style);
     EXPECT_EQ(style, 0);
-    marker.SetMarkerStyle(VEKPrintMarkerSquare);
+    marker.SetMarkerStyle(Value<VEKPrintMarkerAttribute>(5));
     VEKPrtMarkerAttributes(marker).GetMarkerStyle(style);
-    EXPECT_EQ(style, VEKPrintMarkerSquare);
+    EXPECT_EQ(style, Value<VEKPrintMarkerAttribute>(5));
 
     VEKPrtGroupAttributes group, other;
     group.SetLinkURI("https://example.org");

@@ -202,7 +202,7 @@ TEST(Shapes, StoreWhatTheyAreGiven) {
                  {[](S& s) { s.SetParameters(Point(1, 2), -3.0); }, [](S& s) { s.SetSize(8.0); },
                   [](S& s) {
                       VEKPrtMarkerAttributes marker;
-                      marker.SetMarkerStyle(VEKPrintMarkerDisc);
+                      marker.SetMarkerStyle(Value<VEKPrintMarkerAttribute>(4));
                       s.SetMarkerAttributes(marker);
                   },
                   [](S& s) { s.SetPoint(Point(9, 9)); }},
@@ -326,7 +326,7 @@ TYPED_TEST(DuplicateFill, ShapesLeaveAReferenceBehind) {
     const auto shape = Make<TypeParam>();
     {
         VEKPrtFillAttributes fill;
-        fill.SetPattern(image.Get(), VEKMathVector2D(), VEKMathVector2D());
+        fill.SetPattern(image.Get(), VEKMathVector2D(0, 0), VEKMathVector2D(0, 0));
         shape->SetFillAttributes(fill);
     }
     EXPECT_EQ(Count(image), 2UL);

@@ -48,6 +48,12 @@ public:
     static void Add(long iObjects, long iBlocks);
 };
 
+/// A value of one of the host's enumerations: tests know them by number, as the library does.
+template <class Enumeration>
+constexpr Enumeration Value(int iValue) {
+    return static_cast<Enumeration>(iValue);
+}
+
 template <class T>
 unsigned long Count(T* iObject) {
     iObject->AddRef();

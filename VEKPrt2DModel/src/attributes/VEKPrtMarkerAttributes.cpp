@@ -11,10 +11,7 @@ VEKPrtMarkerAttributes::VEKPrtMarkerAttributes(const VEKPrtMarkerAttributes& iOt
 
 VEKPrtMarkerAttributes::~VEKPrtMarkerAttributes() = default;
 
-VEKPrtMarkerAttributes& VEKPrtMarkerAttributes::operator=(const VEKPrtMarkerAttributes& iOther) {
-    if (&iOther != this) _style = iOther._style;
-    return *this;
-}
+VEKPrtMarkerAttributes& VEKPrtMarkerAttributes::operator=(const VEKPrtMarkerAttributes& iOther) = default;
 
 void VEKPrtMarkerAttributes::SetMarkerStyle(VEKPrintMarkerAttribute iStyle) { _style = iStyle; }
 void VEKPrtMarkerAttributes::GetMarkerStyle(VEKPrintMarkerAttribute& oStyle) { oStyle = _style; }

@@ -12,19 +12,7 @@ VEKPrtTextAttributes::VEKPrtTextAttributes(const VEKPrtTextAttributes& iOther) :
 // The font is borrowed: nothing is released.
 VEKPrtTextAttributes::~VEKPrtTextAttributes() = default;
 
-VEKPrtTextAttributes& VEKPrtTextAttributes::operator=(const VEKPrtTextAttributes& iOther) {
-    if (&iOther == this) return *this;
-    _font = iOther._font;
-    _weight = iOther._weight;
-    _height = iOther._height;
-    _anchor = iOther._anchor;
-    _slant = iOther._slant;
-    _direction = iOther._direction;
-    _extraSpacing = iOther._extraSpacing;
-    _expansion = iOther._expansion;
-    _writingMode = iOther._writingMode;
-    return *this;
-}
+VEKPrtTextAttributes& VEKPrtTextAttributes::operator=(const VEKPrtTextAttributes& iOther) = default;
 
 int VEKPrtTextAttributes::operator==(const VEKPrtTextAttributes& iOther) const {
     return _font == iOther._font && _weight == iOther._weight && _height == iOther._height &&

@@ -12,7 +12,7 @@ VEKPRT_IMPLEMENT_META_FAMILY(VEKPrtClosedFigureElt, 21, VEKPrtGraphicPrimitiveEl
 VEKPrtClosedFigureElt::VEKPrtClosedFigureElt() = default;
 
 VEKPrtClosedFigureElt::VEKPrtClosedFigureElt(const VEKPrtClosedFigureElt& iOther) : VEKPrtClosedFigureElt() {
-    if (&iOther != this) CopyOwn(iOther);
+    CopyOwn(iOther);
 }
 
 VEKPrtClosedFigureElt::~VEKPrtClosedFigureElt() { RegionList::Destroy(_regions); }

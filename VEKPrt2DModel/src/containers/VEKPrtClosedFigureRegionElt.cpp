@@ -9,7 +9,7 @@ VEKPrtClosedFigureRegionElt::VEKPrtClosedFigureRegionElt() = default;
 
 VEKPrtClosedFigureRegionElt::VEKPrtClosedFigureRegionElt(const VEKPrtClosedFigureRegionElt& iOther)
     : VEKPrtClosedFigureRegionElt() {
-    if (&iOther != this) CopyOwn(iOther);
+    CopyOwn(iOther);
 }
 
 VEKPrtClosedFigureRegionElt::~VEKPrtClosedFigureRegionElt() { vekprt::ChildList::Destroy(_children); }

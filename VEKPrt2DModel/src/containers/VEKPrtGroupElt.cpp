@@ -7,9 +7,7 @@ VEKPRT_IMPLEMENT_META_FAMILY(VEKPrtGroupElt, 14, VEKPrtGraphicPrimitiveElt)
 
 VEKPrtGroupElt::VEKPrtGroupElt() = default;
 
-VEKPrtGroupElt::VEKPrtGroupElt(const VEKPrtGroupElt& iOther) : VEKPrtGroupElt() {
-    if (&iOther != this) CopyOwn(iOther);
-}
+VEKPrtGroupElt::VEKPrtGroupElt(const VEKPrtGroupElt& iOther) : VEKPrtGroupElt() { CopyOwn(iOther); }
 
 VEKPrtGroupElt::~VEKPrtGroupElt() { vekprt::ChildList::Destroy(_children); }
 

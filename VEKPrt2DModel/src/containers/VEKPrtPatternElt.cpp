@@ -10,9 +10,7 @@ VEKPrtPatternElt::VEKPrtPatternElt() = default;
 VEKPrtPatternElt::VEKPrtPatternElt(const VEKMathPoint2D& iOrigin, double iWidth, double iHeight)
     : _origin(iOrigin), _width(iWidth), _height(iHeight) {}
 
-VEKPrtPatternElt::VEKPrtPatternElt(const VEKPrtPatternElt& iOther) : VEKPrtPatternElt() {
-    if (&iOther != this) CopyOwn(iOther);
-}
+VEKPrtPatternElt::VEKPrtPatternElt(const VEKPrtPatternElt& iOther) : VEKPrtPatternElt() { CopyOwn(iOther); }
 
 VEKPrtPatternElt::~VEKPrtPatternElt() { vekprt::ChildList::Destroy(_children); }
 

@@ -10,9 +10,7 @@ VEKPrtSymbolElt::VEKPrtSymbolElt() = default;
 VEKPrtSymbolElt::VEKPrtSymbolElt(const VEKMathPoint2D& iOrigin, double iWidth, double iHeight)
     : _origin(iOrigin), _width(iWidth), _height(iHeight) {}
 
-VEKPrtSymbolElt::VEKPrtSymbolElt(const VEKPrtSymbolElt& iOther) : VEKPrtSymbolElt() {
-    if (&iOther != this) CopyOwn(iOther);
-}
+VEKPrtSymbolElt::VEKPrtSymbolElt(const VEKPrtSymbolElt& iOther) : VEKPrtSymbolElt() { CopyOwn(iOther); }
 
 VEKPrtSymbolElt::~VEKPrtSymbolElt() { vekprt::ChildList::Destroy(_children); }
 

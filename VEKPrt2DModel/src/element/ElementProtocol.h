@@ -17,8 +17,11 @@ const char* IdOf(const VEKMetaClass* iClass);
 const char* NameOf(const VEKMetaClass* iClass);
 int IsAKindOf(const VEKMetaClass* iClass, const char* iClassName);
 
-/// Assignment of an element class, around its own CopyOwn: the base, then fields in order of declaration,
-/// then records.
+// The copy constructor of an element class starts from a default object, base included, so that a copy
+// carries no identity strings, and calls CopyOwn: fields in order of declaration, then records.  A copy of
+// itself is a default object, as there is nothing else in it to copy.
+
+/// Assignment of an element class, around its own CopyOwn: the base first.
 template <class Element>
 void Assign(Element& ioTarget, const Element& iSource, void (Element::*iCopyOwn)(const Element&)) {
     if (&iSource == &ioTarget) return;

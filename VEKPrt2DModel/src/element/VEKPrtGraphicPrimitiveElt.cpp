@@ -14,7 +14,7 @@ VEKPrtGraphicPrimitiveElt::VEKPrtGraphicPrimitiveElt() {
 
 VEKPrtGraphicPrimitiveElt::VEKPrtGraphicPrimitiveElt(const VEKPrtGraphicPrimitiveElt& iOther)
     : VEKPrtGraphicPrimitiveElt() {
-    if (&iOther != this) CopyOwn(iOther);
+    if (&iOther != this) CopyOwn(iOther); // a host's string need not survive its own assignment
 }
 
 VEKPrtGraphicPrimitiveElt::~VEKPrtGraphicPrimitiveElt() = default;

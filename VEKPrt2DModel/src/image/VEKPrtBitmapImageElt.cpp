@@ -14,7 +14,7 @@ VEKPrtBitmapImageElt::VEKPrtBitmapImageElt(const VEKMathPoint2D& iOrigin, double
 }
 
 VEKPrtBitmapImageElt::VEKPrtBitmapImageElt(const VEKPrtBitmapImageElt& iOther) : VEKPrtBitmapImageElt() {
-    if (&iOther != this) CopyOwn(iOther);
+    CopyOwn(iOther);
 }
 
 VEKPrtBitmapImageElt::~VEKPrtBitmapImageElt() { vekprt::HoldImage(_image, nullptr); }

@@ -12,9 +12,7 @@ VEKPrtImageElt::VEKPrtImageElt(const VEKMathPoint2D& iOrigin, double iWidth, dou
                                const VEKPrtImageUnits& iUnits, const VEKMath2x2Matrix& iMatrix)
     : _origin(iOrigin), _width(iWidth), _height(iHeight), _units(iUnits), _matrix(iMatrix) {}
 
-VEKPrtImageElt::VEKPrtImageElt(const VEKPrtImageElt& iOther) : VEKPrtImageElt() {
-    if (&iOther != this) CopyOwn(iOther);
-}
+VEKPrtImageElt::VEKPrtImageElt(const VEKPrtImageElt& iOther) : VEKPrtImageElt() { CopyOwn(iOther); }
 
 VEKPrtImageElt::~VEKPrtImageElt() {
     delete _colourTable;

@@ -20,7 +20,7 @@ VEKPrtDisjointPolylineElt::VEKPrtDisjointPolylineElt(const double* iPoints, int 
 
 VEKPrtDisjointPolylineElt::VEKPrtDisjointPolylineElt(const VEKPrtDisjointPolylineElt& iOther)
     : VEKPrtDisjointPolylineElt() {
-    if (&iOther != this) CopyOwn(iOther);
+    CopyOwn(iOther);
 }
 
 VEKPrtDisjointPolylineElt::~VEKPrtDisjointPolylineElt() { vekprt::DeleteArray(_points); }

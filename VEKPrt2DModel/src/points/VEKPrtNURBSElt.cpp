@@ -28,9 +28,7 @@ VEKPrtNURBSElt::VEKPrtNURBSElt(int iOrder, int iCount, const float* iControlPoin
     Construct(iControlPoints, iKnots, iWeights);
 }
 
-VEKPrtNURBSElt::VEKPrtNURBSElt(const VEKPrtNURBSElt& iOther) : VEKPrtNURBSElt() {
-    if (&iOther != this) CopyOwn(iOther);
-}
+VEKPrtNURBSElt::VEKPrtNURBSElt(const VEKPrtNURBSElt& iOther) : VEKPrtNURBSElt() { CopyOwn(iOther); }
 
 VEKPrtNURBSElt::~VEKPrtNURBSElt() { DeleteArrays(); }
 

@@ -18,7 +18,7 @@ VEKPrtPolyCubicBezierElt::VEKPrtPolyCubicBezierElt(const float* iPoints, int iCo
 
 VEKPrtPolyCubicBezierElt::VEKPrtPolyCubicBezierElt(const VEKPrtPolyCubicBezierElt& iOther)
     : VEKPrtPolyCubicBezierElt() {
-    if (&iOther != this) CopyOwn(iOther);
+    CopyOwn(iOther);
 }
 
 VEKPrtPolyCubicBezierElt::~VEKPrtPolyCubicBezierElt() { vekprt::DeleteArray(_points); }

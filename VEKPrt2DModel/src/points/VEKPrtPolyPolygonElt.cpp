@@ -23,7 +23,7 @@ VEKPrtPolyPolygonElt::VEKPrtPolyPolygonElt(const float* iPoints, const int* iCou
 }
 
 VEKPrtPolyPolygonElt::VEKPrtPolyPolygonElt(const VEKPrtPolyPolygonElt& iOther) : VEKPrtPolyPolygonElt() {
-    if (&iOther != this) CopyOwn(iOther);
+    CopyOwn(iOther);
 }
 
 VEKPrtPolyPolygonElt::~VEKPrtPolyPolygonElt() {

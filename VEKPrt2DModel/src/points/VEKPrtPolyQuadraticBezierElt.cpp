@@ -18,7 +18,7 @@ VEKPrtPolyQuadraticBezierElt::VEKPrtPolyQuadraticBezierElt(const float* iPoints,
 
 VEKPrtPolyQuadraticBezierElt::VEKPrtPolyQuadraticBezierElt(const VEKPrtPolyQuadraticBezierElt& iOther)
     : VEKPrtPolyQuadraticBezierElt() {
-    if (&iOther != this) CopyOwn(iOther);
+    CopyOwn(iOther);
 }
 
 VEKPrtPolyQuadraticBezierElt::~VEKPrtPolyQuadraticBezierElt() { vekprt::DeleteArray(_points); }

@@ -16,9 +16,7 @@ VEKPrtPolygonElt::VEKPrtPolygonElt(const double* iPoints, int iCount)
 VEKPrtPolygonElt::VEKPrtPolygonElt(const float* iPoints, int iCount)
     : _points(vekprt::NewPoints(iPoints, iCount)), _count(iCount) {}
 
-VEKPrtPolygonElt::VEKPrtPolygonElt(const VEKPrtPolygonElt& iOther) : VEKPrtPolygonElt() {
-    if (&iOther != this) CopyOwn(iOther);
-}
+VEKPrtPolygonElt::VEKPrtPolygonElt(const VEKPrtPolygonElt& iOther) : VEKPrtPolygonElt() { CopyOwn(iOther); }
 
 VEKPrtPolygonElt::~VEKPrtPolygonElt() { vekprt::DeleteArray(_points); }
 

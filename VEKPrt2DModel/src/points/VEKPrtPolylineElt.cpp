@@ -17,7 +17,7 @@ VEKPrtPolylineElt::VEKPrtPolylineElt(const float* iPoints, int iCount)
     : _points(vekprt::NewPoints(iPoints, iCount)), _count(iCount) {}
 
 VEKPrtPolylineElt::VEKPrtPolylineElt(const VEKPrtPolylineElt& iOther) : VEKPrtPolylineElt() {
-    if (&iOther != this) CopyOwn(iOther);
+    CopyOwn(iOther);
 }
 
 VEKPrtPolylineElt::~VEKPrtPolylineElt() { vekprt::DeleteArray(_points); }

@@ -9,9 +9,7 @@ VEKPrtCircleElt::VEKPrtCircleElt() = default;
 VEKPrtCircleElt::VEKPrtCircleElt(const VEKMathPoint2D& iCenter, double iRadius)
     : _center(iCenter), _radius(iRadius) {}
 
-VEKPrtCircleElt::VEKPrtCircleElt(const VEKPrtCircleElt& iOther) : VEKPrtCircleElt() {
-    if (&iOther != this) CopyOwn(iOther);
-}
+VEKPrtCircleElt::VEKPrtCircleElt(const VEKPrtCircleElt& iOther) : VEKPrtCircleElt() { CopyOwn(iOther); }
 
 VEKPrtCircleElt::~VEKPrtCircleElt() = default;
 

@@ -11,7 +11,7 @@ VEKPrtCircularArcElt::VEKPrtCircularArcElt(const VEKMathPoint2D& iCenter, double
     : _center(iCenter), _radius(iRadius), _startAngle(iStartAngle), _endAngle(iEndAngle) {}
 
 VEKPrtCircularArcElt::VEKPrtCircularArcElt(const VEKPrtCircularArcElt& iOther) : VEKPrtCircularArcElt() {
-    if (&iOther != this) CopyOwn(iOther);
+    CopyOwn(iOther);
 }
 
 VEKPrtCircularArcElt::~VEKPrtCircularArcElt() = default;

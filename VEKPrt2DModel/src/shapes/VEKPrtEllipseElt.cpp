@@ -10,9 +10,7 @@ VEKPrtEllipseElt::VEKPrtEllipseElt(const VEKMathPoint2D& iCenter, double iHorzRa
                                    float iSlope)
     : _center(iCenter), _horzRadius(iHorzRadius), _vertRadius(iVertRadius), _slope(iSlope) {}
 
-VEKPrtEllipseElt::VEKPrtEllipseElt(const VEKPrtEllipseElt& iOther) : VEKPrtEllipseElt() {
-    if (&iOther != this) CopyOwn(iOther);
-}
+VEKPrtEllipseElt::VEKPrtEllipseElt(const VEKPrtEllipseElt& iOther) : VEKPrtEllipseElt() { CopyOwn(iOther); }
 
 VEKPrtEllipseElt::~VEKPrtEllipseElt() = default;
 

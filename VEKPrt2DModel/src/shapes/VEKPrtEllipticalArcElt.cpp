@@ -14,7 +14,7 @@ VEKPrtEllipticalArcElt::VEKPrtEllipticalArcElt(const VEKMathPoint2D& iCenter, do
 
 VEKPrtEllipticalArcElt::VEKPrtEllipticalArcElt(const VEKPrtEllipticalArcElt& iOther)
     : VEKPrtEllipticalArcElt() {
-    if (&iOther != this) CopyOwn(iOther);
+    CopyOwn(iOther);
 }
 
 VEKPrtEllipticalArcElt::~VEKPrtEllipticalArcElt() = default;

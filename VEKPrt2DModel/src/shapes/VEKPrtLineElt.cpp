@@ -9,9 +9,7 @@ VEKPrtLineElt::VEKPrtLineElt() = default;
 VEKPrtLineElt::VEKPrtLineElt(const VEKMathPoint2D& iStart, const VEKMathPoint2D& iEnd)
     : _startPoint(iStart), _endPoint(iEnd) {}
 
-VEKPrtLineElt::VEKPrtLineElt(const VEKPrtLineElt& iOther) : VEKPrtLineElt() {
-    if (&iOther != this) CopyOwn(iOther);
-}
+VEKPrtLineElt::VEKPrtLineElt(const VEKPrtLineElt& iOther) : VEKPrtLineElt() { CopyOwn(iOther); }
 
 VEKPrtLineElt::~VEKPrtLineElt() = default;
 

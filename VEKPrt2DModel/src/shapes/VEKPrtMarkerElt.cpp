@@ -8,9 +8,7 @@ VEKPrtMarkerElt::VEKPrtMarkerElt() = default;
 
 VEKPrtMarkerElt::VEKPrtMarkerElt(const VEKMathPoint2D& iPoint, double iSize) : _point(iPoint), _size(iSize) {}
 
-VEKPrtMarkerElt::VEKPrtMarkerElt(const VEKPrtMarkerElt& iOther) : VEKPrtMarkerElt() {
-    if (&iOther != this) CopyOwn(iOther);
-}
+VEKPrtMarkerElt::VEKPrtMarkerElt(const VEKPrtMarkerElt& iOther) : VEKPrtMarkerElt() { CopyOwn(iOther); }
 
 VEKPrtMarkerElt::~VEKPrtMarkerElt() = default;
 

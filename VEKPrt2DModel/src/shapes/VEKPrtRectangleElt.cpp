@@ -10,7 +10,7 @@ VEKPrtRectangleElt::VEKPrtRectangleElt(const VEKMathPoint2D& iFirst, const VEKMa
     : _firstCorner(iFirst), _secondCorner(iSecond) {}
 
 VEKPrtRectangleElt::VEKPrtRectangleElt(const VEKPrtRectangleElt& iOther) : VEKPrtRectangleElt() {
-    if (&iOther != this) CopyOwn(iOther);
+    CopyOwn(iOther);
 }
 
 VEKPrtRectangleElt::~VEKPrtRectangleElt() = default;

@@ -14,7 +14,7 @@ VEKPrtTextElt::VEKPrtTextElt(const VEKMathPoint2D& iPosition, const VEKUnicodeSt
 // The text record comes before the draw style and the other records here, and between them in the assignment;
 // a host's or client's types see which is copied first.
 VEKPrtTextElt::VEKPrtTextElt(const VEKPrtTextElt& iOther) : VEKPrtTextElt() {
-    if (&iOther == this) return;
+    if (&iOther == this) return; // a host's string need not survive its own assignment
     _position = iOther._position;
     _text = iOther._text;
     _textAttributes = iOther._textAttributes;
