@@ -73,6 +73,7 @@ private:
         Value* array = nullptr;
         unsigned int count = 0;
     };
+    VEKPRT2DMODEL_LOCAL bool IsEmpty() const;
     template <class Value>
     VEKPRT2DMODEL_LOCAL int AddValue(VEKPrintTransformType iKind, Values<Value>& ioValues,
                                      const Value& iValue);

@@ -66,8 +66,26 @@ int VEKPrtTransformAttributes::Values<Value>::Append(const Value& iValue) {
 
 VEKPrtTransformAttributes::VEKPrtTransformAttributes() = default;
 VEKPrtTransformAttributes::VEKPrtTransformAttributes(const VEKPrtTransformAttributes& iOther) = default;
-VEKPrtTransformAttributes&
-VEKPrtTransformAttributes::operator=(const VEKPrtTransformAttributes& iOther) = default;
+
+// Most records are empty and replace an empty one, which is told at once.
+VEKPrtTransformAttributes& VEKPrtTransformAttributes::operator=(const VEKPrtTransformAttributes& iOther) {
+    if (IsEmpty() && iOther.IsEmpty()) return *this;
+    _kinds = iOther._kinds;
+    _matrices = iOther._matrices;
+    _scalesX = iOther._scalesX;
+    _scalesY = iOther._scalesY;
+    _rotations = iOther._rotations;
+    _skewsX = iOther._skewsX;
+    _skewsY = iOther._skewsY;
+    _translations = iOther._translations;
+    return *this;
+}
+
+// By the counts: where one is 0 there is no array either.
+bool VEKPrtTransformAttributes::IsEmpty() const {
+    return (_kinds.count | _matrices.count | _scalesX.count | _scalesY.count | _rotations.count |
+            _skewsX.count | _skewsY.count | _translations.count) == 0;
+}
 
 // In the order of declaration, where destructors of the members would run in reverse.
 VEKPrtTransformAttributes::~VEKPrtTransformAttributes() {
