@@ -80,6 +80,10 @@ TYPED_TEST(EveryContainer, PassesOverNullAndStartsAnewFromItself) {
     *assigned = *source;
     EXPECT_EQ(Ids(ListOf(*assigned)), "aa");
     WithSelfCopy<TypeParam>([](TypeParam& ioCopy) { EXPECT_EQ(Ids(ListOf(ioCopy)), "null"); });
+    ListOf(*copy)->Append(copy.Get());
+    copy->RemoveChild(copy.Get());
+    EXPECT_EQ(ListOf(*copy)->Size(), 3) << "its own member by another way: ignored";
+    ListOf(*copy)->RemovePosition(3);
 }
 
 TYPED_TEST(ContainerAssign, LeavesTheLastReference) {
@@ -289,13 +293,20 @@ TEST(ClosedFigure, DuplicatesThroughTheRegionsOwnSlot) {
     EXPECT_EQ(transform.GetScaleY(0, scale), 1);
 }
 
-TEST(Lists, CopyPointersOnly) {
+template <class List>
+class EveryList : public testing::Test {};
+using Lists = testing::Types<VEKListPtrVEKPrtGraphicPrimitiveElt, VEKListPtrVEKPrtImageElt,
+                             VEKListPtrVEKPrtClosedFigureRegionElt>;
+TYPED_TEST_SUITE(EveryList, Lists, );
+
+TYPED_TEST(EveryList, CopiesPointersOnly) {
     const auto a = Named("a");
-    VEKListPtrVEKPrtGraphicPrimitiveElt list(0);
+    TypeParam list(0);
     list.Append(a.Get());
-    VEKListPtrVEKPrtGraphicPrimitiveElt copy(list), assigned(4);
+    TypeParam copy(list), assigned(4);
     assigned = copy;
     assigned = *&assigned;
     EXPECT_EQ(Ids(&assigned), "a");
+    EXPECT_EQ(Ids(&copy), "a");
     EXPECT_EQ(Count(a), 1UL);
 }

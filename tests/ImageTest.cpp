@@ -20,7 +20,7 @@ int ColourAt(const VEKPrtColourTable& iTable, unsigned iIndex) {
     unsigned char red = 77, green = 77, blue = 77;
     const int status = iTable.GetColour(iIndex, red, green, blue);
     const int colour = red * 65536 + green * 256 + blue;
-    EXPECT_EQ(status == 1, colour != 0x4D4D4D) << "outputs are written on success only";
+    EXPECT_EQ(status, colour != 0x4D4D4D ? 1 : -1) << "outputs are written on success only";
     return status == 1 ? colour : -1;
 }
 

@@ -91,6 +91,10 @@ TYPED_TEST(EveryPointArray, ReplacesAsGiven) {
     const auto element = Make<TypeParam>();
     element->SetPoints(g_five, 5);
     ExpectPoints(*element, 5, Values(g_five, g_five + 10), "SetPoints rounds nothing");
+    ResetPeak();
+    const long blocks = LiveBlocks();
+    element->SetPoints(g_five, 5);
+    EXPECT_EQ(PeakBlocks(), blocks) << "the old array goes before the new one comes";
     double* own = nullptr;
     int count = 0;
     element->GetPoints(own, count);
@@ -198,6 +202,18 @@ TEST(PolyPolygon, HoldsPointsAndCounts) {
     auto style = static_cast<VEKPrtDrawStyle>(-1);
     P(g_five, counts, -1).GetDrawStyle(style);
     EXPECT_EQ(style, 1);
+}
+
+TEST(PolyPolygon, FreesBeforeItAllocates) {
+    const int counts[] = {2, 1};
+    const auto element = Make<VEKPrtPolyPolygonElt>(g_five, counts, 2);
+    const auto curve = Make<VEKPrtNURBSElt>(2, 2, g_five, g_five, 0.0F, 1.0F, g_five);
+    ResetPeak();
+    const long blocks = LiveBlocks();
+    element->SetPoints(g_five, counts, 2);
+    EXPECT_EQ(PeakBlocks(), blocks);
+    curve->SetParameters(2, 2, g_five, g_five, 0.0F, 1.0F, g_five);
+    EXPECT_EQ(PeakBlocks(), blocks) << "the curve";
 }
 
 TEST(PolyPolygon, CopiesWhatIsThere) {

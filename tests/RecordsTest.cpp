@@ -266,6 +266,26 @@ TEST(TransformFailure, LosesTheValuesOfOneKind) {
     EXPECT_EQ(ScaleXAt(transform, 3), 4.0);
 }
 
+TEST(TransformFailure, StartsAgainFromBlanks) {
+    const DemandedLeak leak(0, 2);
+    Transform transform;
+    transform.AddTranslation(VEKMathVector2D(5, 6));
+    transform.AddMatrix(VEKMath2x2Matrix(1, 2, 3, 4));
+    WithFault(0, [&] { transform.AddTranslation(VEKMathVector2D(7, 8)); });
+    WithFault(0, [&] { transform.AddMatrix(VEKMath2x2Matrix(5, 6, 7, 8)); });
+    Transform copy(transform);
+    transform.AddTranslation(VEKMathVector2D(9, 9));
+    transform.AddMatrix(VEKMath2x2Matrix(9, 9, 9, 9));
+    for (Transform* const each : {&transform, &copy}) {
+        VEKMathVector2D vector(1, 1);
+        VEKMath2x2Matrix matrix(9, 9, 9, 9);
+        EXPECT_EQ(each->GetTranslation(0, vector), 1);
+        EXPECT_EQ(each->GetMatrix(1, matrix), 1);
+        EXPECT_EQ(vector, VEKMathVector2D(0, 0));
+        EXPECT_EQ(matrix, VEKMath2x2Matrix());
+    }
+}
+
 TEST(TransformFailure, LosesTheListOfKinds) {
     const DemandedLeak leak(0, 1);
     Transform transform;

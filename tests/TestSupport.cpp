@@ -1,5 +1,6 @@
 #include "TestSupport.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 #include <new>
@@ -24,6 +25,7 @@
 namespace {
 
 long g_blocks = 0;
+long g_peak = 0;
 long g_allocations = 0;
 long g_demandedObjects = 0;
 long g_demandedBlocks = 0;
@@ -47,6 +49,7 @@ void* Allocate(std::size_t iSize) noexcept {
     ++g_allocations;
     void* const block = MustFail() ? nullptr : std::malloc(iSize ? iSize : 1);
     g_blocks += block ? 1 : 0;
+    g_peak = std::max(g_peak, g_blocks);
     return block;
 }
 
@@ -103,6 +106,8 @@ void operator delete(void* iBlock, const std::nothrow_t&) noexcept { Deallocate(
 void operator delete[](void* iBlock, const std::nothrow_t&) noexcept { Deallocate(iBlock); }
 
 long LiveBlocks() { return g_blocks; }
+long PeakBlocks() { return g_peak; }
+void ResetPeak() { g_peak = g_blocks; }
 long Allocations() { return g_allocations; }
 
 AllocationFaults::AllocationFaults(long iNth, bool iSticky) { g_faults = {true, iSticky, iNth, 0}; }

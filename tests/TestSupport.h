@@ -14,6 +14,9 @@
 
 /// Blocks that the process has from any form of operator new.
 long LiveBlocks();
+/// The most of them at a time since the test began or ResetPeak was called.
+long PeakBlocks();
+void ResetPeak();
 /// Requests made so far.
 long Allocations();
 

@@ -9,7 +9,6 @@ VEKPrtStrokeAttributes::VEKPrtStrokeAttributes()
 
 VEKPrtStrokeAttributes::VEKPrtStrokeAttributes(const VEKPrtStrokeAttributes& iOther)
     : VEKPrtStrokeAttributes() {
-    if (&iOther == this) return;
     ReplacePattern(iOther._pattern, iOther._patternLength);
     CopyPlainFields(iOther);
 }
@@ -17,9 +16,8 @@ VEKPrtStrokeAttributes::VEKPrtStrokeAttributes(const VEKPrtStrokeAttributes& iOt
 VEKPrtStrokeAttributes::~VEKPrtStrokeAttributes() { vekprt::DeleteArray(_pattern); }
 
 VEKPrtStrokeAttributes& VEKPrtStrokeAttributes::operator=(const VEKPrtStrokeAttributes& iOther) {
-    if (&iOther == this) return *this;
     // Where neither holds a pattern the length is not copied either, even if a failed allocation has left
-    // them with different ones (StrokeFailure.AssignmentKeepsTheLength).
+    // them with different ones (StrokeFailure.AssignmentKeepsTheLength).  Its own pattern is kept.
     if (_pattern != iOther._pattern) ReplacePattern(iOther._pattern, iOther._patternLength);
     CopyPlainFields(iOther);
     return *this;
