@@ -86,6 +86,9 @@ TEST(Registration, OfOneClassHappensOnce) {
     EXPECT_EQ(meta->IsAKindOf("VEKBaseUnknown"), 1);
     EXPECT_EQ(meta->IsAKindOf("TestThin"), 0);
     EXPECT_EQ(meta->IsAKindOf(nullptr), 0);
+    const auto* const loose =
+        fct_RetrieveMetaObject("Loose", VEKTypeImplementation, nullptr, nullptr, nullptr, 1);
+    EXPECT_STREQ(loose->GetId(), ".Loose");
     EXPECT_EQ(fct_RetrieveMetaObject(nullptr, VEKTypeImplementation, nullptr, "VEKnull", "Test", 1), nullptr);
 }
 
@@ -120,8 +123,14 @@ TEST(RawColl, DropsWhatItCannotHold) {
     EXPECT_EQ(other.Size(), 0);
     WithFault(0, [&] { EXPECT_EQ(VEKRawCollPV(full).Size(), 0); });
     other = full;
+    other = *&other;
     EXPECT_EQ(other[1], &value);
-    other = VEKRawCollPV(0);
+    VEKRawCollPV two(2);
+    two.Append(&other);
+    two.Append(&full);
+    other = two;
+    EXPECT_EQ(other[2], &full) << "it has grown";
+    other = VEKRawCollPV(-1);
     EXPECT_EQ(other.Size(), 0);
 }
 
@@ -138,6 +147,9 @@ TEST(UnicodeString, KeepsItsValueWhenMemoryIsOut) {
     VEKUnicodeString text("Ärmel");
     WithFault(0, [&] { text = "other"; });
     EXPECT_STREQ(text.ToUtf8(), "Ärmel");
+    const char* const kept = text.ToUtf8();
+    text = *&text;
+    EXPECT_EQ(text.ToUtf8(), kept) << "assigned from itself";
     text = text.ToUtf8() + 2;
     EXPECT_STREQ(text.ToUtf8(), "rmel") << "assigned from its own tail";
     const long before = LiveBlocks();
@@ -164,7 +176,14 @@ TEST(PixelImage, ClonesOrYieldsNull) {
     image->SetPixel(3, 1, 9, 9, 9);
     const auto copy = VEKRef<VEKPixelImage>::Adopt(image->Clone());
     EXPECT_EQ(copy->GetRow(1)[11], 4);
-    EXPECT_EQ(copy->GetRow(2), nullptr);
+    for (const int outside : {-1, 2}) {
+        image->SetPixel(outside * 2, 0, 9, 9, 9);
+        EXPECT_EQ(copy->GetRow(outside), nullptr) << outside;
+        EXPECT_EQ(std::as_const(*copy).GetRow(outside), nullptr) << outside;
+    }
+    EXPECT_EQ(std::as_const(*copy).GetRow(1), copy->GetRow(1));
+    const auto none = Make<VEKPixelImage>(0, 0);
+    EXPECT_EQ(VEKRef<VEKPixelImage>::Adopt(none->Clone())->GetWidth(), 0);
     for (const long nth : {0L, 1L})
         WithFault(nth, [&] { EXPECT_EQ(image->Clone(), nullptr); });
     EXPECT_EQ(Make<VEKPixelImage>(INT_MAX, INT_MAX)->GetWidth(), 0);
@@ -176,7 +195,11 @@ TEST(Registration, TriesAgainButNotForItsBase) {
     testing::GTEST_FLAG(death_test_style) = "threadsafe";
     const auto check = [] {
         AllocationFaults none(0, true);
-        bool right = !VEKPrtLineElt::MetaObject() && !VEKPrtLineElt::ClassName() && !VEKPrtLineElt::ClassId();
+        bool right = !VEKPrtLineElt::MetaObject() && !VEKPrtLineElt::ClassName() &&
+                     !VEKPrtLineElt::ClassId() && !VEKBaseUnknown::ClassName() && !VEKBaseUnknown::ClassId();
+        const VEKBaseUnknown thing;
+        right = right && thing.IsAKindOf("VEKBaseUnknown") == 0 && !thing.IsA() &&
+                VEKPrtLineElt().IsAKindOf("VEKPrtLineElt") == 0;
         none.Stop();
         // The root alone fails; what is registered without it stays so.
         AllocationFaults root(0, false);
