@@ -1,62 +1,20 @@
 // Prints, for each element class, its instance size and how often each operation allocates.
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <new>
 
 #include "VEKPixelImage.h"
-#include "VEKPrtBitmapImageElt.h"
-#include "VEKPrtCircleElt.h"
-#include "VEKPrtCircularArcElt.h"
-#include "VEKPrtClosedFigureElt.h"
-#include "VEKPrtClosedFigureRegionElt.h"
-#include "VEKPrtDisjointPolylineElt.h"
-#include "VEKPrtEllipseElt.h"
-#include "VEKPrtEllipticalArcElt.h"
-#include "VEKPrtGraphicPrimitiveElt.h"
-#include "VEKPrtGroupElt.h"
-#include "VEKPrtImageElt.h"
-#include "VEKPrtLineElt.h"
-#include "VEKPrtMarkerElt.h"
-#include "VEKPrtNURBSElt.h"
-#include "VEKPrtPatternElt.h"
-#include "VEKPrtPolyCubicBezierElt.h"
-#include "VEKPrtPolyPolygonElt.h"
-#include "VEKPrtPolyQuadraticBezierElt.h"
-#include "VEKPrtPolygonElt.h"
-#include "VEKPrtPolylineElt.h"
-#include "VEKPrtRectangleElt.h"
-#include "VEKPrtSymbolElt.h"
-#include "VEKPrtTextElt.h"
+#include "VEKPrtDump.h" // and with it all element classes
 #include "VEKRef.h"
 
 namespace {
 
 long g_allocations = 0;
 
-void* Counted(std::size_t iSize) noexcept {
-    ++g_allocations;
-    return std::malloc(iSize);
-}
-
-} // namespace
-
-void* operator new(std::size_t iSize, const std::nothrow_t&) noexcept { return Counted(iSize); }
-void* operator new[](std::size_t iSize, const std::nothrow_t&) noexcept { return Counted(iSize); }
-void* operator new(std::size_t iSize) {
-    void* const block = Counted(iSize);
-    if (!block) throw std::bad_alloc();
-    return block;
-}
-void* operator new[](std::size_t iSize) { return operator new(iSize); }
-void operator delete(void* iBlock) noexcept { std::free(iBlock); }
-void operator delete[](void* iBlock) noexcept { std::free(iBlock); }
-void operator delete(void* iBlock, std::size_t) noexcept { std::free(iBlock); }
-void operator delete[](void* iBlock, std::size_t) noexcept { std::free(iBlock); }
-
-namespace {
-
 // What makes an element worth copying: the arrays, children and images that it owns or shares.
 const double g_values[] = {0, 0, 1, 1, 2, 0, 3, 1, 4, 0, 5, 1};
+
 template <class Element>
 auto Fill(Element& ioElement, int) -> decltype(ioElement.SetPoints(g_values, 4)) {
     ioElement.SetPoints(g_values, 4);
@@ -64,7 +22,7 @@ auto Fill(Element& ioElement, int) -> decltype(ioElement.SetPoints(g_values, 4))
 template <class Element>
 auto Fill(Element& ioElement, int)
     -> decltype(ioElement.AddChild(static_cast<VEKPrtGraphicPrimitiveElt*>(nullptr))) {
-    ioElement.AddChild(VEKRef<VEKPrtLineElt>::Adopt(new VEKPrtLineElt).Get());
+    ioElement.AddChild(Make<VEKPrtLineElt>().Get());
 }
 template <class Element>
 void Fill(Element&, long) {}
@@ -76,11 +34,9 @@ void Fill(VEKPrtNURBSElt& ioCurve, int) {
     ioCurve.SetParameters(3, 4, g_values, g_values, 0.0F, 1.0F, g_values);
 }
 void Fill(VEKPrtTextElt& ioText, int) { ioText.SetText("text"); }
-void Fill(VEKPrtBitmapImageElt& ioBitmap, int) {
-    ioBitmap.SetPixelImage(VEKRef<VEKPixelImage>::Adopt(new VEKPixelImage(4, 4)).Get());
-}
+void Fill(VEKPrtBitmapImageElt& ioBitmap, int) { ioBitmap.SetPixelImage(Make<VEKPixelImage>(4, 4).Get()); }
 void Fill(VEKPrtClosedFigureElt& ioFigure, int) {
-    ioFigure.AddChild(VEKRef<VEKPrtClosedFigureRegionElt>::Adopt(new VEKPrtClosedFigureRegionElt).Get());
+    ioFigure.AddChild(Make<VEKPrtClosedFigureRegionElt>().Get());
 }
 
 template <class Operation>
@@ -92,11 +48,10 @@ long AllocationsOf(Operation iOperation) {
 
 template <class Element>
 void Report() {
-    using Ref = VEKRef<Element>;
-    const auto element = Ref::Adopt(new Element);
-    const long construct = AllocationsOf([] { Ref::Adopt(new Element); });
+    const auto element = Make<Element>();
+    const long construct = AllocationsOf([] { Make<Element>(); });
     Fill(*element, 0);
-    const long copy = AllocationsOf([&] { Ref::Adopt(new Element(*element)); });
+    const long copy = AllocationsOf([&] { Make<Element>(*element); });
     const long duplicate = AllocationsOf([&] {
         VEKPrtGraphicPrimitiveElt* made = nullptr;
         element->Duplicate(made);
@@ -114,19 +69,32 @@ void ReportAll() {
 
 } // namespace
 
-int main() {
+// All other forms of new and delete end in these.
+void* operator new(std::size_t iSize) {
+    ++g_allocations;
+    void* const block = std::malloc(iSize);
+    if (!block) throw std::bad_alloc();
+    return block;
+}
+void operator delete(void* iBlock) noexcept { std::free(iBlock); }
+void operator delete(void* iBlock, std::size_t) noexcept { std::free(iBlock); }
+
+int main(int argc, char** argv) {
+    if (argc > 1) {
+        std::puts("usage: footprint\nPrints what elements cost: bytes, and allocations by operation.");
+        return std::strcmp(argv[1], "--help") == 0 ? 0 : 2;
+    }
     ReportAll<VEKPrtLineElt, VEKPrtRectangleElt, VEKPrtCircleElt, VEKPrtCircularArcElt, VEKPrtEllipseElt,
               VEKPrtEllipticalArcElt, VEKPrtMarkerElt, VEKPrtTextElt, VEKPrtBitmapImageElt, VEKPrtPolylineElt,
               VEKPrtPolygonElt, VEKPrtDisjointPolylineElt, VEKPrtPolyCubicBezierElt,
               VEKPrtPolyQuadraticBezierElt, VEKPrtPolyPolygonElt, VEKPrtNURBSElt, VEKPrtGroupElt,
               VEKPrtPatternElt, VEKPrtSymbolElt, VEKPrtClosedFigureRegionElt, VEKPrtClosedFigureElt,
               VEKPrtImageElt>();
-
     constexpr int lines = 10000;
-    const auto group = VEKRef<VEKPrtGroupElt>::Adopt(new VEKPrtGroupElt);
+    const auto group = Make<VEKPrtGroupElt>();
     const long total = AllocationsOf([&] {
         for (int i = 0; i < lines; ++i)
-            group->AddChild(VEKRef<VEKPrtLineElt>::Adopt(new VEKPrtLineElt({0, 0}, {1, 1})).Get());
+            group->AddChild(Make<VEKPrtLineElt>(VEKMathPoint2D(0, 0), VEKMathPoint2D(1, 1)).Get());
     });
     std::printf(
         "\n%d lines built and added to a group: %ld allocations, %d for the lines, %ld for the list\n", lines,
