@@ -13,7 +13,6 @@
 #include "AtlasModel.h"
 #include "Elements.h"
 #include "FileSet.h"
-#include "SvgWriter.h"
 #include "TopoJson.h"
 #include "VEKListPtrVEKPrtGraphicPrimitiveElt.h"
 #include "VEKListPtrVEKPrtImageElt.h"
@@ -66,13 +65,6 @@ VEKPrtImageElt& PageAt(const VEKPrtModel& iModel, int iPage) {
     return *page;
 }
 
-std::string SvgOf(const VEKPrtModel& iModel, int iPage) {
-    std::ostringstream stream;
-    if (!WriteSvg(iModel, iPage, stream) || !stream)
-        throw AtlasError("page " + std::to_string(iPage) + " cannot be written as SVG");
-    return stream.str();
-}
-
 /// A model with a duplicate of one page, which shares nothing with that page but its font.
 VEKRef<VEKPrtModel> ModelWithDuplicate(VEKPrtImageElt& ioPage) {
     VEKPrtGraphicPrimitiveElt* copy = nullptr;
@@ -89,14 +81,15 @@ void Run(const std::string& iInput, const std::string& iDirectory) {
     const Atlas atlas(ReadInput(iInput));
     const VEKRef<VEKPrtModel> second = ModelWithDuplicate(PageAt(atlas.Model(), kDuplicatedPage));
 
-    FileSet files(iDirectory);
+    FileSet files;
     std::ostringstream report;
     int total = 0;
     int page = 0;
     const auto add = [&](const VEKPrtModel& iModel, int iPage, const std::string& iName,
                          const char* iRemark) {
         const int count = CountElements(PageAt(iModel, iPage));
-        const std::filesystem::path path = files.Add(iName + ".svg", SvgOf(iModel, iPage));
+        const std::filesystem::path path = std::filesystem::path(iDirectory) / (iName + ".svg");
+        files.AddSvg(path, iModel, iPage);
         report << count << " elements  " << path.string() << iRemark << '\n';
         total += count;
     };
@@ -105,6 +98,11 @@ void Run(const std::string& iInput, const std::string& iDirectory) {
         if (page == kDuplicatedPage)
             add(*second, 1, name + "-duplicate", "  (a duplicate of the page above)");
     }
+    std::error_code error;
+    std::filesystem::create_directories(iDirectory, error);
+    // Some libraries call it an error that the directory is there already under another spelling.
+    if (!std::filesystem::is_directory(iDirectory))
+        throw AtlasError("cannot make directory " + iDirectory + ": " + error.message());
     files.Commit();
     std::cout << report.str() << total << " elements in all\n" << std::flush;
     if (!std::cout) throw AtlasError("cannot write the list of pages");

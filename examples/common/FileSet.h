@@ -6,32 +6,36 @@
 #include <string>
 #include <vector>
 
-/// Files of a directory, written beside their targets and then renamed.
+class VEKPrtModel;
+
+/// Files that are written beside their targets and then renamed.
 ///
-/// Until Commit has written the last of them, no target is touched.
+/// Until Commit has written the last of them, no target is touched.  A link stays, and what it leads to is
+/// written.  A character device or a pipe is written as it is; anything else that is no regular file is
+/// refused.  Directories are not made.
 class FileSet {
 public:
-    explicit FileSet(std::filesystem::path iDirectory) : _directory(std::move(iDirectory)) {}
+    FileSet() = default;
     FileSet(const FileSet&) = delete;
     FileSet& operator=(const FileSet&) = delete;
     /// Removes what was written but not renamed.
     ~FileSet();
 
-    /// Returns the path that the file will have.
-    std::filesystem::path Add(const std::string& iName, std::string iContent);
+    /// Adds the page at position \p iPage (from 1) as SVG.  Throws std::runtime_error when it cannot be
+    /// drawn.
+    void AddSvg(const std::filesystem::path& iPath, const VEKPrtModel& iModel, int iPage);
 
-    /// Makes the directory if it is missing.  Throws std::runtime_error when a file cannot be written.
+    /// Throws std::runtime_error when a file cannot be written.
     void Commit();
 
 private:
     struct File {
-        std::filesystem::path target;
-        std::filesystem::path temporary;
+        std::filesystem::path path; // as it was given
         std::string content;
-        bool written;
+        std::filesystem::path target;    // where the links of the path lead
+        std::filesystem::path temporary; // empty when there is none
     };
 
-    std::filesystem::path _directory;
     std::vector<File> _files;
 };
 

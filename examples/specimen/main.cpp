@@ -1,27 +1,26 @@
-// Plots the specimen sheet: specimen OUTPUT.svg
+// Plots the specimen sheet.
+#include <cstring>
 #include <exception>
-#include <filesystem>
 #include <iostream>
-#include <sstream>
 
 #include "FileSet.h"
 #include "Specimen.h"
-#include "SvgWriter.h"
 
 int main(int argc, char** argv) {
-    if (argc != 2) {
-        std::cerr << "usage: specimen OUTPUT.svg\n";
-        return 2;
+    const bool help = argc == 2 && std::strcmp(argv[1], "--help") == 0;
+    if (help || argc != 2 || argv[1][0] == '-') {
+        (help ? std::cout : std::cerr)
+            << "usage: specimen OUTPUT.svg\n"
+               "Plots the specimen sheet.  A file is replaced when the sheet is complete, the one that a "
+               "link\n"
+               "leads to likewise; a device such as /dev/stdout, or a pipe, is written to.\n";
+        return help ? 0 : 2;
     }
     try {
         const Specimen specimen = BuildSpecimen();
-        std::ostringstream svg;
-        WriteSvg(*specimen.model, 1, svg);
-        const std::filesystem::path output = std::filesystem::absolute(argv[1]);
-        FileSet files(output.parent_path());
-        files.Add(output.filename().string(), svg.str());
+        FileSet files;
+        files.AddSvg(argv[1], *specimen.model, 1);
         files.Commit();
-        std::cout << "specimen: " << argv[1] << '\n';
         return 0;
     } catch (const std::exception& error) {
         std::cerr << "specimen: " << error.what() << '\n';
