@@ -30,7 +30,7 @@ require() {
     fi
 }
 
-build_packages="g++ cmake ninja-build pkg-config libpng-dev nlohmann-json3-dev libgtest-dev libxml2-dev"
+build_packages="g++ cmake ninja-build pkg-config libpng-dev nlohmann-json3-dev libcli11-dev libgtest-dev libxml2-dev"
 picture_packages="librsvg2-bin libxml2-utils fonts-dejavu-core binutils"
 
 # build PRESET: configures and builds it, quietly unless it fails.

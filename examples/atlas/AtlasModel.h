@@ -3,7 +3,6 @@
 #define AtlasModel_H
 
 #include <string>
-#include <vector>
 
 #include "TopoJson.h"
 #include "VEKFont.h"
@@ -16,21 +15,24 @@
 /// duplicate made of a page have been plotted.
 class Atlas {
 public:
-    /// One page per map: the world first, then its regions.
-    explicit Atlas(const Topology& iTopology);
+    /// The world and those of its regions that show something; or, for countries that lie close together, one
+    /// page that is fitted to them.  Its title is the name of the only country, or else \p iTitle.  It may
+    /// leave out what lies far from the largest part of its country.
+    ///
+    /// \p iCredit stands at the foot of each page.  Throws std::runtime_error when it is too long for that,
+    /// or the outlines for all the pages.
+    explicit Atlas(const Topology& iTopology, const std::string& iTitle = "Map",
+                   const std::string& iCredit = {});
     Atlas(const Atlas&) = delete;
     Atlas& operator=(const Atlas&) = delete;
 
+    /// The identifier of a page is what links call its file, without extension.
     const VEKPrtModel& Model() const { return *_model; }
-
-    /// A file name without extension for each page of the model, in order.
-    const std::vector<std::string>& PageNames() const { return _pageNames; }
 
 private:
     VEKFont _titleFont;
     VEKFont _labelFont;
     VEKRef<VEKPrtModel> _model;
-    std::vector<std::string> _pageNames;
 };
 
 #endif

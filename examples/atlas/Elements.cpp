@@ -4,105 +4,94 @@
 
 namespace {
 
-/// Page units are millimetres: more than micrometres would only lengthen the files made of a page.
+// Page units are millimetres: more than micrometres would only lengthen the files made of a page.
 double Rounded(double iCoordinate) { return std::round(iCoordinate * 1000.0) / 1000.0; }
 
-std::vector<double> Coordinates(const Path& iPath) {
-    std::vector<double> coordinates;
-    coordinates.reserve(2 * iPath.size());
-    for (const Point& point : iPath) {
-        coordinates.push_back(Rounded(point.x));
-        coordinates.push_back(Rounded(point.y));
+VEKMathPoint2D PointOf(const Position& iPosition) { return {Rounded(iPosition.x), Rounded(iPosition.y)}; }
+
+void Append(const Path& iPath, std::vector<double>& ioCoordinates) {
+    for (const Position& position : iPath) {
+        ioCoordinates.push_back(Rounded(position.x));
+        ioCoordinates.push_back(Rounded(position.y));
     }
-    return coordinates;
 }
 
-VEKMathPoint2D PointOf(const Point& iPoint) { return {Rounded(iPoint.x), Rounded(iPoint.y)}; }
-
-VEKPrtFillAttributes FillOf(unsigned int iColour) {
+template <class Element>
+void SetFill(const VEKRef<Element>& ioElement, unsigned iColour) {
     VEKPrtFillAttributes fill;
     fill.SetFillStyle(VEKPrtFillSolid);
     // Holes are holes whichever way round they run.
     fill.SetFillRule(VEKPrtFillEvenOdd);
     fill.SetFillColourIndex(iColour);
-    return fill;
+    ioElement->SetFillAttributes(fill);
+    ioElement->SetDrawStyle(VEKPrtDrawInterior);
 }
 
-VEKPrtStrokeAttributes StrokeOf(const Pen& iPen) {
+// Round ends make arcs that meet at a point look like one line.
+template <class Element>
+void SetStroke(const VEKRef<Element>& ioElement, const Pen& iPen, bool iIsRound = false) {
     VEKPrtStrokeAttributes stroke;
     stroke.SetStrokeColourIndex(iPen.colour);
-    stroke.SetStrokeWidth(iPen.width);
-    return stroke;
+    stroke.SetStrokeWidth(Rounded(iPen.width));
+    if (iIsRound) stroke.SetStrokeCap(VEKPrintLineCapRound);
+    if (iIsRound) stroke.SetStrokeJoin(VEKPrintLineJoinRound);
+    ioElement->SetStrokeAttributes(stroke);
 }
 
-/// Round ends make arcs that meet at a point look like one line.
-VEKPrtStrokeAttributes RoundStrokeOf(const Pen& iPen) {
-    VEKPrtStrokeAttributes stroke = StrokeOf(iPen);
-    stroke.SetStrokeCap(VEKPrintLineCapRound);
-    stroke.SetStrokeJoin(VEKPrintLineJoinRound);
-    return stroke;
+VEKRef<VEKPrtRectangleElt> MakeBox(const Box& iBox) {
+    return Make<VEKPrtRectangleElt>(PointOf({iBox.minX, iBox.minY}), PointOf({iBox.maxX, iBox.maxY}));
 }
 
 } // namespace
 
-VEKRef<VEKPrtPolyPolygonElt> MakeArea(const std::vector<Path>& iRings, unsigned int iColour) {
+VEKRef<VEKPrtPolyPolygonElt> MakeArea(const std::vector<Path>& iRings, unsigned iColour) {
     std::vector<double> coordinates;
     std::vector<int> counts;
     for (const Path& ring : iRings) {
-        const std::vector<double> part = Coordinates(ring);
-        coordinates.insert(coordinates.end(), part.begin(), part.end());
+        Append(ring, coordinates);
         counts.push_back(static_cast<int>(ring.size()));
     }
     auto area =
         Make<VEKPrtPolyPolygonElt>(coordinates.data(), counts.data(), static_cast<int>(counts.size()));
-    area->SetDrawStyle(VEKPrtDrawInterior);
-    area->SetFillAttributes(FillOf(iColour));
+    SetFill(area, iColour);
     return area;
 }
 
 VEKRef<VEKPrtPolylineElt> MakeLine(const Path& iLine, const Pen& iPen) {
-    const std::vector<double> coordinates = Coordinates(iLine);
+    std::vector<double> coordinates;
+    Append(iLine, coordinates);
     auto line = Make<VEKPrtPolylineElt>(coordinates.data(), static_cast<int>(iLine.size()));
-    line->SetStrokeAttributes(RoundStrokeOf(iPen));
+    SetStroke(line, iPen, true);
     return line;
 }
 
-VEKRef<VEKPrtPolylineElt> MakeClosedLine(const Path& iRing, const Pen& iPen) {
-    Path line = iRing;
-    if (!iRing.empty()) line.push_back(iRing.front());
-    return MakeLine(line, iPen);
-}
-
-VEKRef<VEKPrtLineElt> MakeSegment(const Point& iFrom, const Point& iTo, const Pen& iPen) {
+VEKRef<VEKPrtLineElt> MakeSegment(const Position& iFrom, const Position& iTo, const Pen& iPen) {
     auto segment = Make<VEKPrtLineElt>(PointOf(iFrom), PointOf(iTo));
-    segment->SetStrokeAttributes(StrokeOf(iPen));
+    SetStroke(segment, iPen);
     return segment;
 }
 
-VEKRef<VEKPrtRectangleElt> MakeFilledBox(const Box& iBox, unsigned int iColour) {
-    auto box = Make<VEKPrtRectangleElt>(PointOf({iBox.minX, iBox.minY}), PointOf({iBox.maxX, iBox.maxY}));
-    box->SetDrawStyle(VEKPrtDrawInterior);
-    box->SetFillAttributes(FillOf(iColour));
+VEKRef<VEKPrtRectangleElt> MakeFilledBox(const Box& iBox, unsigned iColour) {
+    auto box = MakeBox(iBox);
+    SetFill(box, iColour);
     return box;
 }
 
 VEKRef<VEKPrtRectangleElt> MakeOutlinedBox(const Box& iBox, const Pen& iPen) {
-    auto box = Make<VEKPrtRectangleElt>(PointOf({iBox.minX, iBox.minY}), PointOf({iBox.maxX, iBox.maxY}));
+    auto box = MakeBox(iBox);
     box->SetDrawStyle(VEKPrtDrawOutline);
-    box->SetStrokeAttributes(StrokeOf(iPen));
+    SetStroke(box, iPen);
     return box;
 }
 
-VEKRef<VEKPrtTextElt> MakeText(const Point& iPosition, const std::string& iText, const TextStyle& iStyle) {
+VEKRef<VEKPrtTextElt> MakeText(const Position& iPosition, const std::string& iText, const TextStyle& iStyle) {
     auto text = Make<VEKPrtTextElt>(PointOf(iPosition), VEKUnicodeString(iText.c_str()));
     VEKPrtTextAttributes attributes;
     attributes.SetFont(iStyle.font);
     attributes.SetHeight(Rounded(iStyle.size));
     attributes.SetAnchor(iStyle.anchor);
-    attributes.SetWeight(iStyle.weight);
     attributes.SetExtraSpacing(iStyle.spacing);
     text->SetTextAttributes(attributes);
-    text->SetDrawStyle(VEKPrtDrawInterior);
-    text->SetFillAttributes(FillOf(iStyle.colour));
+    SetFill(text, iStyle.colour);
     return text;
 }

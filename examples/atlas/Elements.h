@@ -18,25 +18,23 @@ class VEKFont;
 
 /// A line by the index of its colour in the page's table and its width in page units.
 struct Pen {
-    unsigned int colour = 0;
+    unsigned colour = 0;
     double width = 0.0;
 };
 
 struct TextStyle {
     VEKFont* font = nullptr;
     double size = 0.0;
-    unsigned int colour = 0;
+    unsigned colour = 0;
     VEKPrintTextAttribute anchor = VEKPrintTextAnchorBaselineLeft;
-    VEKPrintTextAttribute weight = VEKPrintTextWeightRegular;
     double spacing = 0.0;
 };
 
-VEKRef<VEKPrtPolyPolygonElt> MakeArea(const std::vector<Path>& iRings, unsigned int iColour);
+VEKRef<VEKPrtPolyPolygonElt> MakeArea(const std::vector<Path>& iRings, unsigned iColour);
 VEKRef<VEKPrtPolylineElt> MakeLine(const Path& iLine, const Pen& iPen);
-VEKRef<VEKPrtPolylineElt> MakeClosedLine(const Path& iRing, const Pen& iPen);
-VEKRef<VEKPrtLineElt> MakeSegment(const Point& iFrom, const Point& iTo, const Pen& iPen);
-VEKRef<VEKPrtRectangleElt> MakeFilledBox(const Box& iBox, unsigned int iColour);
+VEKRef<VEKPrtLineElt> MakeSegment(const Position& iFrom, const Position& iTo, const Pen& iPen);
+VEKRef<VEKPrtRectangleElt> MakeFilledBox(const Box& iBox, unsigned iColour);
 VEKRef<VEKPrtRectangleElt> MakeOutlinedBox(const Box& iBox, const Pen& iPen);
-VEKRef<VEKPrtTextElt> MakeText(const Point& iPosition, const std::string& iText, const TextStyle& iStyle);
+VEKRef<VEKPrtTextElt> MakeText(const Position& iPosition, const std::string& iText, const TextStyle& iStyle);
 
 #endif

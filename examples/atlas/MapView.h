@@ -14,8 +14,8 @@
 /// longitudes and latitudes that the frame needs, projected, and cut to the frame.
 class MapView {
 public:
-    /// \p iProjection is borrowed; \p iFrame is in page millimetres, \p iScale the 1 in so many.
-    MapView(const Projection& iProjection, double iScale, const Box& iFrame);
+    /// The allowance is borrowed; \p iFrame is in page millimetres, \p iScale the 1 in so many.
+    MapView(const Projection& iProjection, double iScale, const Box& iFrame, Allowance& ioAllowance);
 
     /// What the frame shows of a ring; nothing when it is too small to be seen.
     std::vector<Path> Rings(const Path& iRing) const;
@@ -24,25 +24,26 @@ public:
     /// round a pole.
     std::vector<Path> Lines(const Path& iLine) const;
 
-    /// What the frame shows of a line within the window's longitudes: taken as it is, however long its edges.
-    std::vector<Path> GridLines(const Path& iLine) const;
+    /// Adds what the frame shows of a line within the window's longitudes: taken as it is, however long its
+    /// edges.
+    void AddLine(const Path& iLine, std::vector<Path>& ioShown) const;
 
     /// The rim of the map: of the globe on a world map, otherwise of the frame.
     const Path& Outline() const { return _outline; }
     const Box& Frame() const { return _frame; }
     const Box& Window() const { return _window; }
-    bool Covers(const Box& iBox) const;
 
     /// At the centre, along its parallel; a kilometre on the ground.
     double MillimetresPerKilometre() const { return _projection.ScaleAtCentre() * _millimetres; }
+    const char* ProjectionName() const { return _projection.Name(); }
 
 private:
-    Point ToPage(const Point& iLonLat) const;
-    Path ToPage(const Path& iPath) const;
-    void CentreOnWindow(Path& ioPath) const;
-    void AddLine(const Path& iLine, std::vector<Path>& ioShown) const;
+    Path ToPage(const Path& iPath, bool iClosed) const;
+    /// Copies of the path, turned by whole turns to where the window may show them.
+    std::vector<Path> InWindow(const Path& iPath) const;
 
-    const Projection& _projection;
+    const Projection _projection;
+    Allowance& _allowance;
     const double _millimetres; // on the page, per projected kilometre
     const Box _frame;
     Box _window;

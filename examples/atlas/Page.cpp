@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <cctype>
 #include <cmath>
-#include <new>
-#include <set>
+#include <map>
+#include <memory>
+#include <sstream>
+#include <stdexcept>
 
 #include "Elements.h"
 #include "Labels.h"
@@ -12,26 +14,19 @@
 
 namespace {
 
-struct Rgb {
-    unsigned char red;
-    unsigned char green;
-    unsigned char blue;
-};
+// The colours of a page, as they stand in its table; those of the countries come last.
+enum Colour : unsigned { paper, ocean, graticule, coast, border, ink, softInk, firstLand };
+const unsigned char g_colours[][3] = {{250, 246, 236}, {203, 221, 226}, {170, 196, 205}, {84, 116, 128},
+                                      {255, 252, 245}, {58, 56, 54},    {120, 113, 105}, {231, 214, 165},
+                                      {197, 208, 164}, {229, 190, 160}, {207, 190, 205}, {174, 199, 180},
+                                      {238, 210, 196}};
+static_assert(std::size(g_colours) == firstLand + landColours);
 
-constexpr Rgb kPaper{250, 246, 236};
-constexpr Rgb kOcean{203, 221, 226};
-constexpr Rgb kGraticule{170, 196, 205};
-constexpr Rgb kCoast{84, 116, 128};
-constexpr Rgb kBorder{255, 252, 245};
-constexpr Rgb kInk{58, 56, 54};
-constexpr Rgb kSoftInk{120, 113, 105};
-constexpr Rgb kLand[] = {{231, 214, 165}, {197, 208, 164}, {229, 190, 160},
-                         {207, 190, 205}, {174, 199, 180}, {238, 210, 196}};
+// Millimetres.
+constexpr double neatlineGap = 1.8; // between the two lines of the frame
+constexpr double smallestText = 1.8;
 
-/// Between the two lines of the frame.
-constexpr double kNeatlineGap = 1.8;
-
-/// "1 : 90 000 000"
+// "1 : 90 000 000"
 std::string ScaleText(double iScale) {
     std::string digits = std::to_string(std::llround(iScale));
     for (std::size_t end = digits.size(); end > 3; end -= 3)
@@ -39,121 +34,78 @@ std::string ScaleText(double iScale) {
     return "1 : " + digits;
 }
 
-/// Identifiers made of the countries' own, each once.
-class Identifiers {
-public:
-    std::string For(const Country& iCountry) {
-        if (iCountry.id.empty()) return {};
-        std::string id = "country-" + iCountry.id;
-        std::replace_if(
-            id.begin(), id.end(), [](unsigned char c) { return !std::isalnum(c) && c != '-'; }, '-');
-        std::string name = id;
-        for (int count = 2; !_taken.insert(name).second; ++count)
-            name = id + "-" + std::to_string(count);
-        return name;
-    }
-
-private:
-    std::set<std::string> _taken;
-};
-
-std::unique_ptr<Projection> ProjectionFor(const PageLayout& iLayout) {
-    if (iLayout.isWorld) return std::make_unique<EqualEarth>(iLayout.centre.x);
-    return std::make_unique<LambertAzimuthal>(iLayout.centre);
-}
-
-/// Maps of regions fill their frame and leave room above and below it for title and scale bar; that of the
-/// world is so much wider than high that it has the room inside.
-Box FrameOf(const PageLayout& iLayout) {
-    const Sheet& sheet = iLayout.sheet;
-    const double side = 14.0 * sheet.textScale;
-    const double top = iLayout.isWorld ? side : 25.0 * sheet.textScale;
-    const double bottom = iLayout.isWorld ? side : 22.0 * sheet.textScale;
-    return {side, bottom, sheet.width - side, sheet.height - top};
+// The size at which the text is as wide as there is room, at most iLargest; 0 when it is then too small.
+double SizeFor(const std::string& iText, double iRoom, double iLargest) {
+    const double size = std::min(iLargest, iRoom / std::max(TextWidth(iText), 1.0));
+    return size < smallestText ? 0.0 : size;
 }
 
 } // namespace
 
-std::size_t CountLandColours() { return std::size(kLand); }
-
-PageBuilder::PageBuilder(const PageLayout& iLayout, const Topology& iTopology, VEKFont& ioTitleFont,
-                         VEKFont& ioLabelFont)
-    : _layout(iLayout), _topology(iTopology), _titleFont(ioTitleFont), _labelFont(ioLabelFont),
-      _projection(ProjectionFor(iLayout)), _view(*_projection, iLayout.scale, FrameOf(iLayout)),
-      _page(Make<VEKPrtImageElt>(VEKMathPoint2D(), iLayout.sheet.width, iLayout.sheet.height,
-                                 VEKPrtImageMillimetre, VEKMath2x2Matrix())) {
-    for (const Country& country : iTopology.countries)
-        _shown.push_back(Show(country));
+// Maps of regions fill their frame and leave room above and below it for title and scale bar; that of the
+// world is so much wider than high that it has the room inside.
+Box PageLayout::Frame() const {
+    const double side = 14.0 * format.textScale;
+    const double top = isWorld ? side : 25.0 * format.textScale;
+    const double bottom = isWorld ? side : 22.0 * format.textScale;
+    return {side, bottom, format.width - side, format.height - top};
 }
 
-PageBuilder::Shown PageBuilder::Show(const Country& iCountry) const {
-    Shown shown;
-    for (const std::vector<Path>& polygon : iCountry.polygons) {
-        std::vector<Path> rings;
-        double area = 0.0;
-        for (std::size_t ring = 0; ring < polygon.size(); ++ring) {
-            for (Path& piece : _view.Rings(polygon[ring])) {
-                area += ring == 0 ? AreaOf(piece) : -AreaOf(piece);
-                rings.push_back(std::move(piece));
+double RoundedDown(double iValue) {
+    const double power = std::pow(10.0, std::floor(std::log10(iValue)));
+    const double digit = iValue / power;
+    return (digit < 2.0 ? 1.0 : digit < 5.0 ? 2.0 : 5.0) * power;
+}
+
+PageBuilder::PageBuilder(const PageLayout& iLayout, AtlasParts& ioParts)
+    : _layout(iLayout), _parts(ioParts),
+      _view({iLayout.centre, iLayout.isWorld}, iLayout.scale, iLayout.Frame(), ioParts.allowance),
+      _page(Make<VEKPrtImageElt>(VEKMathPoint2D(), iLayout.format.width, iLayout.format.height,
+                                 VEKPrtImageMillimetre, VEKMath2x2Matrix())) {
+    for (const Country& country : _parts.topology.countries) {
+        Shown shown;
+        for (const std::vector<Path>& polygon : country.polygons) {
+            double area = 0.0;
+            for (std::size_t ring = 0; ring < polygon.size(); ++ring) {
+                for (Path& piece : _view.Rings(polygon[ring])) {
+                    area += ring == 0 ? AreaOf(piece) : -AreaOf(piece);
+                    shown.rings.push_back(std::move(piece));
+                }
             }
+            // Round a pole the outline may be the smaller of the two, closed by way of the pole as both are.
+            shown.area += std::abs(area);
         }
-        // Round a pole the outline may be the smaller of the two, closed by way of the pole as both are.
-        area = std::abs(area);
-        shown.rings.insert(shown.rings.end(), rings.begin(), rings.end());
-        if (area > shown.area) {
-            shown.area = area;
-            shown.largest = std::move(rings);
-        }
+        _shown.push_back(std::move(shown));
     }
-    return shown;
 }
 
 double PageBuilder::ShownOffset(std::size_t iCountry) const {
-    Path points;
-    for (const Path& ring : _shown[iCountry].largest)
-        points.insert(points.end(), ring.begin(), ring.end());
-    const Box frame = FrameOf(_layout);
-    const Point centre = BoundsOf(points).Centre();
+    const Box& frame = _view.Frame();
+    const Position centre = BoundsOf(_shown[iCountry].rings).Centre();
     return std::hypot((centre.x - frame.Centre().x) / frame.Width(),
                       (centre.y - frame.Centre().y) / frame.Height());
 }
 
 VEKRef<VEKPrtImageElt> PageBuilder::Build(const std::vector<std::size_t>& iColours,
-                                          const std::vector<const char*>& iLinks) {
-    _page->SetID(_layout.file);
-    _page->SetTitle(_layout.title);
-    MakeColours();
-    _page->AddChild(MakeFilledBox({0.0, 0.0, _layout.sheet.width, _layout.sheet.height}, _paper).Get());
-    _page->AddChild(MakeArea({_view.Outline()}, _ocean).Get());
+                                          const std::vector<std::string>& iLinks) {
+    _page->SetID(_layout.file.c_str());
+    _page->SetTitle(_layout.title.c_str());
+    auto table = std::make_unique<VEKPrtColourTable>();
+    for (const auto& colour : g_colours) {
+        unsigned index = 0;
+        if (table->AddColour(colour[0], colour[1], colour[2], index) != 1) throw std::bad_alloc();
+    }
+    _page->SetColourTable(table.release());
+    _page->AddChild(MakeFilledBox({0.0, 0.0, _layout.format.width, _layout.format.height}, paper).Get());
+    _page->AddChild(MakeArea({_view.Outline()}, ocean).Get());
     AddGraticule();
     AddCountries(iColours, iLinks);
-    AddArcs("borders", true, {_border, 0.2 * _layout.sheet.textScale});
-    AddArcs("coast", false, {_coast, 0.16 * _layout.sheet.textScale});
+    AddArcs("borders", true, {border, 0.2 * _layout.format.textScale});
+    AddArcs("coast", false, {coast, 0.16 * _layout.format.textScale});
     AddLabels();
     AddFrame();
-    AddTitle();
-    AddScaleBar();
-    AddCredit();
+    AddFoot();
     return _page;
-}
-
-void PageBuilder::MakeColours() {
-    auto table = std::make_unique<VEKPrtColourTable>();
-    const auto add = [&table](const Rgb& iColour) {
-        unsigned int index = 0;
-        if (table->AddColour(iColour.red, iColour.green, iColour.blue, index) != 1) throw std::bad_alloc();
-        return index;
-    };
-    _paper = add(kPaper);
-    _ocean = add(kOcean);
-    _graticule = add(kGraticule);
-    _coast = add(kCoast);
-    _border = add(kBorder);
-    _ink = add(kInk);
-    _softInk = add(kSoftInk);
-    for (const Rgb& colour : kLand)
-        _land.push_back(add(colour));
-    _page->SetColourTable(table.release());
 }
 
 VEKRef<VEKPrtGroupElt> PageBuilder::AddGroup(const char* iID) {
@@ -164,140 +116,154 @@ VEKRef<VEKPrtGroupElt> PageBuilder::AddGroup(const char* iID) {
 }
 
 void PageBuilder::AddGraticule() {
-    const VEKRef<VEKPrtGroupElt> group = AddGroup("graticule");
-    const Pen pen{_graticule, 0.15 * _layout.sheet.textScale};
-    const double step = _layout.graticule;
-    const auto add = [&](const Point& iFrom, const Point& iTo) {
-        for (const Path& piece : _view.GridLines({iFrom, iTo}))
-            group->AddChild(MakeLine(piece, pen).Get());
-    };
+    constexpr double distance = 40.0, widest = 15.0; // millimetres, degrees
+    const double spacing = distance * _layout.scale / 1e6 / (earthRadius * degree);
+    const double step = std::min(widest, RoundedDown(spacing));
+    const double meridianStep = std::min(widest, RoundedDown(spacing / std::cos(_layout.centre.y * degree)));
     const Box& window = _view.Window();
     // Meridians end short of a pole that is a point, where they would run together.
     const double end = _layout.isWorld ? 90.0 : 90.0 - step;
     const double south = std::max(window.minY, -end);
     const double north = std::min(window.maxY, end);
-    for (double longitude = std::ceil(window.minX / step) * step; longitude <= window.maxX; longitude += step)
-        add({longitude, south}, {longitude, north});
+    std::vector<Path> lines;
+    for (double longitude = std::ceil(window.minX / meridianStep) * meridianStep; longitude <= window.maxX;
+         longitude += meridianStep)
+        _view.AddLine({{longitude, south}, {longitude, north}}, lines);
     for (double latitude = std::ceil(south / step) * step; latitude <= north; latitude += step)
-        add({window.minX, latitude}, {window.maxX, latitude});
+        _view.AddLine({{window.minX, latitude}, {window.maxX, latitude}}, lines);
+    const VEKRef<VEKPrtGroupElt> group = AddGroup("graticule");
+    for (const Path& line : lines)
+        group->AddChild(MakeLine(line, {graticule, 0.15 * _layout.format.textScale}).Get());
 }
 
 void PageBuilder::AddCountries(const std::vector<std::size_t>& iColours,
-                               const std::vector<const char*>& iLinks) {
-    Identifiers identifiers;
+                               const std::vector<std::string>& iLinks) {
+    std::map<std::string, int> counts;
     for (std::size_t i = 0; i < _shown.size(); ++i) {
-        const Country& country = _topology.countries[i];
-        const std::string id = identifiers.For(country);
+        const Country& country = _parts.topology.countries[i];
+        std::string id = country.id.empty() ? "" : "country-" + country.id;
+        std::replace_if(
+            id.begin(), id.end(), [](unsigned char c) { return !std::isalnum(c) && c != '-'; }, '-');
+        // The underscore stands in no other identifier.
+        const int count = ++counts[id];
+        if (count > 1 && !id.empty()) id += '_' + std::to_string(count);
         if (_shown[i].rings.empty()) continue;
         auto group = Make<VEKPrtGroupElt>();
         group->SetID(id.c_str());
         group->SetTitle(country.name.c_str());
-        if (iLinks[i]) {
+        if (!iLinks[i].empty()) {
             VEKPrtGroupAttributes attributes;
-            attributes.SetLinkURI(VEKPrintLinkURI((std::string(iLinks[i]) + ".svg").c_str()));
+            attributes.SetLinkURI(VEKPrintLinkURI((iLinks[i] + ".svg").c_str()));
             group->SetGroupAttributes(attributes);
         }
-        group->AddChild(MakeArea(_shown[i].rings, _land[iColours[i]]).Get());
+        group->AddChild(MakeArea(_shown[i].rings, firstLand + static_cast<unsigned>(iColours[i])).Get());
         _page->AddChild(group.Get());
     }
 }
 
 void PageBuilder::AddArcs(const char* iID, bool iBorders, const Pen& iPen) {
     const VEKRef<VEKPrtGroupElt> group = AddGroup(iID);
-    for (const Arc& arc : _topology.arcs) {
+    for (const Arc& arc : _parts.topology.arcs) {
         if (arc.users.empty() || (arc.users.size() > 1) != iBorders) continue;
-        for (const Path& line : _view.Lines(arc.path))
-            group->AddChild(MakeLine(line, iPen).Get());
+        double area = std::numeric_limits<double>::infinity();
+        for (const std::size_t user : arc.users)
+            area = std::min(area, _shown[user].area);
+        for (const Path& line : _view.Lines(arc.path)) {
+            double size = std::sqrt(area);
+            const Box extent = BoundsOf(line);
+            if (line.front() == line.back()) size = std::min(size, std::max(extent.Width(), extent.Height()));
+            // What is small is not to be hidden by its own outline.
+            constexpr double share = 0.04, thinnest = 0.03;
+            const double width = std::min(iPen.width, share * size);
+            if (width >= thinnest) group->AddChild(MakeLine(line, {iPen.colour, width}).Get());
+        }
     }
 }
 
 void PageBuilder::AddLabels() {
     const VEKRef<VEKPrtGroupElt> group = AddGroup("names");
-    std::vector<std::size_t> order;
+    std::vector<NamedArea> areas;
     for (std::size_t i = 0; i < _shown.size(); ++i)
-        if (!_shown[i].largest.empty()) order.push_back(i);
-    // Large countries get their names first.
-    std::stable_sort(order.begin(), order.end(), [this](std::size_t iLeft, std::size_t iRight) {
-        return _shown[iLeft].area > _shown[iRight].area;
-    });
-    const double scale = _layout.sheet.textScale;
-    LabelPlacer placer(_view, 1.4 * scale, 6.0 * scale);
-    for (const std::size_t i : order) {
-        Label label;
-        if (!placer.Place(_topology.countries[i].name, _shown[i].largest, label)) continue;
-        const TextStyle style{&_labelFont, label.size, _ink, VEKPrintTextAnchorBaselineCentre};
-        group->AddChild(MakeText(label.baseline, label.text, style).Get());
+        if (!_shown[i].rings.empty() && !_parts.topology.countries[i].name.empty())
+            areas.push_back({&_parts.topology.countries[i].name, &_shown[i].rings, _shown[i].area});
+    const double largest = 6.0 * _layout.format.textScale;
+    for (const Label& label : PlaceLabels(areas, _view.Outline(), smallestText, largest)) {
+        if (!label.leader.empty())
+            group->AddChild(MakeSegment(label.leader[0], label.leader[1], {ink, 0.12}).Get());
+        const TextStyle style{&_parts.labelFont, label.size, ink, VEKPrintTextAnchorBaselineCentre};
+        for (const Label::Line& line : label.lines)
+            group->AddChild(MakeText(line.baseline, line.text, style).Get());
     }
 }
 
 void PageBuilder::AddFrame() {
-    const double scale = _layout.sheet.textScale;
+    const double scale = _layout.format.textScale;
+    const Box outer = _view.Frame().Grown(neatlineGap * scale);
     const VEKRef<VEKPrtGroupElt> group = AddGroup("frame");
-    if (_layout.isWorld) group->AddChild(MakeClosedLine(_view.Outline(), {_coast, 0.3 * scale}).Get());
-    group->AddChild(MakeOutlinedBox(_view.Frame(), {_ink, 0.2 * scale}).Get());
-    group->AddChild(MakeOutlinedBox(_view.Frame().Grown(kNeatlineGap * scale), {_ink, 0.7 * scale}).Get());
-}
-
-void PageBuilder::AddTitle() {
-    const double scale = _layout.sheet.textScale;
-    const Box& frame = _view.Frame();
-    const std::string about = std::string(_projection->Name()) + ", " + ScaleText(_layout.scale);
-    TextStyle title{&_titleFont, 11.0 * scale, _ink};
-    title.spacing = 1.6 * scale;
-    TextStyle small{&_labelFont, 3.2 * scale, _softInk};
-    Point place{frame.minX - kNeatlineGap * scale, frame.maxY + 6.5 * scale};
-    Point aboutPlace{frame.maxX + kNeatlineGap * scale, place.y};
-    small.anchor = VEKPrintTextAnchorBaselineRight;
     if (_layout.isWorld) {
-        place = {frame.Centre().x, frame.maxY - 23.0};
-        aboutPlace = {place.x, place.y - 8.5};
-        title.size = 15.0;
-        title.spacing = 4.0;
-        title.anchor = VEKPrintTextAnchorBaselineCentre;
-        small.anchor = VEKPrintTextAnchorBaselineCentre;
+        Path rim = _view.Outline();
+        rim.push_back(rim.front());
+        group->AddChild(MakeLine(rim, {coast, 0.3 * scale}).Get());
     }
-    _page->AddChild(MakeText(place, _layout.title, title).Get());
+    group->AddChild(MakeOutlinedBox(_view.Frame(), {ink, 0.2 * scale}).Get());
+    group->AddChild(MakeOutlinedBox(outer, {ink, 0.7 * scale}).Get());
+
+    const std::string about = std::string(_view.ProjectionName()) + ", " + ScaleText(_layout.scale);
+    TextStyle title{&_parts.titleFont, 11.0 * scale, ink};
+    TextStyle small{&_parts.labelFont, 3.2 * scale, softInk, VEKPrintTextAnchorBaselineRight};
+    Position place{outer.minX, outer.maxY + 4.7 * scale};
+    Position aboutPlace{outer.maxX, place.y};
+    if (_layout.isWorld) {
+        place = {outer.Centre().x, _view.Frame().maxY - 23.0};
+        aboutPlace = {place.x, place.y - 8.5};
+        title = {&_parts.titleFont, 15.0, ink, VEKPrintTextAnchorBaselineCentre, 4.0};
+        small.anchor = VEKPrintTextAnchorBaselineCentre;
+    } else {
+        constexpr double spacing = 0.145, spread = 1.0 + 2.0 * spacing; // a letter is half as wide as high
+        const double room = (outer.Width() - TextWidth(about) * small.size) / spread;
+        title.size = SizeFor(_layout.title, room, title.size);
+        title.spacing = spacing * title.size;
+    }
+    if (title.size > 0.0) _page->AddChild(MakeText(place, _layout.title, title).Get());
     _page->AddChild(MakeText(aboutPlace, about, small).Get());
 }
 
-std::pair<Point, Point> PageBuilder::Foot() const {
-    const double scale = _layout.sheet.textScale;
+void PageBuilder::AddFoot() {
+    const double scale = _layout.format.textScale;
     const Box& frame = _view.Frame();
-    const double margin = _layout.isWorld ? -12.0 : kNeatlineGap * scale;
-    const double baseline = _layout.isWorld ? frame.minY + 12.0 : frame.minY - 12.3 * scale;
-    return {{frame.minX - margin, baseline}, {frame.maxX + margin, baseline}};
-}
+    const double margin = _layout.isWorld ? -12.0 : neatlineGap * scale;
+    const Position left{frame.minX - margin, _layout.isWorld ? frame.minY + 12.0 : frame.minY - 12.3 * scale};
+    const Position right{frame.maxX + margin, left.y};
 
-void PageBuilder::AddScaleBar() {
-    const double scale = _layout.sheet.textScale;
     const VEKRef<VEKPrtGroupElt> group = AddGroup("scale-bar");
-    const double unit = _view.MillimetresPerKilometre();
-    int step = 1; // kilometres to a field of the bar
-    for (const int candidate : {10, 20, 50, 100, 200, 500, 1000, 2000})
-        if (candidate * unit <= 24.0 * scale) step = candidate;
-    const double field = step * unit;
-    const Point corner = Foot().first;
-    const double bottom = corner.y + 3.8 * scale;
+    // Kilometres to a field of the bar.
+    const double step = RoundedDown(24.0 * scale / _view.MillimetresPerKilometre());
+    const double field = step * _view.MillimetresPerKilometre();
+    const double bottom = left.y + 3.8 * scale;
     const double top = bottom + 1.6 * scale;
     constexpr int fields = 4;
-    const Pen pen{_ink, 0.2 * scale};
-    TextStyle style{&_labelFont, 2.8 * scale, _softInk};
-    style.anchor = VEKPrintTextAnchorBaselineCentre;
+    const Pen pen{ink, 0.2 * scale};
+    TextStyle style{&_parts.labelFont, 2.8 * scale, softInk, VEKPrintTextAnchorBaselineCentre};
     for (int i = 0; i <= fields; ++i) {
-        const double x = corner.x + i * field;
-        if (i < fields && i % 2 == 0) group->AddChild(MakeFilledBox({x, bottom, x + field, top}, _ink).Get());
+        const double x = left.x + i * field;
+        if (i < fields && i % 2 == 0) group->AddChild(MakeFilledBox({x, bottom, x + field, top}, ink).Get());
         group->AddChild(MakeSegment({x, bottom - 0.8 * scale}, {x, top}, pen).Get());
-        group->AddChild(MakeText({x, corner.y}, std::to_string(i * step), style).Get());
+        std::ostringstream number;
+        number << i * step;
+        group->AddChild(MakeText({x, left.y}, number.str(), style).Get());
     }
-    const double end = corner.x + fields * field;
-    group->AddChild(MakeOutlinedBox({corner.x, bottom, end, top}, pen).Get());
+    const double end = left.x + fields * field;
+    group->AddChild(MakeOutlinedBox({left.x, bottom, end, top}, pen).Get());
     style.anchor = VEKPrintTextAnchorBaselineLeft;
-    const char* const where = _layout.isWorld ? "km along the equator" : "km at the centre of the map";
-    group->AddChild(MakeText({end + 5.0 * scale, corner.y}, where, style).Get());
-}
+    const std::string where = _layout.isWorld ? "km along the equator" : "km at the centre of the map";
+    const Position place{end + 5.0 * scale, left.y};
+    group->AddChild(MakeText(place, where, style).Get());
 
-void PageBuilder::AddCredit() {
-    TextStyle style{&_labelFont, 2.8 * _layout.sheet.textScale, _softInk};
+    if (_parts.credit.empty()) return;
+    const double room = right.x - place.x - (TextWidth(where) + 2.0) * style.size;
+    style.size = SizeFor(_parts.credit, room, style.size);
+    if (style.size == 0.0)
+        throw std::runtime_error("the credit is too long for the foot of page " + _layout.file);
     style.anchor = VEKPrintTextAnchorBaselineRight;
-    _page->AddChild(MakeText(Foot().second, "Data: Natural Earth, public domain", style).Get());
+    _page->AddChild(MakeText(right, _parts.credit, style).Get());
 }

@@ -3,13 +3,10 @@
 #define Page_H
 
 #include <cstddef>
-#include <memory>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "MapView.h"
-#include "Projection.h"
 #include "TopoJson.h"
 #include "VEKPrtGroupElt.h"
 #include "VEKPrtImageElt.h"
@@ -18,83 +15,82 @@
 struct Pen;
 class VEKFont;
 
-/// Paper, in millimetres.
-struct Sheet {
+/// A format of paper, in millimetres.
+struct Format {
     double width;
     double height;
     double textScale; // what suits A3 is too large for A4
 };
 
 struct PageLayout {
-    const char* file;
-    const char* title;
-    Sheet sheet;
-    Point centre;
-    double scale;     // 1 in so many
-    double graticule; // degrees
-    bool isWorld;     // the map of the whole world, with another layout
+    std::string file;
+    std::string title;
+    Format format;
+    Position centre;
+    double scale; // 1 in so many
+    bool isWorld; // the map of the whole world, with another layout
+
+    /// What the map fills.
+    Box Frame() const;
 };
 
+/// The largest of 1, 2 and 5 times a power of ten that is not above \p iValue.
+double RoundedDown(double iValue);
+
 /// How many colours there are for countries.
-std::size_t CountLandColours();
+constexpr std::size_t landColours = 6;
+
+/// What the pages of an atlas share; fonts and countries are borrowed.
+struct AtlasParts {
+    const Topology& topology;
+    VEKFont& titleFont;
+    VEKFont& labelFont;
+    std::string credit; // empty for none
+    Allowance allowance;
+};
 
 /// Lays a map out when it is made and turns it into a page afterwards.
 class PageBuilder {
 public:
-    /// All arguments are borrowed; the fonts must outlive the page.
-    PageBuilder(const PageLayout& iLayout, const Topology& iTopology, VEKFont& ioTitleFont,
-                VEKFont& ioLabelFont);
+    /// \p ioParts is borrowed; the fonts must outlive the page.
+    PageBuilder(const PageLayout& iLayout, AtlasParts& ioParts);
 
-    /// Of the country's largest polygon, in square millimetres; 0 for a country that the map does not show.
+    const PageLayout& Layout() const { return _layout; }
+
+    /// Square millimetres; 0 for a country that the map does not show.
     double ShownArea(std::size_t iCountry) const { return _shown[iCountry].area; }
 
-    /// How far from the middle of the map that polygon lies, in widths and heights of the map.
+    /// How far from the middle of the map the country lies, in widths and heights of the map.
     double ShownOffset(std::size_t iCountry) const;
 
-    /// \p iColours and \p iLinks are by country.  A link is the name of another page, or null.  Meant to be
+    /// \p iColours and \p iLinks are by country.  A link is the name of another page, or empty.  Meant to be
     /// called once.
     VEKRef<VEKPrtImageElt> Build(const std::vector<std::size_t>& iColours,
-                                 const std::vector<const char*>& iLinks);
+                                 const std::vector<std::string>& iLinks);
 
 private:
     /// The part of a country that the page shows.
     struct Shown {
         std::vector<Path> rings;
-        std::vector<Path> largest; // the polygon for the name
-        double area = 0.0;         // of that polygon
+        double area = 0.0;
     };
 
-    Shown Show(const Country& iCountry) const;
-    void MakeColours();
     VEKRef<VEKPrtGroupElt> AddGroup(const char* iID);
     void AddGraticule();
-    void AddCountries(const std::vector<std::size_t>& iColours, const std::vector<const char*>& iLinks);
+    void AddCountries(const std::vector<std::size_t>& iColours, const std::vector<std::string>& iLinks);
     /// Each arc once, although two countries use a border.
     void AddArcs(const char* iID, bool iBorders, const Pen& iPen);
     void AddLabels();
+    /// With the title and what is said of the projection.
     void AddFrame();
-    void AddTitle();
-    /// The corners, left and right, that scale bar and credit stand on.
-    std::pair<Point, Point> Foot() const;
-    void AddScaleBar();
-    void AddCredit();
+    /// The scale bar and the credit.
+    void AddFoot();
 
-    const PageLayout& _layout;
-    const Topology& _topology;
-    VEKFont& _titleFont;
-    VEKFont& _labelFont;
-    std::unique_ptr<Projection> _projection;
+    const PageLayout _layout;
+    AtlasParts& _parts;
     MapView _view;
     VEKRef<VEKPrtImageElt> _page;
     std::vector<Shown> _shown;
-    unsigned int _paper = 0;
-    unsigned int _ocean = 0;
-    unsigned int _graticule = 0;
-    unsigned int _coast = 0;
-    unsigned int _border = 0;
-    unsigned int _ink = 0;
-    unsigned int _softInk = 0;
-    std::vector<unsigned int> _land;
 };
 
 #endif

@@ -1,71 +1,40 @@
-// Map projections of a spherical earth.
+// The map projections of the atlas, for a spherical earth.
 #ifndef Projection_H
 #define Projection_H
 
 #include "Geometry.h"
 
-constexpr double kEarthRadius = 6371.0; // kilometres
-constexpr double kPi = 3.14159265358979323846;
-constexpr double kDegree = kPi / 180.0;
+constexpr double earthRadius = 6371.0; // kilometres
+constexpr double degree = 3.14159265358979323846 / 180.0;
 
-/// From longitude and latitude to kilometres east and north of the centre.
+/// From longitude and latitude to kilometres east and north of a centre, true in area.
+///
+/// Equal Earth for the whole world, whose centre is on the equator; Lambert's azimuthal projection for a part
+/// of it, where at the centre shapes are true, too.
 class Projection {
 public:
-    explicit Projection(const Point& iCentre) : _centre(iCentre) {}
-    Projection(const Projection&) = delete;
-    Projection& operator=(const Projection&) = delete;
-    virtual ~Projection() = default;
+    Projection(const Position& iCentre, bool iIsWorld) : _centre(iCentre), _isWorld(iIsWorld) {}
 
-    const Point& Centre() const { return _centre; }
+    const Position& Centre() const { return _centre; }
+    bool IsWorld() const { return _isWorld; }
+    const char* Name() const;
 
     /// For longitudes within 180 degrees of the centre.
-    virtual Point Forward(const Point& iLonLat) const = 0;
+    Position Forward(const Position& iLonLat) const;
 
-    /// The longitudes and latitudes that are enough to cover \p iFrame, given in kilometres.
-    virtual Box WindowFor(const Box& iFrame) const = 0;
+    /// For a part of the world; \p iPosition is on the map.
+    Position Inverse(const Position& iPosition) const;
 
-    /// Whether the edge of the window is the edge of the map, as on a map of the whole world.
-    virtual bool WindowIsOutline() const = 0;
+    /// The longitudes and latitudes that are enough to cover what is nearer than \p iDistance to the centre
+    /// on the map; for the world, all of them.
+    Box WindowFor(double iDistance) const;
 
     /// Map kilometres to a kilometre of the ground, along the parallel through the centre.
-    virtual double ScaleAtCentre() const = 0;
-
-    virtual const char* Name() const = 0;
+    double ScaleAtCentre() const;
 
 private:
-    const Point _centre;
-};
-
-/// The whole world, true in area; the centre is on the equator.
-class EqualEarth : public Projection {
-public:
-    explicit EqualEarth(double iMeridian) : Projection({iMeridian, 0.0}) {}
-    Point Forward(const Point& iLonLat) const override;
-    Box WindowFor(const Box& iFrame) const override;
-    bool WindowIsOutline() const override { return true; }
-    double ScaleAtCentre() const override;
-    const char* Name() const override { return "Equal Earth projection"; }
-};
-
-/// A continent, true in area and, at the centre, in shape.
-class LambertAzimuthal : public Projection {
-public:
-    explicit LambertAzimuthal(const Point& iCentre);
-    Point Forward(const Point& iLonLat) const override;
-
-    /// Keeps the antipode of the centre, where the projection is torn, out of the window if the frame does
-    /// not reach round the globe.
-    Box WindowFor(const Box& iFrame) const override;
-    bool WindowIsOutline() const override { return false; }
-    double ScaleAtCentre() const override { return 1.0; }
-    const char* Name() const override { return "Lambert azimuthal equal-area projection"; }
-
-private:
-    bool Inverse(const Point& iPoint, Point& oLonLat) const;
-    Box WholeGlobe() const;
-
-    const double _sine;
-    const double _cosine;
+    Position _centre;
+    bool _isWorld;
 };
 
 #endif

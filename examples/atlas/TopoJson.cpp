@@ -3,174 +3,152 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <stdexcept>
 
 #include <nlohmann/json.hpp>
 
-#include "AtlasError.h"
-
 namespace {
 
-// Keeps the members in the order of the file, for "the first collection".
-using Json = nlohmann::ordered_json;
+using Json = nlohmann::json;
 
-/// Arcs may be used again and again, so that a small file can ask for rings without measure.
-constexpr std::size_t kMostRingPoints = 5'000'000;
+// Arcs may be used again and again; real data of the finest kind has half a million positions.
+constexpr std::size_t mostRingPositions = 2'000'000;
+constexpr int deepestCollection = 16;
 
-/// TopoJSON needs no more than ten levels.  Deep values are kept out because they are destroyed by recursion.
-constexpr int kDeepestNesting = 64;
-
-/// Null when \p iObject is no object or has no such member.
+// Null when iObject is no object or has no such member.
 const Json* Find(const Json& iObject, const char* iName) {
     if (!iObject.is_object()) return nullptr;
     const auto member = iObject.find(iName);
     return member == iObject.end() ? nullptr : &*member;
 }
 
-const Json& ArrayMember(const Json& iObject, const char* iName) {
-    const Json* const member = Find(iObject, iName);
-    if (!member || !member->is_array())
-        throw AtlasError(std::string("invalid TopoJSON: \"") + iName + "\" is missing or no array");
-    return *member;
-}
-
-std::string TypeOf(const Json& iObject) {
-    const Json* const type = Find(iObject, "type");
-    return type && type->is_string() ? type->get<std::string>() : std::string();
-}
-
-Point PairOf(const Json& iPair, const char* iWhat) {
-    if (!iPair.is_array() || iPair.size() < 2 || !iPair[0].is_number() || !iPair[1].is_number())
-        throw AtlasError(std::string("invalid TopoJSON: ") + iWhat + " is no pair of numbers");
-    return {iPair[0].get<double>(), iPair[1].get<double>()};
-}
-
-/// The empty string for a missing or null member; control characters, which no page can show, become blanks.
-std::string TextOf(const Json* iValue, const char* iWhat) {
-    if (!iValue || iValue->is_null()) return {};
-    if (iValue->is_number_integer()) return iValue->dump();
-    if (!iValue->is_string()) throw AtlasError(std::string("invalid TopoJSON: ") + iWhat + " is no text");
+// A number is as good as a text; control characters, which no page can show, become blanks.
+std::string TextOf(const Json* iValue) {
+    if (iValue && iValue->is_number()) return iValue->dump();
+    if (!iValue || !iValue->is_string()) return {};
     std::string text = iValue->get<std::string>();
     std::replace_if(
-        text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x20; }, ' ');
+        text.begin(), text.end(), [](unsigned char c) { return c < 0x20; }, ' ');
     return text;
 }
 
+// Positions, arrays and members that are not what they should be end in a Json::exception.
 class Reader {
 public:
     explicit Reader(const Json& iRoot) : _root(iRoot) {}
 
     Topology Read() {
-        if (TypeOf(_root) != "Topology") throw AtlasError("not TopoJSON: no object of type \"Topology\"");
-        ReadArcs();
-        const Json* const objects = Find(_root, "objects");
-        if (!objects || !objects->is_object())
-            throw AtlasError("invalid TopoJSON: \"objects\" is missing or no object");
-        if (const Json* const countries = Find(*objects, "countries")) {
-            if (TypeOf(*countries) != "GeometryCollection")
-                throw AtlasError("invalid TopoJSON: \"countries\" is no GeometryCollection");
-            ReadCountries(*countries);
-        } else {
-            for (const Json& object : *objects) {
-                if (TypeOf(object) == "GeometryCollection") ReadCountries(object);
-                if (!_topology.countries.empty()) break;
-            }
+        if (TextOf(Find(_root, "type")) != "Topology")
+            throw std::runtime_error("not TopoJSON: no object of type \"Topology\"");
+        try {
+            ReadArcs();
+            ReadObjects();
+        } catch (const Json::exception& error) {
+            const std::string reason = error.what();
+            Fail(reason.substr(reason.find(' ') + 1)); // without the number of the error
         }
-        if (_topology.countries.empty()) throw AtlasError("nothing to draw: no polygons in the file");
+        if (_topology.countries.empty()) throw std::runtime_error("nothing to draw: no polygons in the file");
         return std::move(_topology);
     }
 
 private:
+    [[noreturn]] void Fail(const std::string& iWhat) const {
+        throw std::runtime_error("invalid TopoJSON: " + (_place.empty() ? "" : _place + ": ") + iWhat);
+    }
+
+    static Position PairOf(const Json& iPair) {
+        return {iPair.at(0).get<double>(), iPair.at(1).get<double>()};
+    }
+
     void ReadArcs() {
         const Json* const transform = Find(_root, "transform");
-        Point scale{1.0, 1.0};
-        Point translate;
-        if (transform) {
-            scale = PairOf(ArrayMember(*transform, "scale"), "the scale of the transform");
-            translate = PairOf(ArrayMember(*transform, "translate"), "the translation of the transform");
-        }
-        for (const Json& positions : ArrayMember(_root, "arcs")) {
-            if (!positions.is_array()) throw AtlasError("invalid TopoJSON: an arc is no array");
+        const bool isQuantised = transform && !transform->is_null();
+        const Position scale = isQuantised ? PairOf(transform->at("scale")) : Position{1.0, 1.0};
+        const Position translate = isQuantised ? PairOf(transform->at("translate")) : Position{};
+        for (const Json& positions : _root.at("arcs")) {
+            _place = "/arcs/" + std::to_string(_topology.arcs.size());
             Arc arc;
-            arc.path.reserve(positions.size());
-            Point sum;
+            Position sum;
             for (const Json& position : positions) {
-                const Point pair = PairOf(position, "a position");
+                const Position pair = PairOf(position);
                 // Quantised positions are differences to the one before.
-                sum = transform ? Point{sum.x + pair.x, sum.y + pair.y} : pair;
-                arc.path.push_back(
-                    CheckedPosition({sum.x * scale.x + translate.x, sum.y * scale.y + translate.y}));
+                sum = isQuantised ? Position{sum.x + pair.x, sum.y + pair.y} : pair;
+                const Position place{sum.x * scale.x + translate.x, sum.y * scale.y + translate.y};
+                // Quantisation may put the poles a trifle too far out.  Anything else beyond the globe,
+                // not-a-number included, fails the comparison.
+                if (!(std::abs(place.x) <= 360.0 && std::abs(place.y) <= 90.01))
+                    Fail("a position is no longitude and latitude in degrees");
+                arc.path.push_back({place.x, std::clamp(place.y, -90.0, 90.0)});
             }
             _topology.arcs.push_back(std::move(arc));
         }
+        _place.clear();
     }
 
-    /// Quantisation may put the poles a trifle too far out.  Anything else beyond the globe, not-a-number
-    /// included, fails the comparison.
-    static Point CheckedPosition(const Point& iPosition) {
-        if (!(std::abs(iPosition.x) <= 360.0 && std::abs(iPosition.y) <= 90.01))
-            throw AtlasError("invalid TopoJSON: a position is no longitude and latitude in degrees");
-        return {iPosition.x, std::clamp(iPosition.y, -90.0, 90.0)};
-    }
-
-    void ReadCountries(const Json& iCollection) {
-        for (const Json& geometry : ArrayMember(iCollection, "geometries")) {
-            if (geometry.is_null()) continue;
-            if (!geometry.is_object()) throw AtlasError("invalid TopoJSON: a geometry is no object");
-            const std::string type = TypeOf(geometry);
-            if (type.empty() && !geometry.contains("type"))
-                throw AtlasError("invalid TopoJSON: a geometry has no type");
-            if (type != "Polygon" && type != "MultiPolygon") {
-                CheckOtherType(geometry, type);
-                continue;
-            }
-            Country country;
-            country.id = TextOf(Find(geometry, "id"), "an id");
-            if (const Json* const properties = Find(geometry, "properties"))
-                country.name = TextOf(Find(*properties, "name"), "a name");
-            const Json& arcs = ArrayMember(geometry, "arcs");
-            if (type == "Polygon") {
-                AddPolygon(arcs, country);
-            } else {
-                for (const Json& polygon : arcs)
-                    AddPolygon(polygon, country);
-            }
-            if (!country.polygons.empty()) _topology.countries.push_back(std::move(country));
+    void ReadObjects() {
+        const Json& objects = _root.at("objects");
+        if (const Json* const countries = Find(objects, "countries"))
+            ReadGeometry(*countries, "/objects/countries");
+        for (auto object = objects.begin(); object != objects.end(); ++object) {
+            if (!_topology.countries.empty()) break;
+            // Names are quoted like JSON, so that the message is one line, and cut.
+            ReadGeometry(*object, "/objects/" + Json(object.key()).dump(-1, ' ', true).substr(0, 40));
         }
     }
 
-    static void CheckOtherType(const Json& iGeometry, const std::string& iType) {
-        static const char* const kOthers[] = {"Point", "MultiPoint", "LineString", "MultiLineString",
-                                              "GeometryCollection"};
-        const bool known = std::find(std::begin(kOthers), std::end(kOthers), iType) != std::end(kOthers);
-        if (!known && !iGeometry.at("type").is_null())
-            throw AtlasError("invalid TopoJSON: a geometry of unknown type");
+    void ReadGeometry(const Json& iGeometry, const std::string& iPlace, int iDepth = 0) {
+        _place = iPlace;
+        if (iGeometry.is_null() || iGeometry.at("type").is_null()) return;
+        const std::string type = iGeometry.at("type").get<std::string>();
+        if (type == "GeometryCollection") {
+            if (iDepth == deepestCollection) Fail("the collection is nested too deeply");
+            int position = 0;
+            for (const Json& member : iGeometry.at("geometries"))
+                ReadGeometry(member, iPlace + "/geometries/" + std::to_string(position++), iDepth + 1);
+        } else if (type == "Polygon" || type == "MultiPolygon") {
+            ReadCountry(iGeometry, type == "Polygon");
+        }
+    }
+
+    void ReadCountry(const Json& iGeometry, bool iIsPolygon) {
+        Country country;
+        country.id = TextOf(Find(iGeometry, "id"));
+        if (const Json* const properties = Find(iGeometry, "properties"))
+            country.name = TextOf(Find(*properties, "name"));
+        const Json& arcs = iGeometry.at("arcs");
+        if (iIsPolygon) {
+            AddPolygon(arcs, country);
+        } else {
+            for (const Json& polygon : arcs)
+                AddPolygon(polygon, country);
+        }
+        if (!country.polygons.empty()) _topology.countries.push_back(std::move(country));
     }
 
     void AddPolygon(const Json& iPolygon, Country& ioCountry) {
-        if (!iPolygon.is_array()) throw AtlasError("invalid TopoJSON: a polygon is no array of rings");
         std::vector<Path> rings;
         for (const Json& ring : iPolygon) {
             Path path = RingOf(ring);
             // Without its outline a polygon is nothing; its holes would turn into land.
             if (path.size() < 3 && rings.empty()) return;
-            if (path.size() >= 3) rings.push_back(std::move(path));
+            if (path.size() < 3) continue;
+            rings.push_back(std::move(path));
+            // The country under way will stand at the end of the list.
+            const std::size_t user = _topology.countries.size();
+            for (const Json& index : ring) {
+                std::vector<std::size_t>& users = ArcAt(index).users;
+                if (users.empty() || users.back() != user) users.push_back(user);
+            }
         }
         if (!rings.empty()) ioCountry.polygons.push_back(std::move(rings));
     }
 
     Path RingOf(const Json& iArcs) {
-        if (!iArcs.is_array()) throw AtlasError("invalid TopoJSON: a ring is no array of arc indices");
         Path ring;
         for (const Json& index : iArcs) {
-            bool reversed = false;
-            Arc& arc = _topology.arcs[ArcAt(index, reversed)];
-            // The country under way will stand at the end of the list.
-            const std::size_t user = _topology.countries.size();
-            if (arc.users.empty() || arc.users.back() != user) arc.users.push_back(user);
-            _ringPoints += arc.path.size();
-            if (_ringPoints > kMostRingPoints) throw AtlasError("the rings have too many points");
-            Path path = arc.path;
-            if (reversed) std::reverse(path.begin(), path.end());
+            Path path = ArcAt(index).path;
+            _allowance.Spend(path.size() + 1);
+            if (index.get<std::int64_t>() < 0) std::reverse(path.begin(), path.end());
             // Each arc begins where the one before it ends.
             const bool joined = !ring.empty() && !path.empty() && ring.back() == path.front();
             ring.insert(ring.end(), path.begin() + (joined ? 1 : 0), path.end());
@@ -179,34 +157,34 @@ private:
         return ring;
     }
 
-    std::size_t ArcAt(const Json& iIndex, bool& oReversed) const {
-        if (!iIndex.is_number_integer()) throw AtlasError("invalid TopoJSON: an arc index is no integer");
+    // A negative index is that of a reversed arc: -1 of the first.
+    Arc& ArcAt(const Json& iIndex) {
+        if (!iIndex.is_number_integer()) Fail("an arc index is no integer");
         // A number beyond the signed range would wrap to a negative one, and so to some other arc.
         const bool huge = iIndex.is_number_unsigned() && iIndex.get<std::uint64_t>() >= _topology.arcs.size();
         const auto index = iIndex.get<std::int64_t>();
-        oReversed = index < 0;
-        const auto position = static_cast<std::uint64_t>(oReversed ? ~index : index);
+        const auto position = static_cast<std::uint64_t>(index < 0 ? ~index : index);
         if (huge || position >= _topology.arcs.size())
-            throw AtlasError("invalid TopoJSON: arc index " + iIndex.dump() + " is out of range");
-        return static_cast<std::size_t>(position);
+            Fail("arc index " + iIndex.dump() + " is out of range");
+        return _topology.arcs[position];
     }
 
     const Json& _root;
+    std::string _place; // of what is being read, for messages
     Topology _topology;
-    std::size_t _ringPoints = 0;
+    Allowance _allowance{mostRingPositions};
 };
 
 } // namespace
 
 Topology ReadTopology(const std::string& iText) {
-    if (iText.empty()) throw AtlasError("the file is empty");
-    bool tooDeep = false;
-    const auto isShallow = [&tooDeep](int iDepth, Json::parse_event_t, const Json&) {
-        if (iDepth > kDeepestNesting) tooDeep = true;
-        return !tooDeep;
-    };
-    const Json root = Json::parse(iText, isShallow, false);
-    if (tooDeep) throw AtlasError("not TopoJSON: nested too deeply");
-    if (root.is_discarded()) throw AtlasError("not valid JSON");
-    return Reader(root).Read();
+    if (iText.empty()) throw std::runtime_error("the file is empty");
+    try {
+        const Json root = Json::parse(iText);
+        return Reader(root).Read();
+    } catch (const Json::parse_error& error) {
+        throw std::runtime_error("not valid JSON: error at byte " + std::to_string(error.byte));
+    } catch (const Json::out_of_range&) {
+        throw std::runtime_error("not valid JSON: a number is out of range");
+    }
 }

@@ -26,10 +26,11 @@ struct Topology {
     std::vector<Country> countries;
 };
 
-/// Reads the collection "countries", or else the first one that has polygons.
+/// Reads the object "countries", or else the first one by name that has polygons.
 ///
-/// Throws AtlasError, whose message says what is wrong with \p iText.  Null geometries, points and lines are
-/// left out, and so are rings of fewer than three points, which generalised data contains.
+/// Throws std::runtime_error, whose message says what is wrong with \p iText and where.  Null geometries,
+/// points and lines are left out, and so are rings of fewer than three positions, which generalised data
+/// contains.  A name or identifier that is neither text nor a number counts as none.
 Topology ReadTopology(const std::string& iText);
 
 #endif

@@ -1,122 +1,96 @@
 // Draws an atlas from country outlines: one SVG file per page.
 #include <cerrno>
-#include <cstring>
 #include <exception>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <sstream>
+#include <stdexcept>
 #include <string>
-#include <vector>
 
-#include "AtlasError.h"
+#include <CLI/CLI.hpp>
+
 #include "AtlasModel.h"
-#include "Elements.h"
 #include "FileSet.h"
 #include "TopoJson.h"
-#include "VEKListPtrVEKPrtGraphicPrimitiveElt.h"
-#include "VEKListPtrVEKPrtImageElt.h"
-#include "VEKPrtGroupElt.h"
-#include "VEKPrtImageElt.h"
-#include "VEKPrtModel.h"
+#include "VEKPrtWalk.h"
+
+namespace fs = std::filesystem;
 
 namespace {
 
-constexpr int kDuplicatedPage = 2;
+constexpr std::size_t mostMebibytes = 8;
 
-std::string ReadFile(const std::string& iPath) {
-    std::error_code ignored;
-    // Opening a directory succeeds; reading it does not.
-    if (std::filesystem::is_directory(iPath, ignored)) throw AtlasError("it is a directory");
+std::string ReadFile(const fs::path& iPath) {
+    std::string content((mostMebibytes << 20) + 1, '\0');
     std::ifstream stream(iPath, std::ios::binary);
-    if (!stream) throw AtlasError(std::strerror(errno));
-    std::ostringstream content;
-    // Without a single character, inserting the buffer counts as a failure.
-    if (stream.peek() != std::ifstream::traits_type::eof()) content << stream.rdbuf();
-    if (stream.bad() || !content) throw AtlasError("it cannot be read");
-    return content.str();
+    stream.read(content.data(), static_cast<std::streamsize>(content.size()));
+    if (!stream.is_open() || stream.bad())
+        throw std::runtime_error(iPath.string() + ": " + std::generic_category().message(errno));
+    content.resize(static_cast<std::size_t>(stream.gcount()));
+    if (content.size() > mostMebibytes << 20)
+        throw std::runtime_error(iPath.string() + ": larger than " + std::to_string(mostMebibytes) + " MiB");
+    return content;
 }
 
-Topology ReadInput(const std::string& iPath) {
-    try {
-        return ReadTopology(ReadFile(iPath));
-    } catch (const AtlasError& error) {
-        throw AtlasError(iPath + ": " + error.what());
-    }
-}
-
-/// The element itself and all below it.
-int CountElements(VEKPrtGraphicPrimitiveElt& ioElement) {
-    VEKListPtrVEKPrtGraphicPrimitiveElt* children = nullptr;
-    if (auto* const group = dynamic_cast<VEKPrtGroupElt*>(&ioElement)) group->GetChildren(children);
-    if (auto* const image = dynamic_cast<VEKPrtImageElt*>(&ioElement)) image->GetChildren(children);
-    int count = 1;
-    for (int i = 1; children && i <= children->Size(); ++i)
-        count += CountElements(*static_cast<VEKPrtGraphicPrimitiveElt*>((*children)[i]));
-    return count;
-}
-
-/// Pages count from 1; lent by the model.
-VEKPrtImageElt& PageAt(const VEKPrtModel& iModel, int iPage) {
-    VEKListPtrVEKPrtImageElt* images = nullptr;
-    iModel.GetImages(images);
-    auto* const page = images ? static_cast<VEKPrtImageElt*>((*images)[iPage]) : nullptr;
-    if (!page) throw AtlasError("the model has no page " + std::to_string(iPage));
-    return *page;
-}
-
-/// A model with a duplicate of one page, which shares nothing with that page but its font.
-VEKRef<VEKPrtModel> ModelWithDuplicate(VEKPrtImageElt& ioPage) {
-    VEKPrtGraphicPrimitiveElt* copy = nullptr;
-    ioPage.Duplicate(copy);
-    const auto duplicate = VEKRef<VEKPrtGraphicPrimitiveElt>::Adopt(copy);
-    auto* const image = dynamic_cast<VEKPrtImageElt*>(duplicate.Get());
-    if (!image) throw std::bad_alloc();
-    auto model = Make<VEKPrtModel>();
-    model->AddImage(image);
-    return model;
-}
-
-void Run(const std::string& iInput, const std::string& iDirectory) {
-    const Atlas atlas(ReadInput(iInput));
-    const VEKRef<VEKPrtModel> second = ModelWithDuplicate(PageAt(atlas.Model(), kDuplicatedPage));
-
+void Run(const fs::path& iInput, const fs::path& iDirectory, const std::string& iCredit) {
+    const Topology topology = ReadTopology(ReadFile(iInput));
+    const Atlas atlas(topology, iInput.stem().string(), iCredit);
     FileSet files;
     std::ostringstream report;
     int total = 0;
-    int page = 0;
-    const auto add = [&](const VEKPrtModel& iModel, int iPage, const std::string& iName,
-                         const char* iRemark) {
-        const int count = CountElements(PageAt(iModel, iPage));
-        const std::filesystem::path path = std::filesystem::path(iDirectory) / (iName + ".svg");
+    const auto add = [&](const VEKPrtModel& iModel, int iPage, VEKPrtImageElt& ioPage,
+                         const std::string& iName) {
+        int count = 0;
+        Walk(ioPage, [&](VEKPrtGraphicPrimitiveElt&, int) { return ++count > 0; });
+        const fs::path path = iDirectory / (iName + ".svg");
         files.AddSvg(path, iModel, iPage);
-        report << count << " elements  " << path.string() << iRemark << '\n';
+        report << count << " elements  " << path.string() << '\n';
         total += count;
     };
-    for (const std::string& name : atlas.PageNames()) {
-        add(atlas.Model(), ++page, name, "");
-        if (page == kDuplicatedPage)
-            add(*second, 1, name + "-duplicate", "  (a duplicate of the page above)");
+    int number = 0;
+    for (VEKPrtImageElt& page : ChildrenOf(atlas.Model())) {
+        VEKUnicodeString name;
+        page.GetID(name);
+        add(atlas.Model(), ++number, page, name.ToUtf8());
+        if (number > 1) continue;
+        // The first page is written again from a duplicate, which shares nothing with it but its fonts.
+        VEKPrtGraphicPrimitiveElt* copy = nullptr;
+        page.Duplicate(copy);
+        const auto duplicate = VEKRef<VEKPrtImageElt>::Adopt(static_cast<VEKPrtImageElt*>(copy));
+        if (!duplicate) throw std::bad_alloc();
+        const auto model = Make<VEKPrtModel>();
+        model->AddImage(duplicate.Get());
+        add(*model, 1, *duplicate, name.ToUtf8() + std::string("-duplicate"));
     }
     std::error_code error;
-    std::filesystem::create_directories(iDirectory, error);
+    fs::create_directories(iDirectory, error);
     // Some libraries call it an error that the directory is there already under another spelling.
-    if (!std::filesystem::is_directory(iDirectory))
-        throw AtlasError("cannot make directory " + iDirectory + ": " + error.message());
+    if (!fs::is_directory(iDirectory))
+        throw std::runtime_error("cannot make directory " + iDirectory.string() + ": " + error.message());
     files.Commit();
     std::cout << report.str() << total << " elements in all\n" << std::flush;
-    if (!std::cout) throw AtlasError("cannot write the list of pages");
+    if (!std::cout) throw std::runtime_error("cannot write the list of pages");
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 3) {
-        std::cerr << "usage: atlas INPUT.json OUTPUT_DIRECTORY\n";
-        return 2;
-    }
     try {
-        Run(argv[1], argv[2]);
+        CLI::App options(
+            "Draws an atlas from country outlines in TopoJSON: one SVG file per page.  Countries that\n"
+            "lie close together share one page, map.svg.\n");
+        std::string input, directory, credit;
+        options.add_option("INPUT", input, "the outlines, at most 8 MiB")->required();
+        options.add_option("DIRECTORY", directory, "where the pages are written; made if it is missing")
+            ->required();
+        options.add_option("--credit", credit, "whose data it is: a text for the foot of each page");
+        try {
+            options.parse(argc, argv);
+        } catch (const CLI::ParseError& error) {
+            return options.exit(error) == 0 ? 0 : 2;
+        }
+        Run(input, directory, credit);
         return 0;
     } catch (const std::bad_alloc&) {
         std::cerr << "atlas: out of memory\n";
