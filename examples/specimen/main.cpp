@@ -11,9 +11,8 @@ int main(int argc, char** argv) {
     if (help || argc != 2 || argv[1][0] == '-') {
         (help ? std::cout : std::cerr)
             << "usage: specimen OUTPUT.svg\n"
-               "Plots the specimen sheet.  A file is replaced when the sheet is complete, the one that a "
-               "link\n"
-               "leads to likewise; a device such as /dev/stdout, or a pipe, is written to.\n";
+               "Plots the specimen sheet.  A file, or the one that a link leads to, is replaced when the\n"
+               "sheet is complete; a device such as /dev/stdout, or a pipe, is written to.\n";
         return help ? 0 : 2;
     }
     try {
