@@ -395,7 +395,7 @@ TEST(AtlasPages, ArePlottedWhole) {
 
 TEST(SpecimenSheet, DuplicateDrawsTheSame) {
     // The two shapes with a pattern image leave their references on it behind.
-    const DemandedLeak leak(1, 0);
+    const DemandedLeak leak(1, 2);
     const Specimen specimen = BuildSpecimen();
     VEKListPtrVEKPrtImageElt* images = nullptr;
     specimen.model->GetImages(images);
