@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdlib>
+#include <string>
 #include <vector>
 
 /// Seconds that a call takes.
@@ -22,8 +23,8 @@ inline double Median(std::vector<double> iValues) {
     return iValues[iValues.size() / 2];
 }
 
-/// After many small blocks were freed, the next large request merges them all: here, so that the side that freed
-/// them pays for it.
+/// After many small blocks were freed, the next large request merges them all: here, so that the side that
+/// freed them pays for it.
 inline void MergeFreeBlocks() { std::free(std::malloc(100000)); }
 
 /// One figure of both sides, pass by pass.
@@ -33,8 +34,11 @@ public:
         _library.push_back(iLibrary);
         _ratios.push_back(iLibrary / iFloor);
     }
-    double Library() const { return Median(_library); }
-    double Ratio() const { return Median(_ratios); }
+    /// The library's median and that of the ratios, as columns of the table.
+    void Report(benchmark::State& ioState, const std::string& iName = "") const {
+        ioState.counters[iName + "ns"] = Median(_library);
+        ioState.counters[iName + "ratio"] = Median(_ratios);
+    }
 
 private:
     std::vector<double> _library;
@@ -50,8 +54,7 @@ void Compare(benchmark::State& ioState, double iCount, Library iLibrary, Floor i
         pairs.Add(library / iCount * 1e9, floor / iCount * 1e9);
         ioState.SetIterationTime(library);
     }
-    ioState.counters["ns"] = pairs.Library();
-    ioState.counters["ratio"] = pairs.Ratio();
+    pairs.Report(ioState);
 }
 
 #endif

@@ -1,7 +1,7 @@
 // A page as a client builds it and consumers use it: built, walked, duplicated, released.
 //
-// Groups of 100 elements: 50 lines, 20 rectangles, 20 polylines of 16 points, 10 texts of 12 characters; a stroke of
-// colour and width on each, a translation and a rotation on every tenth.
+// Groups of 100 elements: 50 lines, 20 rectangles, 20 polylines of 16 points, 10 texts of 12 characters; a
+// stroke of colour and width on each, a translation and a rotation on every tenth.
 #include <malloc.h>
 
 #include <memory>
@@ -45,13 +45,11 @@ plain::Kind KindAt(int iIndex) {
 }
 bool IsTransformed(int iIndex) { return iIndex % 10 == 0; }
 
-// The model's side.  A careful client makes records and strings once, and asks each class once for its meta-object; a
-// plain one does so for every element.
+// The model's side.  A careful client makes records and strings once, and asks each class once for its
+// meta-object; a plain one does so for every element.
 template <bool isCareful>
 class Model {
 public:
-    static constexpr const char* name = isCareful ? "careful client" : "plain client";
-
     void Build(int iElements) {
         _page = new VEKPrtImageElt;
         auto* const colours = new VEKPrtColourTable;
@@ -430,24 +428,18 @@ void Drawing(benchmark::State& ioState) {
         memory.Add(library.bytes, floor.bytes);
         ioState.SetIterationTime(library.build + library.walk + library.duplicate + library.release);
     }
-    const auto report = [&](const char* iName, const Pairs& iPairs) {
-        ioState.counters[iName] = iPairs.Ratio();
-        ioState.counters[std::string(iName) + ".ns"] = iPairs.Library();
-    };
-    report("1 build", build);
-    report("2 walk", walk);
-    report("3 duplicate", duplicate);
-    report("4 release", release);
-    report("5 memory", memory);
+    build.Report(ioState, "build ");
+    walk.Report(ioState, "walk ");
+    duplicate.Report(ioState, "duplicate ");
+    release.Report(ioState, "release ");
+    memory.Report(ioState, "memory ");
 }
 
 void Sizes(benchmark::internal::Benchmark* ioBenchmark) {
     for (const int size : {2000, 20000, 200000, 2000000})
         ioBenchmark->Arg(size)->Iterations(7)->UseManualTime();
 }
-BENCHMARK_TEMPLATE(Drawing, Model<false>)->Apply(Sizes);
-BENCHMARK_TEMPLATE(Drawing, Model<true>)->Apply(Sizes);
+BENCHMARK_TEMPLATE(Drawing, Model<false>)->Apply(Sizes)->Name("Plain client");
+BENCHMARK_TEMPLATE(Drawing, Model<true>)->Apply(Sizes)->Name("Careful client");
 
 } // namespace
-
-BENCHMARK_MAIN();

@@ -1,4 +1,5 @@
-// The floor: plain structs in the layout of the model's objects, one malloc for an element and one for each array.
+// The floor: plain structs in the layout of the model's objects, one malloc for an element and one for each
+// array.
 #ifndef Floor_H
 #define Floor_H
 

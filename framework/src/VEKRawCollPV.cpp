@@ -56,9 +56,10 @@ bool VEKRawCollPV::Grow() {
 }
 
 int VEKRawCollPV::Locate(const void* iPointer, int iFrom) const {
-    for (int position = std::max(iFrom, 1); position <= _size; ++position)
-        if (_pointers[position - 1] == iPointer) return position;
-    return 0;
+    void** const first = _pointers + (std::clamp(iFrom, 1, _size + 1) - 1);
+    void** const end = _pointers + _size;
+    void** const found = std::find(first, end, iPointer);
+    return found == end ? 0 : static_cast<int>(found - _pointers) + 1;
 }
 
 void VEKRawCollPV::RemovePosition(int iPosition) {
