@@ -30,7 +30,7 @@ extern VEKPRT2DMODEL_API VEKMetaClass* meta_object__25VEKPrtGraphicPrimitiveElt;
 ///
 /// The model gives no meaning to what it stores: units, the direction of the y axis, the sense of angles, the
 /// order of transforms, draw styles, transparency, boxes and clipping are what a consumer makes of them.  The
-/// header of the SVG consumer, VEKPrtSvg.h, says how that one reads them.
+/// header of the SVG consumer, SvgWriter.h, says how that one reads them.
 ///
 /// Derived classes append their virtual functions after GetTitle.
 class VEKPRT2DMODEL_API VEKPrtGraphicPrimitiveElt : public VEKBaseUnknown {
