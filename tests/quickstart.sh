@@ -1,5 +1,6 @@
 #!/bin/sh
-# The program of the README is the one that is built, and draws what it says: quickstart.sh SOURCE_DIRECTORY PROGRAM
+# The program of the README is the one that is built, draws what it says and notices a full disk:
+# quickstart.sh SOURCE_DIRECTORY PROGRAM
 set -eu
 listing=$(sed -n '/^```cpp$/,/^```$/p' "$1/README.md" | sed '1d;/^```$/,$d')
 [ -n "$listing" ] || { echo "quickstart: no listing in the README" >&2; exit 1; }
@@ -8,3 +9,7 @@ listing=$(sed -n '/^```cpp$/,/^```$/p' "$1/README.md" | sed '1d;/^```$/,$d')
     exit 1
 }
 "$2" | grep -q '<line x1="10" y1="10" x2="90" y2="40" stroke="#c81e28"'
+if "$2" > /dev/full; then
+    echo "quickstart: a full device goes unnoticed" >&2
+    exit 1
+fi

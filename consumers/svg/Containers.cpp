@@ -3,13 +3,15 @@
 #include <cmath>
 
 #include "Handlers.h"
-#include "Style.h"
+#include "VEKPrtChildren.h"
 #include "VEKPrtClosedFigureElt.h"
 #include "VEKPrtClosedFigureRegionElt.h"
 #include "VEKPrtGroupElt.h"
 #include "VEKPrtImageElt.h"
 #include "VEKPrtPatternElt.h"
 #include "VEKPrtSymbolElt.h"
+
+namespace vekprt::svg {
 
 namespace {
 
@@ -21,15 +23,16 @@ Area BoxOf(const SvgPage& iPage, const Container& iContainer) {
     iContainer.GetSize(box.width, box.height);
     box.x = origin.GetX();
     box.y = origin.GetY();
-    box.map = iPage.map;
+    box.map = iPage.place.map;
     return box;
 }
 
+// Not rounded to the grid: the error of a tile would grow with every repetition.
 void BoxAttributes(XmlWriter& ioXml, const Area& iBox) {
-    ioXml.Attribute("x", iBox.x);
-    ioXml.Attribute("y", iBox.y);
-    ioXml.Attribute("width", iBox.width);
-    ioXml.Attribute("height", iBox.height);
+    ioXml.Attribute("x", Number(iBox.x));
+    ioXml.Attribute("y", Number(iBox.y));
+    ioXml.Attribute("width", Number(iBox.width));
+    ioXml.Attribute("height", Number(iBox.height));
 }
 
 // What covers the area, in the coordinates of iMap.
@@ -49,127 +52,141 @@ Area Covering(const Area& iArea, const Affine& iMap) {
     return {low[0], low[1], high[0] - low[0], high[1] - low[1], iMap};
 }
 
-bool HasArea(const Area& iBox) {
-    return iBox.width > 0.0 && iBox.height > 0.0 && std::isfinite(iBox.x + iBox.y + iBox.width + iBox.height);
+template <class Container>
+void WriteChildren(SvgPage& ioPage, Container& ioContainer) {
+    for (VEKPrtGraphicPrimitiveElt& child : ChildrenOf(ioContainer))
+        WriteElement(ioPage, child);
+}
+
+template <class Container>
+void OutlineChildren(SvgPage& ioPage, PathData& ioPath, VEKPrtGraphicPrimitiveElt& ioElement,
+                     const Affine& iMap) {
+    auto& container = static_cast<Container&>(ioElement);
+    const Affine map = iMap * Compose(TransformOf(container));
+    for (VEKPrtGraphicPrimitiveElt& child : ChildrenOf(container))
+        AppendToRegion(ioPage, ioPath, child, map);
+}
+
+template <class Container>
+void AppendChildren(VEKPrtGraphicPrimitiveElt& ioElement,
+                    std::vector<VEKPrtGraphicPrimitiveElt*>& ioChildren) {
+    for (auto& child : ChildrenOf(static_cast<Container&>(ioElement)))
+        ioChildren.push_back(&child);
+}
+template <class... Containers>
+void AddWithChildren(SvgPage& ioPage) {
+    AddHandlers<Containers...>(ioPage);
+    ((ioPage.handlers[Containers::MetaObject()].appendChildren = &AppendChildren<Containers>), ...);
 }
 
 } // namespace
 
-void WriteChildren(SvgPage& ioPage, const VEKPrtMembers<VEKPrtGraphicPrimitiveElt>& iChildren) {
-    for (VEKPrtGraphicPrimitiveElt& child : iChildren)
-        WriteElement(ioPage, child);
+static void Write(SvgPage& ioPage, VEKPrtGraphicPrimitiveElt& ioBare) {
+    SvgElement(ioPage, ioBare, "g", Placement(ioPage));
 }
 
-void WriteBare(SvgPage& ioPage, VEKPrtGraphicPrimitiveElt& ioBare) {
-    SvgElement(ioPage, ioBare, "g").Content();
-}
-
-void Write(SvgPage& ioPage, VEKPrtGroupElt& ioGroup) {
+static void Write(SvgPage& ioPage, VEKPrtGroupElt& ioGroup) {
+    const Placement placement(ioPage, TransformOf(ioGroup));
     VEKPrtGroupAttributes attributes;
-    VEKPrintLinkURI link;
+    VEKPrintLinkURI uri;
     ioGroup.GetGroupAttributes(attributes);
-    attributes.GetLinkURI(link);
-    const bool linked = *link.GetURI() != '\0';
-    SvgElement element(ioPage, ioGroup, linked ? "a" : "g");
-    if (linked) element.Attribute("xlink:href", link.GetURI());
-    element.Transform(TransformOf(ioGroup)).Content();
-    WriteChildren(ioPage, ChildrenOf(ioGroup));
+    attributes.GetLinkURI(uri);
+    const std::string link = ioPage.LinkTo(ioGroup, uri.GetURI());
+    SvgElement element(ioPage, ioGroup, link.empty() ? "g" : "a", placement);
+    ioPage.xml.OptionalAttribute("xlink:href", link);
+    element.Content();
+    WriteChildren(ioPage, ioGroup);
 }
 
 // A page on a page: its children, under its matrix and, if it has them, in its own colours.
-void Write(SvgPage& ioPage, VEKPrtImageElt& ioNestedImage) {
+static void Write(SvgPage& ioPage, VEKPrtImageElt& ioNestedImage) {
     VEKMath2x2Matrix matrix;
     ioNestedImage.GetMatrix(matrix);
-    VEKPrtTransformAttributes transform;
-    transform.AddMatrix(matrix);
-    SvgElement element(ioPage, ioNestedImage, "g");
-    element.Transform(transform).Content();
-    VEKPrtColourTable* const outer = ioPage.colours;
+    Placement placement(ioPage);
+    if (matrix != VEKMath2x2Matrix()) placement.Add(Linear(matrix));
+    SvgElement element(ioPage, ioNestedImage, "g", placement);
+    element.Content();
     VEKPrtColourTable* own = nullptr;
     ioNestedImage.GetColourTable(own);
-    if (own) ioPage.colours = own;
-    WriteChildren(ioPage, ChildrenOf(ioNestedImage));
-    ioPage.colours = outer;
+    const unsigned outerUses = ioPage.uses;
+    if (own) ioPage.place.colours = own;
+    WriteChildren(ioPage, ioNestedImage);
+    if (own) ioPage.uses = (ioPage.uses & ~usesColours) | outerUses;
 }
 
-void Write(SvgPage& ioPage, VEKPrtSymbolElt& ioSymbol) {
-    SvgElement element(ioPage, ioSymbol, "g");
-    element.Transform(TransformOf(ioSymbol));
+static void Write(SvgPage& ioPage, VEKPrtSymbolElt& ioSymbol) {
+    const Placement placement(ioPage, TransformOf(ioSymbol));
+    SvgElement element(ioPage, ioSymbol, "g", placement);
     const Area box = BoxOf(ioPage, ioSymbol);
-    const Area outer = ioPage.area;
-    const std::string clip = HasArea(box) ? ioPage.NewId("clip") : std::string();
-    if (!clip.empty()) element.Attribute("clip-path", "url(#" + clip + ")");
-    element.Content();
-    if (!clip.empty()) {
-        ioPage.xml.Start("clipPath");
-        ioPage.xml.Attribute("id", clip);
-        ioPage.xml.Start("rect");
-        BoxAttributes(ioPage.xml, box);
-        ioPage.xml.End();
-        ioPage.xml.End();
-        ioPage.area = box;
+    if (box.IsEmpty()) {
+        element.Content();
+        return WriteChildren(ioPage, ioSymbol);
     }
-    WriteChildren(ioPage, ChildrenOf(ioSymbol));
-    ioPage.area = outer;
+    const std::string clip = ioPage.NewId("clip");
+    element.Attribute("clip-path", "url(#" + clip + ")").Content();
+    ioPage.xml.Start("clipPath", {{"id", clip}});
+    ioPage.xml.Start("rect");
+    BoxAttributes(ioPage.xml, box);
+    ioPage.xml.End(2);
+    const unsigned outerUses = ioPage.uses;
+    ioPage.place.area = box;
+    WriteChildren(ioPage, ioSymbol);
+    ioPage.uses = (ioPage.uses & ~usesArea) | outerUses;
 }
 
-void Write(SvgPage& ioPage, VEKPrtPatternElt& ioPattern) {
-    const Area tile = BoxOf(ioPage, ioPattern);
-    SvgElement element(ioPage, ioPattern, "g");
+static void Write(SvgPage& ioPage, VEKPrtPatternElt& ioPattern) {
+    SvgElement element(ioPage, ioPattern, "g", Placement(ioPage));
     element.Content();
-    if (!HasArea(tile) || ioPage.map.Determinant() == 0.0) {
-        ioPage.Warn(ioPattern, "a pattern whose box has no area");
-        return;
-    }
-    const Affine outer = ioPage.map;
-    const Area covered = Covering(ioPage.area, outer);
-    std::string transforms;
-    for (const Elementary& transform : TransformsOf(TransformOf(ioPattern))) {
-        transforms += (transforms.empty() ? "" : " ") + transform.svg;
-        ioPage.map = ioPage.map * transform.map;
-    }
+    const Affine& map = ioPage.place.map;
+    const Area tile = BoxOf(ioPage, ioPattern);
+    if (tile.IsEmpty() || map.Determinant() == 0.0)
+        return ioPage.Warn(ioPattern, "a pattern whose box has no area");
+    ioPage.uses |= usesArea;
+    const Area covered = Covering(ioPage.place.area, map);
     const std::string id = ioPage.NewId("pattern");
     XmlWriter& xml = ioPage.xml;
-    xml.Start("defs");
-    xml.Start("pattern");
-    xml.Attribute("id", id);
-    xml.Attribute("patternUnits", "userSpaceOnUse");
-    BoxAttributes(xml, tile);
-    xml.OptionalAttribute("patternTransform", transforms);
-    // The content keeps the coordinates of its surroundings, not of the tile.
-    xml.Start("g");
-    xml.Attribute("transform", "translate(" + Pair(-tile.x, -tile.y) + ")");
-    WriteChildren(ioPage, ChildrenOf(ioPattern));
-    xml.End();
-    xml.End();
-    xml.End();
-    ioPage.map = outer;
+    {
+        const Placement placement(ioPage, TransformOf(ioPattern));
+        xml.Start("defs");
+        xml.Start("pattern", {{"id", id}, {"patternUnits", "userSpaceOnUse"}});
+        BoxAttributes(xml, tile);
+        xml.OptionalAttribute("patternTransform", placement.Text());
+        // The content keeps the coordinates of its surroundings, not of the tile.
+        xml.Start("g", {{"transform", "translate(" + Number(-tile.x) + "," + Number(-tile.y) + ")"}});
+        WriteChildren(ioPage, ioPattern);
+        xml.End(3);
+    }
     xml.Start("rect");
     BoxAttributes(xml, covered);
     xml.Attribute("fill", "url(#" + id + ")");
     xml.End();
 }
 
-void Write(SvgPage& ioPage, VEKPrtClosedFigureElt& ioFigure) {
+static void Write(SvgPage& ioPage, VEKPrtClosedFigureElt& ioFigure) {
+    const Placement placement(ioPage, TransformOf(ioFigure));
     PathData path;
-    const Affine outer = ioPage.map;
-    ioPage.map = outer * Compose(TransformOf(ioFigure));
     for (VEKPrtClosedFigureRegionElt& region : ChildrenOf(ioFigure)) {
         AppendToRegion(ioPage, path, region, Affine());
         path.Close();
     }
-    ioPage.map = outer;
-    if (!ioPage.IsFinite(ioFigure, path)) return;
-    const Appearance look = AppearanceOf(ioPage, ioFigure);
-    SvgElement(ioPage, ioFigure, "path")
-        .Attribute("d", path.Text())
-        .Transform(TransformOf(ioFigure))
-        .Paint(look);
+    WritePath(ioPage, ioFigure, placement, path, AppearanceOf(ioPage, ioFigure));
 }
 
 // A region on its own has no appearance but that of its children.
-void Write(SvgPage& ioPage, VEKPrtClosedFigureRegionElt& ioRegion) {
-    SvgElement element(ioPage, ioRegion, "g");
-    element.Transform(TransformOf(ioRegion)).Content();
-    WriteChildren(ioPage, ChildrenOf(ioRegion));
+static void Write(SvgPage& ioPage, VEKPrtClosedFigureRegionElt& ioRegion) {
+    const Placement placement(ioPage, TransformOf(ioRegion));
+    SvgElement element(ioPage, ioRegion, "g", placement);
+    element.Content();
+    WriteChildren(ioPage, ioRegion);
 }
+
+void AddContainers(SvgPage& ioPage) {
+    AddHandlers<VEKPrtGraphicPrimitiveElt>(ioPage);
+    AddWithChildren<VEKPrtClosedFigureElt, VEKPrtClosedFigureRegionElt, VEKPrtGroupElt, VEKPrtImageElt,
+                    VEKPrtPatternElt, VEKPrtSymbolElt>(ioPage);
+    ioPage.handlers[VEKPrtGroupElt::MetaObject()].outline = &OutlineChildren<VEKPrtGroupElt>;
+    ioPage.handlers[VEKPrtClosedFigureRegionElt::MetaObject()].outline =
+        &OutlineChildren<VEKPrtClosedFigureRegionElt>;
+}
+
+} // namespace vekprt::svg

@@ -5,6 +5,8 @@
 
 #include "VEKPrtNURBSElt.h"
 
+namespace vekprt::svg {
+
 namespace {
 
 struct Homogeneous {
@@ -12,31 +14,28 @@ struct Homogeneous {
 };
 
 // A curve whose data has been found sound.
-class Curve {
-public:
-    Curve(int iOrder, int iCount, const double* iPoints, const double* iKnots, const double* iWeights)
-        : _order(iOrder), _count(iCount), _points(iPoints), _knots(iKnots), _weights(iWeights) {}
+struct Curve {
+    int order = 0, count = 0;
+    double *points = nullptr, *knots = nullptr, *weights = nullptr;
+    /// Room for the control points that bear on one span.
+    std::vector<Homogeneous> d = {};
 
-    double First() const { return _knots[_order - 1]; }
-    double Last() const { return _knots[_count]; }
-    const double* Knots() const { return _knots; }
-
-    // Within one knot span, by repeated interpolation of the control points that bear on it.
-    VEKMathPoint2D At(double iParameter) const {
-        const int span = Span(iParameter);
-        const int degree = _order - 1;
-        std::vector<Homogeneous> d(static_cast<std::size_t>(_order));
-        for (int j = 0; j <= degree; ++j) {
-            const int i = span - degree + j;
-            const double w = _weights[i];
-            const double* const point = _points + 2 * static_cast<std::ptrdiff_t>(i);
-            d[static_cast<std::size_t>(j)] = {point[0] * w, point[1] * w, w};
+    // By repeated interpolation within the last span of some length that begins at or before the parameter.
+    VEKMathPoint2D At(double iParameter) {
+        const int degree = order - 1;
+        int span = static_cast<int>(std::upper_bound(knots + degree, knots + count, iParameter) - knots) - 1;
+        while (span > degree && !(knots[span] < knots[span + 1]))
+            --span;
+        d.clear();
+        for (int i = span - degree; i <= span; ++i) {
+            const double* const point = points + 2 * static_cast<std::ptrdiff_t>(i);
+            d.push_back({point[0] * weights[i], point[1] * weights[i], weights[i]});
         }
         for (int level = 1; level <= degree; ++level) {
             for (int j = degree; j >= level; --j) {
                 const int i = span - degree + j;
-                const double width = _knots[i + _order - level] - _knots[i];
-                const double t = width > 0.0 ? (iParameter - _knots[i]) / width : 0.0;
+                const double width = knots[i + order - level] - knots[i];
+                const double t = width > 0.0 ? (iParameter - knots[i]) / width : 0.0;
                 const Homogeneous& left = d[static_cast<std::size_t>(j) - 1];
                 Homogeneous& right = d[static_cast<std::size_t>(j)];
                 right = {left.x + t * (right.x - left.x), left.y + t * (right.y - left.y),
@@ -45,23 +44,6 @@ public:
         }
         return {d.back().x / d.back().w, d.back().y / d.back().w};
     }
-
-private:
-    // The last span of some length that begins at or before the parameter.
-    int Span(double iParameter) const {
-        const double* const first = _knots + _order - 1;
-        const double* const last = _knots + _count;
-        int span = static_cast<int>(std::upper_bound(first, last, iParameter) - _knots) - 1;
-        while (span > _order - 1 && !(_knots[span] < _knots[span + 1]))
-            --span;
-        return span;
-    }
-
-    int _order;
-    int _count;
-    const double* _points;
-    const double* _knots;
-    const double* _weights;
 };
 
 bool AllFinite(const double* iValues, int iCount) {
@@ -74,29 +56,30 @@ double Distance(const VEKMathPoint2D& iA, const VEKMathPoint2D& iB) {
 
 // Halves the interval, a few times in any case, until its middle is that of the chord; appends all but the
 // first point.
-void Subdivide(const Curve& iCurve, double iFrom, double iTo, const VEKMathPoint2D& iFirst,
+void Subdivide(Curve& ioCurve, double iFrom, double iTo, const VEKMathPoint2D& iFirst,
                const VEKMathPoint2D& iLast, double iTolerance, int iDepth,
                std::vector<VEKMathPoint2D>& ioPoints) {
     constexpr int least = 3, most = 10;
     const double middle = iFrom + (iTo - iFrom) / 2.0;
-    const VEKMathPoint2D point = iCurve.At(middle);
+    const VEKMathPoint2D point = ioCurve.At(middle);
     const VEKMathPoint2D chord((iFirst.GetX() + iLast.GetX()) / 2.0, (iFirst.GetY() + iLast.GetY()) / 2.0);
     if (iDepth >= most || (iDepth >= least && Distance(point, chord) <= iTolerance)) {
         ioPoints.push_back(iLast);
         return;
     }
-    Subdivide(iCurve, iFrom, middle, iFirst, point, iTolerance, iDepth + 1, ioPoints);
-    Subdivide(iCurve, middle, iTo, point, iLast, iTolerance, iDepth + 1, ioPoints);
+    Subdivide(ioCurve, iFrom, middle, iFirst, point, iTolerance, iDepth + 1, ioPoints);
+    Subdivide(ioCurve, middle, iTo, point, iLast, iTolerance, iDepth + 1, ioPoints);
 }
 
 } // namespace
 
 std::vector<VEKMathPoint2D> SampleNurbs(const VEKPrtNURBSElt& iCurve, double iTolerance,
                                         std::string& oProblem) {
-    int order = 0, count = 0;
-    double *points = nullptr, *knots = nullptr, *weights = nullptr;
+    Curve curve;
     float firstBound = 0, secondBound = 0;
-    iCurve.GetParameters(order, count, points, knots, firstBound, secondBound, weights);
+    iCurve.GetParameters(curve.order, curve.count, curve.points, curve.knots, firstBound, secondBound,
+                         curve.weights);
+    const auto& [order, count, points, knots, weights, room] = curve;
 
     const auto fail = [&](const char* iProblem) {
         oProblem = iProblem;
@@ -109,9 +92,8 @@ std::vector<VEKMathPoint2D> SampleNurbs(const VEKPrtNURBSElt& iCurve, double iTo
     if (!std::is_sorted(knots, knots + order + count)) return fail("knots that decrease");
     if (*std::min_element(weights, weights + count) <= 0.0) return fail("weights that are not positive");
 
-    const Curve curve(order, count, points, knots, weights);
-    const double first = std::max(curve.First(), static_cast<double>(firstBound));
-    const double last = std::min(curve.Last(), static_cast<double>(secondBound));
+    const double first = std::max<double>(knots[order - 1], firstBound);
+    const double last = std::min<double>(knots[count], secondBound);
     if (!(first < last)) return fail("bounds outside the range of the knots");
 
     // Never finer than a millionth of the curve: a page without size asks for no tolerance at all.
@@ -128,3 +110,5 @@ std::vector<VEKMathPoint2D> SampleNurbs(const VEKPrtNURBSElt& iCurve, double iTo
         Subdivide(curve, stops[i - 1], stops[i], samples.back(), curve.At(stops[i]), tolerance, 0, samples);
     return samples;
 }
+
+} // namespace vekprt::svg

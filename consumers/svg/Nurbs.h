@@ -9,6 +9,8 @@
 
 class VEKPrtNURBSElt;
 
+namespace vekprt::svg {
+
 /// Points along the curve, so close that the polygon through them leaves it by no more than \p iTolerance.
 ///
 /// Drawn is the part of the curve's parameter range that lies within the element's two bounds.  Empty, with
@@ -17,5 +19,7 @@ class VEKPrtNURBSElt;
 /// bounds outside the range.
 std::vector<VEKMathPoint2D> SampleNurbs(const VEKPrtNURBSElt& iCurve, double iTolerance,
                                         std::string& oProblem);
+
+} // namespace vekprt::svg
 
 #endif

@@ -3,50 +3,35 @@
 #include <algorithm>
 #include <cmath>
 
+#include "FrameworkValues.h"
 #include "VEKPrtTransformAttributes.h"
-#include "Xml.h"
+
+namespace vekprt::svg {
 
 namespace {
 
 double Radians(double iDegrees) { return iDegrees * 3.14159265358979323846 / 180.0; }
 
-// The transform at one position; no text for what has no value.
-Elementary TransformAt(const VEKPrtTransformAttributes& iTransforms, unsigned iIndex,
-                       VEKPrintTransformType iKind) {
+Elementary TransformAt(const VEKPrtTransformAttributes& iTransforms, unsigned iIndex, int iKind) {
     double scale = 1;
     float angle = 0;
     VEKMathVector2D vector;
-    VEKMath2x2Matrix m;
+    VEKMath2x2Matrix matrix;
+    // What has no value leaves these as they are.
     switch (iKind) {
-    case VEKPrintTransformMatrix: {
-        if (iTransforms.GetMatrix(iIndex, m) != 1) break;
-        const Affine map = {m.GetCoef(1, 1), m.GetCoef(2, 1), m.GetCoef(1, 2), m.GetCoef(2, 2), 0, 0};
-        return {Matrix(map), map};
+    case transformMatrix: iTransforms.GetMatrix(iIndex, matrix); return Linear(matrix);
+    case transformTranslation:
+        iTransforms.GetTranslation(iIndex, vector);
+        return Translation(vector.GetX(), vector.GetY());
+    case transformRotation: iTransforms.GetRotation(iIndex, angle); return Rotation(angle, Number(angle));
+    case transformScaleX: iTransforms.GetScaleX(iIndex, scale); return Scaling(scale, 1);
+    case transformScaleY: iTransforms.GetScaleY(iIndex, scale); return Scaling(1, scale);
+    case transformSkewX: iTransforms.GetSkewX(iIndex, angle); return SkewX(angle);
+    case transformSkewY:
+        iTransforms.GetSkewY(iIndex, angle);
+        return {{1, std::tan(Radians(angle)), 0, 1, 0, 0}, "skewY(" + Number(angle) + ")"};
+    default: return {};
     }
-    case VEKPrintTransformTranslation:
-        if (iTransforms.GetTranslation(iIndex, vector) != 1) break;
-        return {"translate(" + Pair(vector.GetX(), vector.GetY()) + ")",
-                {1, 0, 0, 1, vector.GetX(), vector.GetY()}};
-    case VEKPrintTransformRotation: {
-        if (iTransforms.GetRotation(iIndex, angle) != 1) break;
-        const double cosine = std::cos(Radians(angle)), sine = std::sin(Radians(angle));
-        return {"rotate(" + Number(angle) + ")", {cosine, sine, -sine, cosine, 0, 0}};
-    }
-    case VEKPrintTransformScaleX:
-        if (iTransforms.GetScaleX(iIndex, scale) != 1) break;
-        return {"scale(" + Pair(scale, 1) + ")", {scale, 0, 0, 1, 0, 0}};
-    case VEKPrintTransformScaleY:
-        if (iTransforms.GetScaleY(iIndex, scale) != 1) break;
-        return {"scale(" + Pair(1, scale) + ")", {1, 0, 0, scale, 0, 0}};
-    case VEKPrintTransformSkewX:
-        if (iTransforms.GetSkewX(iIndex, angle) != 1) break;
-        return {"skewX(" + Number(angle) + ")", {1, 0, std::tan(Radians(angle)), 1, 0, 0}};
-    case VEKPrintTransformSkewY:
-        if (iTransforms.GetSkewY(iIndex, angle) != 1) break;
-        return {"skewY(" + Number(angle) + ")", {1, std::tan(Radians(angle)), 0, 1, 0, 0}};
-    default: break;
-    }
-    return {};
 }
 
 // Ends that meet are seldom equal to the last bit.
@@ -55,6 +40,12 @@ bool Meet(const VEKMathPoint2D& iA, const VEKMathPoint2D& iB) {
     return std::hypot(iA.GetX() - iB.GetX(), iA.GetY() - iB.GetY()) <= near;
 }
 
+bool IsFinitePoint(const VEKMathPoint2D& iPoint) {
+    return std::isfinite(iPoint.GetX()) && std::isfinite(iPoint.GetY());
+}
+
+int PointCount(char iCommand) { return iCommand == 'Z' ? 0 : iCommand == 'Q' ? 2 : iCommand == 'C' ? 3 : 1; }
+
 } // namespace
 
 Affine Affine::operator*(const Affine& iInner) const {
@@ -62,11 +53,33 @@ Affine Affine::operator*(const Affine& iInner) const {
             b * iInner.c + d * iInner.d, a * iInner.e + c * iInner.f + e, b * iInner.e + d * iInner.f + f};
 }
 
+bool Affine::operator==(const Affine& iOther) const {
+    return a == iOther.a && b == iOther.b && c == iOther.c && d == iOther.d && e == iOther.e && f == iOther.f;
+}
+
 double Affine::Scale() const { return std::sqrt(std::fabs(Determinant())); }
+double Affine::Stretch() const { return std::max(std::hypot(a, b), std::hypot(c, d)); }
 
 Affine Affine::Inverse() const {
     const double det = Determinant();
     return {d / det, -b / det, -c / det, a / det, (c * f - d * e) / det, (b * e - a * f) / det};
+}
+
+Elementary Linear(const VEKMath2x2Matrix& iMatrix) {
+    const auto at = [&](int iRow, int iColumn) { return iMatrix.GetCoef(iRow, iColumn); };
+    const Affine map = {at(1, 1), at(2, 1), at(1, 2), at(2, 2), 0, 0};
+    return {map, Matrix(map)};
+}
+Elementary Translation(double iX, double iY) { return {{1, 0, 0, 1, iX, iY}, {}}; }
+Elementary Rotation(double iDegrees, const std::string& iText) {
+    const double cosine = std::cos(Radians(iDegrees)), sine = std::sin(Radians(iDegrees));
+    return {{cosine, sine, -sine, cosine, 0, 0}, "rotate(" + iText + ")"};
+}
+Elementary Scaling(double iX, double iY) {
+    return {{iX, 0, 0, iY, 0, 0}, "scale(" + Number(iX) + "," + Number(iY) + ")"};
+}
+Elementary SkewX(float iDegrees) {
+    return {{1, 0, std::tan(Radians(iDegrees)), 1, 0, 0}, "skewX(" + Number(iDegrees) + ")"};
 }
 
 std::vector<Elementary> TransformsOf(const VEKPrtTransformAttributes& iTransforms) {
@@ -74,10 +87,8 @@ std::vector<Elementary> TransformsOf(const VEKPrtTransformAttributes& iTransform
     VEKPrintTransformType* kinds = nullptr;
     iTransforms.GetTransformTab(count, kinds);
     std::vector<Elementary> transforms;
-    for (unsigned i = 0; kinds && i < count; ++i) {
-        Elementary transform = TransformAt(iTransforms, i, kinds[i]);
-        if (!transform.svg.empty()) transforms.push_back(std::move(transform));
-    }
+    for (unsigned i = 0; kinds && i < count; ++i)
+        transforms.push_back(TransformAt(iTransforms, i, kinds[i]));
     return transforms;
 }
 
@@ -88,18 +99,27 @@ Affine Compose(const VEKPrtTransformAttributes& iTransforms) {
     return map;
 }
 
+// What is nothing beside the others of its kind is the noise of a computation.
 std::string Matrix(const Affine& iMap) {
-    std::string text = "matrix(";
-    for (const double value : {iMap.a, iMap.b, iMap.c, iMap.d, iMap.e, iMap.f})
-        text += (text.back() == '(' ? "" : " ") + Number(value);
+    constexpr double noise = 1e-12;
+    std::string text;
+    const auto append = [&](std::initializer_list<double> iValues) {
+        double largest = 0;
+        for (const double value : iValues)
+            largest = std::max(largest, std::fabs(value));
+        for (const double value : iValues)
+            text +=
+                (text.empty() ? "matrix(" : " ") + Number(std::fabs(value) < largest * noise ? 0.0 : value);
+    };
+    append({iMap.a, iMap.b, iMap.c, iMap.d});
+    append({iMap.e, iMap.f});
     return text + ")";
 }
 
-void PathData::Add(char iCommand, std::vector<VEKMathPoint2D> iPoints) {
+void PathData::Add(char iCommand, std::initializer_list<VEKMathPoint2D> iPoints) {
+    _commands += iCommand;
     for (const VEKMathPoint2D& point : iPoints)
-        _finite = _finite && std::isfinite(point.GetX()) && std::isfinite(point.GetY());
-    const bool open = !_segments.empty() && _segments.back().command != 'Z';
-    if (iCommand != 'Z' || open) _segments.push_back({iCommand, std::move(iPoints)});
+        _points.push_back(point);
 }
 
 void PathData::QuadraticTo(const double* iTwoPoints) {
@@ -112,14 +132,13 @@ void PathData::CubicTo(const double* iThreePoints) {
     Add('C', {_map(p[0], p[1]), _map(p[2], p[3]), _map(p[4], p[5])});
 }
 
+void PathData::Close() {
+    if (IsOpen()) _commands += 'Z';
+}
+
 void PathData::Arc(const VEKMathPoint2D& iCentre, double iRadiusX, double iRadiusY, double iSlope,
                    double iStart, double iEnd) {
-    const VEKMathPoint2D start = OnEllipse(iCentre, iRadiusX, iRadiusY, iSlope, iStart);
-    MoveTo(start.GetX(), start.GetY());
-    if (!_finite || !std::isfinite(iEnd)) {
-        _finite = false;
-        return;
-    }
+    if (!std::isfinite(iStart + iEnd)) return MoveTo(NAN, NAN);
     // Pieces of 45 degrees at most: off the true arc by less than 5 millionths of the radius.
     const int pieces = std::max(1, static_cast<int>(std::ceil((iEnd - iStart) / 45.0 - 1e-9)));
     const double step = Radians(iEnd - iStart) / pieces;
@@ -129,6 +148,7 @@ void PathData::Arc(const VEKMathPoint2D& iCentre, double iRadiusX, double iRadiu
     const Affine outer = _map;
     _map = outer * Affine{iRadiusX * cosSlope, iRadiusX * sinSlope, -iRadiusY * sinSlope,
                           iRadiusY * cosSlope, iCentre.GetX(),      iCentre.GetY()};
+    MoveTo(std::cos(Radians(iStart)), std::sin(Radians(iStart)));
     for (int i = 0; i < pieces; ++i) {
         const double from = Radians(iStart) + i * step;
         const double to = from + step;
@@ -143,46 +163,63 @@ void PathData::Arc(const VEKMathPoint2D& iCentre, double iRadiusX, double iRadiu
     _map = outer;
 }
 
-bool PathData::IsOneOpenLine() const {
-    return std::count_if(_segments.begin(), _segments.end(),
-                         [](const Segment& s) { return s.command == 'M' || s.command == 'Z'; }) == 1;
-}
-
-// Of one open line: each segment runs from the end of the one before.
-PathData PathData::Reversed() const {
-    PathData reversed;
-    reversed.Add('M', {_segments.back().points.back()});
-    for (std::size_t i = _segments.size() - 1; i > 0; --i) {
-        std::vector<VEKMathPoint2D> points(_segments[i].points.rbegin() + 1, _segments[i].points.rend());
-        points.push_back(_segments[i - 1].points.back());
-        reversed.Add(_segments[i].command, std::move(points));
+void PathData::Join(PathData iPrimitive) {
+    std::string& commands = iPrimitive._commands;
+    std::vector<VEKMathPoint2D>& points = iPrimitive._points;
+    if (commands.empty()) return;
+    const bool oneOpenLine = commands.find_first_of("MZ", 1) == std::string::npos;
+    std::size_t joined = 0;
+    if (IsOpen() && oneOpenLine) {
+        // Back to front, each segment runs from the end of the next one to its own beginning.
+        if (!Meet(_points.back(), points.front()) && Meet(_points.back(), points.back())) {
+            std::reverse(commands.begin() + 1, commands.end());
+            std::reverse(points.begin(), points.end());
+        }
+        joined = Meet(_points.back(), points.front()) ? 1 : 0;
+        commands.front() = 'L';
     }
-    return reversed;
+    const auto skipped = static_cast<std::ptrdiff_t>(joined);
+    _commands.append(commands, joined);
+    _points.insert(_points.end(), points.begin() + skipped, points.end());
 }
 
-void PathData::Join(const PathData& iPrimitive) {
-    _finite = _finite && iPrimitive._finite;
-    if (iPrimitive._segments.empty()) return;
-    const bool open = !_segments.empty() && _segments.back().command != 'Z';
-    const auto first = iPrimitive._segments.begin();
-    if (!open || !iPrimitive.IsOneOpenLine()) {
-        _segments.insert(_segments.end(), first, iPrimitive._segments.end());
-        return;
-    }
-    const VEKMathPoint2D last = _segments.back().points.back();
-    const bool begins = Meet(last, first->points.back());
-    if (!begins && Meet(last, iPrimitive._segments.back().points.back())) return Join(iPrimitive.Reversed());
-    if (!begins) Add('L', first->points);
-    _segments.insert(_segments.end(), first + 1, iPrimitive._segments.end());
-}
+bool PathData::IsFinite() const { return std::all_of(_points.begin(), _points.end(), IsFinitePoint); }
 
-std::string PathData::Text() const {
+// Differences of rounded coordinates, which add up to rounded coordinates.  Readers add in single precision:
+// segments in absolute coordinates, every now and then, keep them on course.
+std::string PathData::Text(const Grid& iGrid) const {
+    constexpr int longest = 64;
+    double extent = 0;
+    for (const VEKMathPoint2D& point : _points)
+        extent = std::max({extent, std::fabs(point.GetX()), std::fabs(point.GetY())});
+    const bool counted = iGrid.Holds(2.0 * extent);
+
     std::string text;
-    for (const Segment& segment : _segments) {
-        if (!text.empty()) text += ' ';
-        text += segment.command;
-        for (std::size_t i = 0; i < segment.points.size(); ++i)
-            text += (i ? " " : "") + Pair(segment.points[i].GetX(), segment.points[i].GetY());
+    text.reserve(_points.size() * 16);
+    std::int64_t from[2] = {0, 0}, to[2] = {0, 0};
+    char last = 0;
+    int differences = 0;
+    const VEKMathPoint2D* point = _points.data();
+    for (const char command : _commands) {
+        const bool relative = counted && command != 'M' && differences < longest;
+        differences = relative ? differences + 1 : 0;
+        const char letter = relative && command != 'Z' ? static_cast<char>(command - 'A' + 'a') : command;
+        text += letter != last || command == 'M' ? letter : ' ';
+        last = letter;
+        for (int i = 0; i < PointCount(command); ++i, ++point) {
+            if (i > 0) text += ' ';
+            for (const int axis : {0, 1}) {
+                const double value = axis == 0 ? point->GetX() : point->GetY();
+                if (axis > 0) text += ',';
+                if (counted) {
+                    to[axis] = iGrid.Units(value);
+                    iGrid.AppendUnits(text, relative ? to[axis] - from[axis] : to[axis]);
+                } else {
+                    text += iGrid(value);
+                }
+            }
+        }
+        std::copy(to, to + 2, from);
     }
     return text;
 }
@@ -193,11 +230,4 @@ double ArcEnd(double iStart, double iEnd) {
     return iStart + sweep;
 }
 
-VEKMathPoint2D OnEllipse(const VEKMathPoint2D& iCentre, double iRadiusX, double iRadiusY, double iSlope,
-                         double iParameter) {
-    const double x = iRadiusX * std::cos(Radians(iParameter));
-    const double y = iRadiusY * std::sin(Radians(iParameter));
-    const double cosSlope = std::cos(Radians(iSlope));
-    const double sinSlope = std::sin(Radians(iSlope));
-    return {iCentre.GetX() + x * cosSlope - y * sinSlope, iCentre.GetY() + x * sinSlope + y * cosSlope};
-}
+} // namespace vekprt::svg

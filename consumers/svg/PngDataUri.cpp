@@ -1,9 +1,12 @@
-#include "PngDataUri.h"
+// Pixel images as PNG in a data URI.
 
 #include <png.h>
 #include <vector>
 
+#include "Style.h"
 #include "VEKPixelImage.h"
+
+namespace vekprt::svg {
 
 namespace {
 
@@ -40,3 +43,5 @@ std::string PngDataUri(const VEKPixelImage& iImage) {
     bytes.resize(size);
     return "data:image/png;base64," + Base64(bytes);
 }
+
+} // namespace vekprt::svg

@@ -3,9 +3,9 @@
 #include <cmath>
 #include <vector>
 
+#include "FrameworkValues.h"
 #include "Handlers.h"
 #include "Nurbs.h"
-#include "Style.h"
 #include "VEKPrtCircleElt.h"
 #include "VEKPrtCircularArcElt.h"
 #include "VEKPrtDisjointPolylineElt.h"
@@ -20,6 +20,8 @@
 #include "VEKPrtPolygonElt.h"
 #include "VEKPrtPolylineElt.h"
 #include "VEKPrtRectangleElt.h"
+
+namespace vekprt::svg {
 
 namespace {
 
@@ -66,88 +68,81 @@ void AppendArc(PathData& ioPath, const EllipseShape& iArc, double iEnd) {
     ioPath.Arc(iArc.centre, iArc.radiusX, iArc.radiusY, iArc.slope, iArc.start, iEnd);
 }
 
-// False, with a warning, for a path that has a point which is not finite.
-template <class Element>
-bool OutlineText(SvgPage& ioPage, const Element& iElement, std::string& oText) {
-    const Affine outer = ioPage.map;
-    ioPage.map = outer * Compose(TransformOf(iElement));
-    PathData path;
-    Outline(ioPage, path, iElement);
-    ioPage.map = outer;
-    oText = path.Text();
-    return ioPage.IsFinite(iElement, path);
+void AppendLine(PathData& ioPath, std::initializer_list<double> iXy) {
+    AppendPolyline(ioPath, {iXy.begin(), static_cast<int>(iXy.size() / 2)});
 }
 
-template <class Element>
-void WriteStroked(SvgPage& ioPage, const Element& iElement) {
-    std::string text;
-    if (!OutlineText(ioPage, iElement, text)) return;
-    SvgElement(ioPage, iElement, "path")
-        .Attribute("d", text)
-        .Transform(TransformOf(iElement))
-        .NoFill()
-        .Stroke(StrokeOf(iElement));
-}
-
-template <class Element>
-void WritePainted(SvgPage& ioPage, const Element& iElement) {
-    std::string text;
-    if (!OutlineText(ioPage, iElement, text)) return;
-    const Appearance look = AppearanceOf(ioPage, iElement);
-    SvgElement(ioPage, iElement, "path").Attribute("d", text).Transform(TransformOf(iElement)).Paint(look);
-}
-
-// In the square from -0.5 to 0.5; none for the round ones.
-std::vector<std::vector<double>> MarkerLines(VEKPrintMarkerAttribute iStyle) {
+// In the square from -0.5 to 0.5.
+void AppendMarker(PathData& ioPath, int iStyle) {
     switch (iStyle) {
-    case VEKPrintMarkerCross: return {{-.5, -.5, .5, .5}, {-.5, .5, .5, -.5}};
-    case VEKPrintMarkerAsterisk: return {{0, -.5, 0, .5}, {-.433, -.25, .433, .25}, {-.433, .25, .433, -.25}};
-    case VEKPrintMarkerSquare: return {{-.5, -.5, .5, -.5, .5, .5, -.5, .5, -.5, -.5}};
-    case VEKPrintMarkerDiamond: return {{0, -.5, .5, 0, 0, .5, -.5, 0, 0, -.5}};
-    case VEKPrintMarkerTriangle: return {{-.5, -.4, .5, -.4, 0, .5, -.5, -.4}};
-    case VEKPrintMarkerCircle:
-    case VEKPrintMarkerDisc: return {};
-    default: return {{-.5, 0, .5, 0}, {0, -.5, 0, .5}};
+    case markerCross: AppendLine(ioPath, {-.5, -.5, .5, .5}); return AppendLine(ioPath, {-.5, .5, .5, -.5});
+    case markerAsterisk:
+        AppendLine(ioPath, {0, -.5, 0, .5});
+        AppendLine(ioPath, {-.433, -.25, .433, .25});
+        return AppendLine(ioPath, {-.433, .25, .433, -.25});
+    case markerSquare: return AppendLine(ioPath, {-.5, -.5, .5, -.5, .5, .5, -.5, .5, -.5, -.5});
+    case markerDiamond: return AppendLine(ioPath, {0, -.5, .5, 0, 0, .5, -.5, 0, 0, -.5});
+    case markerTriangle: return AppendLine(ioPath, {-.5, -.4, .5, -.4, 0, .5, -.5, -.4});
+    case markerCircle:
+    case markerDisc: return ioPath.Arc(VEKMathPoint2D(), 0.5, 0.5, 0.0, 0.0, 360.0);
+    default: AppendLine(ioPath, {-.5, 0, .5, 0}); AppendLine(ioPath, {0, -.5, 0, .5});
     }
+}
+
+template <class Element>
+void OutlineAs(SvgPage& ioPage, PathData& ioPath, VEKPrtGraphicPrimitiveElt& ioElement, const Affine& iMap) {
+    auto& element = static_cast<Element&>(ioElement);
+    PathData primitive;
+    primitive.SetMap(iMap * Compose(TransformOf(element)));
+    Outline(ioPage, primitive, element);
+    ioPath.Join(std::move(primitive));
+}
+template <class... Elements>
+void AddOutlines(SvgPage& ioPage) {
+    AddHandlers<Elements...>(ioPage);
+    ((ioPage.handlers[Elements::MetaObject()].outline = &OutlineAs<Elements>), ...);
 }
 
 } // namespace
 
-void Write(SvgPage& ioPage, VEKPrtLineElt& ioLine) {
-    VEKMathPoint2D start, end;
-    ioLine.GetParameters(start, end);
-    if (!ioPage.AreFinite(ioLine, {start.GetX(), start.GetY(), end.GetX(), end.GetY()})) return;
-    SvgElement(ioPage, ioLine, "line")
-        .Attribute("x1", start.GetX())
-        .Attribute("y1", start.GetY())
-        .Attribute("x2", end.GetX())
-        .Attribute("y2", end.GetY())
-        .Transform(TransformOf(ioLine))
-        .Stroke(StrokeOf(ioLine));
+// Any shape that has no function of its own: a path along its outline.
+template <class Element>
+static void Write(SvgPage& ioPage, Element& ioElement) {
+    const Placement placement(ioPage, TransformOf(ioElement));
+    PathData path;
+    Outline(ioPage, path, ioElement);
+    WritePath(ioPage, ioElement, placement, path, AppearanceOf(ioPage, ioElement));
 }
 
-void Outline(SvgPage&, PathData& ioPath, const VEKPrtLineElt& iLine) {
+static void Write(SvgPage& ioPage, VEKPrtLineElt& ioLine) {
+    VEKMathPoint2D p, q;
+    ioLine.GetParameters(p, q);
+    const Placement placement(ioPage, TransformOf(ioLine));
+    WriteShape(ioPage, ioLine, "line", placement,
+               {{"x1", p.GetX()}, {"y1", p.GetY()}, {"x2", q.GetX()}, {"y2", q.GetY()}},
+               {VEKPrtDrawOutline, StrokeOf(ioLine), {}, {}});
+}
+
+static void Outline(SvgPage&, PathData& ioPath, const VEKPrtLineElt& iLine) {
     VEKMathPoint2D start, end;
     iLine.GetParameters(start, end);
     ioPath.MoveTo(start.GetX(), start.GetY());
     ioPath.LineTo(end.GetX(), end.GetY());
 }
 
-void Write(SvgPage& ioPage, VEKPrtRectangleElt& ioRectangle) {
-    VEKMathPoint2D first, second;
-    ioRectangle.GetPoints(first, second);
-    if (!ioPage.AreFinite(ioRectangle, {first.GetX(), first.GetY(), second.GetX(), second.GetY()})) return;
-    const Appearance look = AppearanceOf(ioPage, ioRectangle);
-    SvgElement(ioPage, ioRectangle, "rect")
-        .Attribute("x", std::min(first.GetX(), second.GetX()))
-        .Attribute("y", std::min(first.GetY(), second.GetY()))
-        .Attribute("width", std::fabs(second.GetX() - first.GetX()))
-        .Attribute("height", std::fabs(second.GetY() - first.GetY()))
-        .Transform(TransformOf(ioRectangle))
-        .Paint(look);
+static void Write(SvgPage& ioPage, VEKPrtRectangleElt& ioRectangle) {
+    VEKMathPoint2D p, q;
+    ioRectangle.GetPoints(p, q);
+    const Placement placement(ioPage, TransformOf(ioRectangle));
+    WriteShape(ioPage, ioRectangle, "rect", placement,
+               {{"x", std::min(p.GetX(), q.GetX())},
+                {"y", std::min(p.GetY(), q.GetY())},
+                {"width", std::fabs(q.GetX() - p.GetX())},
+                {"height", std::fabs(q.GetY() - p.GetY())}},
+               AppearanceOf(ioPage, ioRectangle));
 }
 
-void Outline(SvgPage&, PathData& ioPath, const VEKPrtRectangleElt& iRectangle) {
+static void Outline(SvgPage&, PathData& ioPath, const VEKPrtRectangleElt& iRectangle) {
     VEKMathPoint2D first, second;
     iRectangle.GetPoints(first, second);
     ioPath.MoveTo(first.GetX(), first.GetY());
@@ -157,21 +152,17 @@ void Outline(SvgPage&, PathData& ioPath, const VEKPrtRectangleElt& iRectangle) {
     ioPath.Close();
 }
 
-void Write(SvgPage& ioPage, VEKPrtCircleElt& ioCircle) {
+static void Write(SvgPage& ioPage, VEKPrtCircleElt& ioCircle) {
     VEKMathPoint2D centre;
     double radius = 0;
     ioCircle.GetParameters(centre, radius);
-    if (!ioPage.AreFinite(ioCircle, {centre.GetX(), centre.GetY(), radius})) return;
-    const Appearance look = AppearanceOf(ioPage, ioCircle);
-    SvgElement(ioPage, ioCircle, "circle")
-        .Attribute("cx", centre.GetX())
-        .Attribute("cy", centre.GetY())
-        .Attribute("r", std::fabs(radius))
-        .Transform(TransformOf(ioCircle))
-        .Paint(look);
+    const Placement placement(ioPage, TransformOf(ioCircle));
+    WriteShape(ioPage, ioCircle, "circle", placement,
+               {{"cx", centre.GetX()}, {"cy", centre.GetY()}, {"r", std::fabs(radius)}},
+               AppearanceOf(ioPage, ioCircle));
 }
 
-void Outline(SvgPage&, PathData& ioPath, const VEKPrtCircleElt& iCircle) {
+static void Outline(SvgPage&, PathData& ioPath, const VEKPrtCircleElt& iCircle) {
     EllipseShape shape;
     iCircle.GetParameters(shape.centre, shape.radiusX);
     shape.radiusY = shape.radiusX;
@@ -179,54 +170,50 @@ void Outline(SvgPage&, PathData& ioPath, const VEKPrtCircleElt& iCircle) {
     ioPath.Close();
 }
 
-void Outline(SvgPage&, PathData& ioPath, const VEKPrtCircularArcElt& iArc) {
+static void Outline(SvgPage&, PathData& ioPath, const VEKPrtCircularArcElt& iArc) {
     EllipseShape shape;
     iArc.GetParameters(shape.centre, shape.radiusX, shape.start, shape.end);
     shape.radiusY = shape.radiusX;
     AppendArc(ioPath, shape, ArcEnd(shape.start, shape.end));
 }
 
-void Write(SvgPage& ioPage, VEKPrtEllipseElt& ioEllipse) {
+static void Write(SvgPage& ioPage, VEKPrtEllipseElt& ioEllipse) {
     EllipseShape shape;
     ioEllipse.GetParameters(shape.centre, shape.radiusX, shape.radiusY, shape.slope);
-    if (!ioPage.AreFinite(
-            ioEllipse, {shape.centre.GetX(), shape.centre.GetY(), shape.radiusX, shape.radiusY, shape.slope}))
-        return;
-    const Appearance look = AppearanceOf(ioPage, ioEllipse);
-    const std::string slope = "rotate(" + Number(shape.slope) + " " + Number(shape.centre.GetX()) + " " +
-                              Number(shape.centre.GetY()) + ")";
-    SvgElement(ioPage, ioEllipse, "ellipse")
-        .Attribute("cx", shape.centre.GetX())
-        .Attribute("cy", shape.centre.GetY())
-        .Attribute("rx", std::fabs(shape.radiusX))
-        .Attribute("ry", std::fabs(shape.radiusY))
-        .Transform(TransformOf(ioEllipse), shape.slope != 0.0F ? slope : std::string())
-        .Paint(look);
+    // Turned as a whole, the element would turn its fill pattern, too.
+    if (shape.slope != 0.0F) return Write<VEKPrtEllipseElt>(ioPage, ioEllipse);
+    const Placement placement(ioPage, TransformOf(ioEllipse));
+    WriteShape(ioPage, ioEllipse, "ellipse", placement,
+               {{"cx", shape.centre.GetX()},
+                {"cy", shape.centre.GetY()},
+                {"rx", std::fabs(shape.radiusX)},
+                {"ry", std::fabs(shape.radiusY)}},
+               AppearanceOf(ioPage, ioEllipse));
 }
 
-void Outline(SvgPage&, PathData& ioPath, const VEKPrtEllipseElt& iEllipse) {
+static void Outline(SvgPage&, PathData& ioPath, const VEKPrtEllipseElt& iEllipse) {
     EllipseShape shape;
     iEllipse.GetParameters(shape.centre, shape.radiusX, shape.radiusY, shape.slope);
     AppendArc(ioPath, shape, 360.0);
     ioPath.Close();
 }
 
-void Outline(SvgPage&, PathData& ioPath, const VEKPrtEllipticalArcElt& iArc) {
+static void Outline(SvgPage&, PathData& ioPath, const VEKPrtEllipticalArcElt& iArc) {
     EllipseShape shape;
     iArc.GetParameters(shape.centre, shape.radiusX, shape.radiusY, shape.start, shape.end, shape.slope);
     AppendArc(ioPath, shape, ArcEnd(shape.start, shape.end));
 }
 
-void Outline(SvgPage&, PathData& ioPath, const VEKPrtPolylineElt& iPolyline) {
+static void Outline(SvgPage&, PathData& ioPath, const VEKPrtPolylineElt& iPolyline) {
     AppendPolyline(ioPath, PointsOf(iPolyline));
 }
 
-void Outline(SvgPage&, PathData& ioPath, const VEKPrtPolygonElt& iPolygon) {
+static void Outline(SvgPage&, PathData& ioPath, const VEKPrtPolygonElt& iPolygon) {
     AppendPolyline(ioPath, PointsOf(iPolygon));
     ioPath.Close();
 }
 
-void Outline(SvgPage&, PathData& ioPath, const VEKPrtDisjointPolylineElt& iSegments) {
+static void Outline(SvgPage&, PathData& ioPath, const VEKPrtDisjointPolylineElt& iSegments) {
     const Points points = PointsOf(iSegments);
     for (int i = 0; i + 1 < points.count; i += 2) {
         ioPath.MoveTo(points[i][0], points[i][1]);
@@ -234,15 +221,15 @@ void Outline(SvgPage&, PathData& ioPath, const VEKPrtDisjointPolylineElt& iSegme
     }
 }
 
-void Outline(SvgPage& ioPage, PathData& ioPath, const VEKPrtPolyCubicBezierElt& iCurve) {
+static void Outline(SvgPage& ioPage, PathData& ioPath, const VEKPrtPolyCubicBezierElt& iCurve) {
     AppendCurve(ioPage, ioPath, iCurve, 3, &PathData::CubicTo);
 }
 
-void Outline(SvgPage& ioPage, PathData& ioPath, const VEKPrtPolyQuadraticBezierElt& iCurve) {
+static void Outline(SvgPage& ioPage, PathData& ioPath, const VEKPrtPolyQuadraticBezierElt& iCurve) {
     AppendCurve(ioPage, ioPath, iCurve, 2, &PathData::QuadraticTo);
 }
 
-void Outline(SvgPage& ioPage, PathData& ioPath, const VEKPrtPolyPolygonElt& iPolygons) {
+static void Outline(SvgPage& ioPage, PathData& ioPath, const VEKPrtPolyPolygonElt& iPolygons) {
     double* xy = nullptr;
     int* counts = nullptr;
     int polygonCount = 0;
@@ -258,9 +245,11 @@ void Outline(SvgPage& ioPage, PathData& ioPath, const VEKPrtPolyPolygonElt& iPol
     }
 }
 
-void Outline(SvgPage& ioPage, PathData& ioPath, const VEKPrtNURBSElt& iCurve) {
-    const double scale = (ioPage.map * ioPath.Map()).Scale();
-    const double tolerance = scale > 0.0 ? ioPage.tolerance / scale : 0.0;
+static void Outline(SvgPage& ioPage, PathData& ioPath, const VEKPrtNURBSElt& iCurve) {
+    // The grid does not know of the path's map, which leads from the element to the figure that it is a part
+    // of.
+    const double stretch = ioPath.Map().Stretch();
+    const double tolerance = stretch > 0.0 ? 10.0 * ioPage.place.grid.Step() / stretch : 0.0;
     std::string problem;
     const std::vector<VEKMathPoint2D> samples = SampleNurbs(iCurve, tolerance, problem);
     if (samples.empty()) return ioPage.Warn(iCurve, problem);
@@ -269,46 +258,39 @@ void Outline(SvgPage& ioPage, PathData& ioPath, const VEKPrtNURBSElt& iCurve) {
         ioPath.LineTo(samples[i].GetX(), samples[i].GetY());
 }
 
-void Write(SvgPage& ioPage, VEKPrtCircularArcElt& ioArc) { WritePainted(ioPage, ioArc); }
-void Write(SvgPage& ioPage, VEKPrtEllipticalArcElt& ioArc) { WritePainted(ioPage, ioArc); }
-void Write(SvgPage& ioPage, VEKPrtPolygonElt& ioPolygon) { WritePainted(ioPage, ioPolygon); }
-void Write(SvgPage& ioPage, VEKPrtPolyPolygonElt& ioPolygons) { WritePainted(ioPage, ioPolygons); }
-void Write(SvgPage& ioPage, VEKPrtPolylineElt& ioPolyline) { WriteStroked(ioPage, ioPolyline); }
-void Write(SvgPage& ioPage, VEKPrtDisjointPolylineElt& ioSegments) { WriteStroked(ioPage, ioSegments); }
-void Write(SvgPage& ioPage, VEKPrtPolyCubicBezierElt& ioCurve) { WriteStroked(ioPage, ioCurve); }
-void Write(SvgPage& ioPage, VEKPrtPolyQuadraticBezierElt& ioCurve) { WriteStroked(ioPage, ioCurve); }
-void Write(SvgPage& ioPage, VEKPrtNURBSElt& ioCurve) { WriteStroked(ioPage, ioCurve); }
-
-void Write(SvgPage& ioPage, VEKPrtMarkerElt& ioMarker) {
+static void Write(SvgPage& ioPage, VEKPrtMarkerElt& ioMarker) {
     VEKMathPoint2D point;
     double size = 0;
     ioMarker.GetParameters(point, size);
     if (!ioPage.AreFinite(ioMarker, {point.GetX(), point.GetY(), size})) return;
     VEKPrtMarkerAttributes marker;
     ioMarker.GetMarkerAttributes(marker);
-    VEKPrintMarkerAttribute style = VEKPrintMarkerPlus;
+    VEKPrintMarkerAttribute style{};
     marker.GetMarkerStyle(style);
-
+    const Placement placement(ioPage, TransformOf(ioMarker));
     PathData path;
     path.SetMap({size, 0, 0, size, point.GetX(), point.GetY()});
-    for (const std::vector<double>& line : MarkerLines(style))
-        AppendPolyline(path, {line.data(), static_cast<int>(line.size() / 2)});
-    const bool disc = style == VEKPrintMarkerDisc;
-    if (disc || style == VEKPrintMarkerCircle) path.Arc(VEKMathPoint2D(), 0.5, 0.5, 0.0, 0.0, 360.0);
+    AppendMarker(path, style);
 
-    // The symbols have no fill of their own: the disc is filled as it is stroked.
-    VEKPrtStrokeAttributes stroke = StrokeOf(ioMarker);
-    Appearance look = {VEKPrtDrawBoth, stroke, {}, "none"};
-    if (disc) {
+    // The markers have no fill of their own: the disc is filled as it is stroked.
+    Appearance look = {VEKPrtDrawBoth, StrokeOf(ioMarker), {}, "none"};
+    if (style == markerDisc) {
         unsigned colour = 0;
         unsigned char transparency = 255;
-        stroke.GetStrokeColourIndex(colour);
-        stroke.GetStrokeColourTransparency(transparency);
+        look.stroke.GetStrokeColourIndex(colour);
+        look.stroke.GetStrokeColourTransparency(transparency);
         look.fill.SetFillColourTransparency(transparency);
         look.paint = ioPage.Colour(ioMarker, colour);
     }
-    SvgElement(ioPage, ioMarker, "path")
-        .Attribute("d", path.Text())
-        .Transform(TransformOf(ioMarker))
-        .Paint(look);
+    WritePath(ioPage, ioMarker, placement, path, look);
 }
+
+void AddShapes(SvgPage& ioPage) {
+    AddHandlers<VEKPrtMarkerElt>(ioPage);
+    AddOutlines<VEKPrtCircleElt, VEKPrtCircularArcElt, VEKPrtDisjointPolylineElt, VEKPrtEllipseElt,
+                VEKPrtEllipticalArcElt, VEKPrtLineElt, VEKPrtNURBSElt, VEKPrtPolyCubicBezierElt,
+                VEKPrtPolyPolygonElt, VEKPrtPolyQuadraticBezierElt, VEKPrtPolygonElt, VEKPrtPolylineElt,
+                VEKPrtRectangleElt>(ioPage);
+}
+
+} // namespace vekprt::svg

@@ -1,202 +1,183 @@
 #include "SvgWriter.h"
 
 #include <algorithm>
-#include <array>
+#include <utility>
 
 #include "Handlers.h"
-#include "Style.h"
-#include "VEKListPtrVEKPrtGraphicPrimitiveElt.h"
 #include "VEKListPtrVEKPrtImageElt.h"
-#include "VEKMetaClass.h"
-#include "VEKPrtBitmapImageElt.h"
-#include "VEKPrtCircleElt.h"
-#include "VEKPrtCircularArcElt.h"
-#include "VEKPrtClosedFigureElt.h"
-#include "VEKPrtClosedFigureRegionElt.h"
-#include "VEKPrtDisjointPolylineElt.h"
-#include "VEKPrtEllipseElt.h"
-#include "VEKPrtEllipticalArcElt.h"
-#include "VEKPrtGroupElt.h"
+#include "VEKPrtChildren.h"
 #include "VEKPrtImageElt.h"
-#include "VEKPrtLineElt.h"
-#include "VEKPrtMarkerElt.h"
 #include "VEKPrtModel.h"
-#include "VEKPrtNURBSElt.h"
-#include "VEKPrtPatternElt.h"
-#include "VEKPrtPolyCubicBezierElt.h"
-#include "VEKPrtPolyPolygonElt.h"
-#include "VEKPrtPolyQuadraticBezierElt.h"
-#include "VEKPrtPolygonElt.h"
-#include "VEKPrtPolylineElt.h"
-#include "VEKPrtRectangleElt.h"
-#include "VEKPrtSymbolElt.h"
-#include "VEKPrtTextElt.h"
+
+namespace vekprt::svg {
 
 namespace {
 
-// What to do with an element of one class; outline is null for a class that cannot be part of one.
-struct Handler {
-    VEKMetaClass* (*metaObject)();
-    void (*write)(SvgPage&, VEKPrtGraphicPrimitiveElt&);
-    void (*outline)(SvgPage&, PathData&, VEKPrtGraphicPrimitiveElt&, const Affine&);
-};
-
-template <class Element>
-void WriteAs(SvgPage& ioPage, VEKPrtGraphicPrimitiveElt& ioElement) {
-    Write(ioPage, static_cast<Element&>(ioElement));
+// Null for a class that is not written.
+const Handler* HandlerOf(const SvgPage& iPage, const VEKPrtGraphicPrimitiveElt& iElement) {
+    const auto found = iPage.handlers.find(iElement.GetMetaObject());
+    return found != iPage.handlers.end() ? &found->second : nullptr;
 }
 
-template <class Element>
-void OutlineAs(SvgPage& ioPage, PathData& ioPath, VEKPrtGraphicPrimitiveElt& ioElement, const Affine& iMap) {
-    auto& element = static_cast<Element&>(ioElement);
-    PathData primitive;
-    primitive.SetMap(iMap * Compose(TransformOf(element)));
-    Outline(ioPage, primitive, element);
-    ioPath.Join(primitive);
-}
-
-template <class Container>
-void OutlineChildren(SvgPage& ioPage, PathData& ioPath, VEKPrtGraphicPrimitiveElt& ioElement,
-                     const Affine& iMap) {
-    auto& container = static_cast<Container&>(ioElement);
-    const Affine map = iMap * Compose(TransformOf(container));
-    for (VEKPrtGraphicPrimitiveElt& child : ChildrenOf(container))
-        AppendToRegion(ioPage, ioPath, child, map);
-}
-
-template <class Element>
-constexpr Handler Shape() {
-    return {&Element::MetaObject, &WriteAs<Element>, &OutlineAs<Element>};
-}
-template <class Element>
-constexpr Handler Container() {
-    return {&Element::MetaObject, &WriteAs<Element>, &OutlineChildren<Element>};
-}
-template <class Element>
-constexpr Handler Other() {
-    return {&Element::MetaObject, &WriteAs<Element>, nullptr};
-}
-
-constexpr Handler g_handlers[] = {
-    {&VEKPrtGraphicPrimitiveElt::MetaObject, &WriteBare, nullptr},
-    Shape<VEKPrtCircleElt>(),
-    Shape<VEKPrtCircularArcElt>(),
-    Shape<VEKPrtDisjointPolylineElt>(),
-    Shape<VEKPrtEllipseElt>(),
-    Shape<VEKPrtEllipticalArcElt>(),
-    Shape<VEKPrtLineElt>(),
-    Shape<VEKPrtNURBSElt>(),
-    Shape<VEKPrtPolyCubicBezierElt>(),
-    Shape<VEKPrtPolyPolygonElt>(),
-    Shape<VEKPrtPolyQuadraticBezierElt>(),
-    Shape<VEKPrtPolygonElt>(),
-    Shape<VEKPrtPolylineElt>(),
-    Shape<VEKPrtRectangleElt>(),
-    Container<VEKPrtClosedFigureRegionElt>(),
-    Container<VEKPrtGroupElt>(),
-    Other<VEKPrtBitmapImageElt>(),
-    Other<VEKPrtClosedFigureElt>(),
-    Other<VEKPrtImageElt>(),
-    Other<VEKPrtMarkerElt>(),
-    Other<VEKPrtPatternElt>(),
-    Other<VEKPrtSymbolElt>(),
-    Other<VEKPrtTextElt>(),
-};
-
-const Handler* FindHandler(const VEKMetaClass* iClass) {
-    const auto* const handler = std::find_if(std::begin(g_handlers), std::end(g_handlers),
-                                             [&](const Handler& h) { return h.metaObject() == iClass; });
-    return handler != std::end(g_handlers) ? handler : nullptr;
-}
-
-// Calls iWrite for an element unless that would go in a circle: a container can hold one that holds it in
-// turn.
-template <class Write>
-void Descend(SvgPage& ioPage, const VEKPrtGraphicPrimitiveElt& iElement, Write iWrite) {
-    constexpr std::size_t deepest = 1000;
-    std::vector<const VEKPrtGraphicPrimitiveElt*>& ancestors = ioPage.ancestors;
-    if (std::find(ancestors.begin(), ancestors.end(), &iElement) != ancestors.end())
-        return ioPage.Warn(iElement, "held by itself");
-    if (ancestors.size() >= deepest) return ioPage.Warn(iElement, "nested too deeply");
-    ancestors.push_back(&iElement);
-    iWrite();
-    ancestors.pop_back();
-}
-
-const char* UnitOf(VEKPrtImageUnits iUnits) {
-    switch (iUnits) {
-    case VEKPrtImagePixel: return "px";
-    case VEKPrtImagePoint: return "pt";
-    case VEKPrtImagePica: return "pc";
-    case VEKPrtImageInch: return "in";
-    case VEKPrtImageCentimetre: return "cm";
-    default: return "mm";
+// Finds what the page holds more than once: each element is looked at once, however many hold it.
+void FindShared(SvgPage& ioPage, VEKPrtImageElt& ioImage) {
+    std::unordered_set<const VEKPrtGraphicPrimitiveElt*> seen;
+    std::vector<VEKPrtGraphicPrimitiveElt*> left{&ioImage};
+    while (!left.empty()) {
+        VEKPrtGraphicPrimitiveElt& element = *left.back();
+        left.pop_back();
+        if (!seen.insert(&element).second) {
+            ioPage.shared.try_emplace(&element);
+        } else if (const Handler* const handler = HandlerOf(ioPage, element);
+                   handler && handler->appendChildren) {
+            handler->appendChildren(element, left);
+        }
     }
+    ioPage.ids.reserve(seen.size());
+    ioPage.allowance = 100000 + 10 * static_cast<long>(seen.size());
 }
 
-void WritePage(VEKPrtImageElt& ioImage, std::ostream& ioStream, std::ostream& ioWarnings) {
-    VEKMathPoint2D origin;
-    double width = 0, height = 0;
+// Calls iWrite unless the element is nested too deeply, or within itself: a container can hold one that holds
+// it in turn.
+template <class Write>
+void Descend(SvgPage& ioPage, const VEKPrtGraphicPrimitiveElt& iElement, Shared* ioShared, Write iWrite) {
+    constexpr int deepest = 1000;
+    if (ioShared && ioShared->open) return ioPage.Warn(iElement, "held by itself");
+    if (ioPage.depth >= deepest) return ioPage.Warn(iElement, "nested too deeply");
+    const bool outerAgain = ioPage.again;
+    ++ioPage.depth;
+    if (ioShared) {
+        ioShared->open = true;
+        ioPage.again = outerAgain || ioShared->times++ > 0;
+    }
+    iWrite();
+    if (ioShared) ioShared->open = false;
+    ioPage.again = outerAgain;
+    --ioPage.depth;
+}
+
+// The element as it stands in the document already, if that will do for another place.
+const Written* FindWritten(SvgPage& ioPage, const VEKPrtGraphicPrimitiveElt& iElement,
+                           const Shared& iShared) {
+    const std::vector<Written>& written = iShared.written;
+    for (auto w = written.rbegin(); w != written.rend(); ++w)
+        if (w->Suits(ioPage.place)) return &*w;
+    if (written.empty() || ioPage.allowance > 0) return nullptr;
+    ioPage.Warn(iElement, "held at too many different places, drawn as at another one");
+    return &written.back();
+}
+
+// Refers to the element where it stands already, or writes it so that others can refer to it.
+void WriteShared(SvgPage& ioPage, VEKPrtGraphicPrimitiveElt& ioElement, const Handler& iHandler,
+                 Shared& ioShared) {
+    constexpr std::size_t remembered = 64;
+    const Written* const known = ioShared.open ? nullptr : FindWritten(ioPage, ioElement, ioShared);
+    if (known) {
+        ioPage.uses |= known->uses;
+        if (known->id.empty()) return;
+        ioPage.xml.Start("use", {{"xlink:href", "#" + known->id}});
+        return ioPage.xml.End();
+    }
+    Descend(ioPage, ioElement, &ioShared, [&] {
+        const unsigned outerUses = std::exchange(ioPage.uses, 0U);
+        ioShared.id.clear();
+        iHandler.write(ioPage, ioElement);
+        if (ioShared.written.size() >= remembered) ioShared.written.erase(ioShared.written.begin());
+        ioShared.written.push_back({ioShared.id, ioPage.place, ioPage.uses});
+        ioPage.uses |= outerUses;
+    });
+}
+
+void WriteViewport(SvgPage& ioPage, const VEKPrtImageElt& iImage) {
+    // By the values of the enumeration; a metre is no unit of SVG.
+    static const char* const names[] = {"px", "pt", "pc", "in", "mm", "cm", "mm"};
+    const Area& area = ioPage.place.area;
+    if (area.IsEmpty()) return ioPage.Warn(iImage, "a page without size");
     VEKPrtImageUnits units = VEKPrtImageMillimetre;
+    iImage.GetUnits(units);
+    if (units < VEKPrtImagePixel || units > VEKPrtImageMetre) {
+        ioPage.Warn(iImage, "unknown units, millimetres are taken");
+        units = VEKPrtImageMillimetre;
+    }
+    const double size = units == VEKPrtImageMetre ? 1000.0 : 1.0;
+    XmlWriter& xml = ioPage.xml;
+    xml.Attribute("width", Number(area.width * size) + names[units]);
+    xml.Attribute("height", Number(area.height * size) + names[units]);
+    xml.Attribute("viewBox", Number(area.x) + " " + Number(-(area.y + area.height)) + " " +
+                                 Number(area.width) + " " + Number(area.height));
+}
+
+void WritePage(SvgPage& ioPage, VEKPrtImageElt& ioImage) {
     VEKMath2x2Matrix matrix;
-    VEKPrtColourTable* colours = nullptr;
-    ioImage.GetOrigin(origin);
-    ioImage.GetSize(width, height);
-    ioImage.GetUnits(units);
     ioImage.GetMatrix(matrix);
-    ioImage.GetColourTable(colours);
-
-    XmlWriter xml(ioStream);
-    const Area area{origin.GetX(), origin.GetY(), width, height, {}};
-    SvgPage page{xml, ioWarnings, colours, std::max(width, height) * 1e-5, area, {}, {}, {}};
-    const Affine map{
-        matrix.GetCoef(1, 1), matrix.GetCoef(2, 1), matrix.GetCoef(1, 2), matrix.GetCoef(2, 2), 0, 0};
-
-    ioStream << R"(<?xml version="1.0" encoding="UTF-8"?>)";
-    SvgElement svg(page, ioImage, "svg");
+    SvgElement svg(ioPage, ioImage, "svg", Placement(ioPage));
     svg.Attribute("xmlns", "http://www.w3.org/2000/svg")
         .Attribute("xmlns:xlink", "http://www.w3.org/1999/xlink");
-    if (width > 0.0 && height > 0.0) {
-        // A metre is no unit of SVG.
-        const double unit = units == VEKPrtImageMetre ? 1000.0 : 1.0;
-        svg.Attribute("width", Number(width * unit) + UnitOf(units))
-            .Attribute("height", Number(height * unit) + UnitOf(units))
-            .Attribute("viewBox", Number(area.x) + " " + Number(-(area.y + height)) + " " + Number(width) +
-                                      " " + Number(height));
-    } else {
-        page.Warn(ioImage, "a page without size");
-    }
+    WriteViewport(ioPage, ioImage);
     svg.Content();
-    xml.Start("g");
-    xml.Attribute("transform",
-                  "scale(1,-1)" + (matrix != VEKMath2x2Matrix() ? " " + Matrix(map) : std::string()));
-    page.map = map;
-    WriteChildren(page, ChildrenOf(ioImage));
-    xml.End();
+    Placement placement(ioPage);
+    if (matrix != VEKMath2x2Matrix()) placement.Add(Linear(matrix));
+    ioPage.xml.Start(
+        "g", {{"transform", "scale(1,-1)" + (placement.Text().empty() ? "" : " " + placement.Text())}});
+    for (VEKPrtGraphicPrimitiveElt& child : ChildrenOf(ioImage))
+        WriteElement(ioPage, child);
+    ioPage.xml.End();
+}
+
+// False when the stream has failed.
+bool WriteDocument(VEKPrtImageElt& ioImage, std::ostream& ioStream, std::ostream& ioWarnings) {
+    constexpr double finest = 1e-6;
+    VEKMathPoint2D origin;
+    Area area = {};
+    VEKPrtColourTable* colours = nullptr;
+    ioImage.GetOrigin(origin);
+    ioImage.GetSize(area.width, area.height);
+    ioImage.GetColourTable(colours);
+    area.x = origin.GetX();
+    area.y = origin.GetY();
+    const double step = area.IsEmpty() ? 0.0 : finest * std::max(area.width, area.height);
+
+    XmlWriter xml(ioStream);
+    SvgPage page{xml, ioWarnings, step, {colours, {}, Grid(step), area}};
+    AddShapes(page);
+    AddContainers(page);
+    AddTextAndBitmap(page);
+    FindShared(page, ioImage);
+    if (Shared* const shared = page.SharedOf(ioImage)) shared->open = true;
+    WritePage(page, ioImage);
+    return xml.Finish();
 }
 
 } // namespace
 
 void WriteElement(SvgPage& ioPage, VEKPrtGraphicPrimitiveElt& ioElement) {
-    const Handler* const handler = FindHandler(ioElement.GetMetaObject());
+    if (!ioPage.xml.HandOver()) return;
+    const Handler* const handler = HandlerOf(ioPage, ioElement);
     if (!handler) return ioPage.Warn(ioElement, "no handler for this class");
-    Descend(ioPage, ioElement, [&] { handler->write(ioPage, ioElement); });
+    if (ioPage.again) --ioPage.allowance;
+    if (Shared* const shared = ioPage.SharedOf(ioElement))
+        return WriteShared(ioPage, ioElement, *handler, *shared);
+    Descend(ioPage, ioElement, nullptr, [&] { handler->write(ioPage, ioElement); });
 }
 
 void AppendToRegion(SvgPage& ioPage, PathData& ioPath, VEKPrtGraphicPrimitiveElt& ioElement,
                     const Affine& iMap) {
-    const Handler* const handler = FindHandler(ioElement.GetMetaObject());
+    const Handler* const handler = HandlerOf(ioPage, ioElement);
     if (!handler || !handler->outline) return ioPage.Warn(ioElement, "no part of an outline");
-    Descend(ioPage, ioElement, [&] { handler->outline(ioPage, ioPath, ioElement, iMap); });
+    // An outline cannot refer to another one.
+    if (ioPage.again && --ioPage.allowance < 0)
+        return ioPage.Warn(ioElement, "held at too many places, left out");
+    Descend(ioPage, ioElement, ioPage.SharedOf(ioElement),
+            [&] { handler->outline(ioPage, ioPath, ioElement, iMap); });
 }
 
-bool WriteSvg(const VEKPrtModel& iModel, int iPage, std::ostream& ioStream, std::ostream& ioWarnings) {
+} // namespace vekprt::svg
+
+SvgResult WriteSvg(const VEKPrtModel& iModel, int iPage, std::ostream& ioStream, std::ostream& ioWarnings) {
     VEKListPtrVEKPrtImageElt* images = nullptr;
     iModel.GetImages(images);
     auto* const image = images ? static_cast<VEKPrtImageElt*>((*images)[iPage]) : nullptr;
-    if (!image) return false;
-    WritePage(*image, ioStream, ioWarnings);
-    return true;
+    if (!image) return {SvgResult::NoSuchPage};
+    const bool sound = vekprt::svg::WriteDocument(*image, ioStream, ioWarnings);
+    return {sound ? SvgResult::Written : SvgResult::StreamFailed};
 }
-
-bool CanWriteSvg(const VEKMetaClass* iClass) { return iClass && FindHandler(iClass); }

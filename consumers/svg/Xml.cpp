@@ -1,54 +1,94 @@
 #include "Xml.h"
 
-#include <charconv>
-#include <cmath>
+#include <algorithm>
+#include <cstdio>
+#include <iterator>
+
+namespace vekprt::svg {
 
 namespace {
 
-// The length of the well-formed UTF-8 sequence of a character that XML allows at the start of iText, or 0.
-std::size_t CharacterLength(std::string_view iText) {
-    const auto byte = [&](std::size_t i) {
-        return i < iText.size() ? static_cast<unsigned char>(iText[i]) : 0U;
-    };
-    const auto tail = [&](std::size_t i) { return (byte(i) & 0xC0U) == 0x80U; };
-    const unsigned first = byte(0);
-    if (first < 0x80) return first >= 0x20 || first == '\t' || first == '\n' || first == '\r' ? 1 : 0;
-    if (first >= 0xC2 && first < 0xE0) return tail(1) ? 2 : 0;
-    if (first >= 0xE0 && first < 0xF0) {
-        const unsigned code = (first & 0x0FU) << 12 | (byte(1) & 0x3FU) << 6 | (byte(2) & 0x3FU);
-        const bool allowed = code >= 0x800 && (code < 0xD800 || code > 0xDFFF) && code < 0xFFFE;
-        return tail(1) && tail(2) && allowed ? 3 : 0;
-    }
-    if (first >= 0xF0 && first < 0xF5) {
-        const unsigned code = (first & 0x07U) << 18 | (byte(1) & 0x3FU) << 12;
-        return tail(1) && tail(2) && tail(3) && code >= 0x10000 && code < 0x110000 ? 4 : 0;
-    }
-    return 0;
+struct Range {
+    char32_t first, last;
+};
+
+template <std::size_t Count>
+bool IsIn(const Range (&iRanges)[Count], char32_t iCharacter) {
+    return std::any_of(std::begin(iRanges), std::end(iRanges), [&](const Range& iRange) {
+        return iRange.first <= iCharacter && iCharacter <= iRange.last;
+    });
+}
+
+constexpr Range g_characters[] = {
+    {'\t', '\n'}, {'\r', '\r'}, {' ', 0xD7FF}, {0xE000, 0xFFFD}, {0x10000, 0x10FFFF}};
+constexpr Range g_nameStarts[] = {{'A', 'Z'},       {'_', '_'},       {'a', 'z'},        {0xC0, 0xD6},
+                                  {0xD8, 0xF6},     {0xF8, 0x2FF},    {0x370, 0x37D},    {0x37F, 0x1FFF},
+                                  {0x200C, 0x200D}, {0x2070, 0x218F}, {0x2C00, 0x2FEF},  {0x3001, 0xD7FF},
+                                  {0xF900, 0xFDCF}, {0xFDF0, 0xFFFC}, {0x10000, 0xEFFFF}};
+constexpr Range g_nameParts[] = {{'-', '.'}, {'0', '9'}, {0xB7, 0xB7}, {0x300, 0x36F}, {0x203F, 0x2040}};
+
+bool NeedsNoEscape(char iCharacter) {
+    const bool printable = static_cast<unsigned char>(iCharacter) - 0x20U < 0x5FU;
+    return printable && iCharacter != '&' && iCharacter != '<' && iCharacter != '>' && iCharacter != '"';
 }
 
 } // namespace
 
-std::string Number(double iValue) {
-    if (!std::isfinite(iValue) || iValue == 0.0) return "0";
-    char text[32];
-    const auto result = std::to_chars(text, text + sizeof text, iValue);
-    return {text, result.ptr};
+char32_t NextCharacter(std::string_view& ioText) {
+    constexpr char32_t least[] = {0, 0, 0x80, 0x800, 0x10000};
+    const auto byte = [&](std::size_t i) {
+        return i < ioText.size() ? static_cast<unsigned char>(ioText[i]) : 0U;
+    };
+    const unsigned first = byte(0);
+    const std::size_t length = first < 0x80   ? 1
+                               : first < 0xC0 ? 0
+                               : first < 0xE0 ? 2
+                               : first < 0xF0 ? 3
+                               : first < 0xF8 ? 4
+                                              : 0;
+    char32_t character = length == 1 ? first : first & (0x7FU >> length);
+    bool sound = length > 0;
+    for (std::size_t i = 1; i < length; ++i) {
+        sound = sound && (byte(i) & 0xC0U) == 0x80U;
+        character = character << 6 | (byte(i) & 0x3FU);
+    }
+    sound = sound && character >= least[length] && IsIn(g_characters, character);
+    ioText.remove_prefix(sound ? length : 1);
+    return sound ? character : 0xFFFD;
 }
 
-std::string Pair(double iX, double iY) { return Number(iX) + "," + Number(iY); }
+std::string XmlName(std::string_view iIdentifier) {
+    std::string name;
+    while (!iIdentifier.empty()) {
+        const std::string_view from = iIdentifier;
+        const char32_t character = NextCharacter(iIdentifier);
+        if (IsIn(g_nameStarts, character) || (!name.empty() && IsIn(g_nameParts, character))) {
+            name += from.substr(0, from.size() - iIdentifier.size());
+        } else {
+            char code[16];
+            std::snprintf(code, sizeof code, "_x%X_", static_cast<unsigned>(character));
+            name += code;
+        }
+    }
+    return name;
+}
 
-void XmlWriter::Start(std::string_view iName) {
+void XmlWriter::Start(std::string_view iName,
+                      std::initializer_list<std::pair<std::string_view, std::string_view>> iAttributes) {
     CloseTag();
     NewLine();
-    _stream << '<' << iName;
-    _open.push_back({std::string(iName), false});
+    _text += '<';
+    _text += iName;
+    _open.push_back({iName, false});
     _inTag = true;
+    for (const auto& [name, value] : iAttributes)
+        Attribute(name, value);
 }
 
 void XmlWriter::Attribute(std::string_view iName, std::string_view iValue) {
-    _stream << ' ' << iName << "=\"";
-    Escaped(iValue);
-    _stream << '"';
+    ((_text += ' ') += iName) += "=\"";
+    AppendEscaped(iValue);
+    _text += '"';
 }
 
 void XmlWriter::OptionalAttribute(std::string_view iName, std::string_view iValue) {
@@ -58,20 +98,22 @@ void XmlWriter::OptionalAttribute(std::string_view iName, std::string_view iValu
 void XmlWriter::Text(std::string_view iText) {
     CloseTag();
     _open.back().hasText = true;
-    Escaped(iText);
+    AppendEscaped(iText);
 }
 
-void XmlWriter::End() {
-    const Open open = _open.back();
-    _open.pop_back();
-    if (_inTag) {
-        _stream << "/>";
+void XmlWriter::End(int iElements) {
+    for (; iElements > 0; --iElements) {
+        const Open open = _open.back();
+        _open.pop_back();
+        if (_inTag) {
+            _text += "/>";
+        } else {
+            if (!open.hasText) NewLine();
+            ((_text += "</") += open.name) += '>';
+        }
         _inTag = false;
-    } else {
-        if (!open.hasText) NewLine();
-        _stream << "</" << open.name << '>';
     }
-    if (_open.empty()) _stream << '\n';
+    if (_open.empty()) _text += '\n';
 }
 
 void XmlWriter::Leaf(std::string_view iName, std::string_view iText) {
@@ -80,31 +122,55 @@ void XmlWriter::Leaf(std::string_view iName, std::string_view iText) {
     End();
 }
 
+bool XmlWriter::HandOver() {
+    constexpr std::size_t much = 1 << 16;
+    if (_text.size() >= much) {
+        _stream.write(_text.data(), static_cast<std::streamsize>(_text.size()));
+        _text.clear();
+    }
+    return !_stream.fail();
+}
+
+bool XmlWriter::Finish() {
+    _stream.write(_text.data(), static_cast<std::streamsize>(_text.size()));
+    _stream.flush();
+    return !_stream.fail();
+}
+
 void XmlWriter::CloseTag() {
-    if (_inTag) _stream << '>';
+    if (_inTag) _text += '>';
     _inTag = false;
 }
 
 // No white space is added where text stands: it would become part of it.
 void XmlWriter::NewLine() {
+    constexpr std::size_t deepest = 20;
     if (!_open.empty() && _open.back().hasText) return;
-    _stream << '\n' << std::string(_open.size(), ' ');
+    _text += '\n';
+    _text.append(std::min(_open.size(), deepest), ' ');
 }
 
 // What is not a character of XML becomes the replacement character.
-void XmlWriter::Escaped(std::string_view iText) {
+void XmlWriter::AppendEscaped(std::string_view iText) {
     while (!iText.empty()) {
-        const std::size_t length = CharacterLength(iText);
-        switch (iText.front()) {
-        case '&': _stream << "&amp;"; break;
-        case '<': _stream << "&lt;"; break;
-        case '>': _stream << "&gt;"; break;
-        case '"': _stream << "&quot;"; break;
-        case '\n': _stream << "&#10;"; break;
-        case '\r': _stream << "&#13;"; break;
-        case '\t': _stream << "&#9;"; break;
-        default: _stream << (length ? iText.substr(0, length) : std::string_view("\xEF\xBF\xBD"));
+        const auto* const plainEnd = std::find_if_not(iText.begin(), iText.end(), NeedsNoEscape);
+        const auto plain = static_cast<std::size_t>(plainEnd - iText.begin());
+        _text += iText.substr(0, plain);
+        iText.remove_prefix(plain);
+        if (iText.empty()) return;
+        const std::string_view from = iText;
+        switch (NextCharacter(iText)) {
+        case '&': _text += "&amp;"; break;
+        case '<': _text += "&lt;"; break;
+        case '>': _text += "&gt;"; break;
+        case '"': _text += "&quot;"; break;
+        case '\n': _text += "&#10;"; break;
+        case '\r': _text += "&#13;"; break;
+        case '\t': _text += "&#9;"; break;
+        case 0xFFFD: _text += "\xEF\xBF\xBD"; break;
+        default: _text += from.substr(0, from.size() - iText.size());
         }
-        iText.remove_prefix(length ? length : 1);
     }
 }
+
+} // namespace vekprt::svg

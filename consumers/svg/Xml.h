@@ -1,43 +1,62 @@
-// Writes XML: nesting, escaping, numbers.
+// Writes XML: nesting, escaping, names.
 #ifndef Xml_H
 #define Xml_H
 
+#include <initializer_list>
 #include <ostream>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
-/// The shortest decimal that reads back as the same double; "0" for what is not finite.
-std::string Number(double iValue);
-std::string Pair(double iX, double iY);
+namespace vekprt::svg {
 
+/// Takes the next character off a UTF-8 text that is not empty; U+FFFD for a byte that begins no character,
+/// or none that XML allows.
+char32_t NextCharacter(std::string_view& ioText);
+
+/// A valid name (without colons) for an identifier.  Characters that a name cannot have there give way to
+/// their code: "2 b" becomes "_x32__x20_b".  A valid one stays as it is.
+std::string XmlName(std::string_view iIdentifier);
+
+/// Gathers the document, and hands it to the stream in large pieces.
 class XmlWriter {
 public:
     explicit XmlWriter(std::ostream& ioStream) : _stream(ioStream) {}
 
-    void Start(std::string_view iName);
+    /// \p iName must last until the element's end.
+    void Start(std::string_view iName,
+               std::initializer_list<std::pair<std::string_view, std::string_view>> iAttributes = {});
     // Of the element started last, before anything is nested in it.
     void Attribute(std::string_view iName, std::string_view iValue);
-    void Attribute(std::string_view iName, double iValue) { Attribute(iName, Number(iValue)); }
     /// Nothing for an empty value.
     void OptionalAttribute(std::string_view iName, std::string_view iValue);
     void Text(std::string_view iText);
-    void End();
+    /// Of the innermost element, or of as many.
+    void End(int iElements = 1);
     /// An element that holds nothing but text.
     void Leaf(std::string_view iName, std::string_view iText);
+
+    /// Hands over what there is once it is much.  False when the stream has failed.
+    bool HandOver();
+    /// Hands over the rest, down to where the stream leads.  False when the stream has failed.
+    bool Finish();
 
 private:
     void CloseTag();
     void NewLine();
-    void Escaped(std::string_view iText);
+    void AppendEscaped(std::string_view iText);
 
     struct Open {
-        std::string name;
+        std::string_view name;
         bool hasText;
     };
     std::ostream& _stream;
+    std::string _text = R"(<?xml version="1.0" encoding="UTF-8"?>)";
     std::vector<Open> _open;
     bool _inTag = false;
 };
+
+} // namespace vekprt::svg
 
 #endif
