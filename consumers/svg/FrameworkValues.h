@@ -1,5 +1,4 @@
-// The values of the framework's enumerations.  All hosts agree on the values, but not on the enumerators'
-// names.
+// The values of the framework's enumerations: all hosts agree on them, but not on the enumerators' names.
 #ifndef FrameworkValues_H
 #define FrameworkValues_H
 

@@ -75,8 +75,7 @@ std::string SvgPage::IdOf(const VEKPrtGraphicPrimitiveElt& iElement) {
     VEKUnicodeString id;
     iElement.GetID(id);
     std::string name;
-    // The identifier stands where the element was written first.
-    if (!id.IsEmpty() && (!several || several->written.empty())) {
+    if (!id.IsEmpty() && !again) {
         name = XmlName(id.ToUtf8());
         if (name != id.ToUtf8()) Warn(iElement, "the identifier is no XML name, " + name + " is written");
         if (!ids.insert(name).second) {

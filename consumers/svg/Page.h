@@ -72,8 +72,8 @@ struct Shared {
     /// While it is being written, under this name.
     bool open = false;
     std::string id;
-    /// How often it has been written, or drawn as a part of an outline.
-    int times = 0;
+    /// Whether it has been drawn as a part of an outline.
+    bool outlined = false;
 };
 
 /// One page.
@@ -105,7 +105,7 @@ struct SvgPage {
     Shared* SharedOf(const VEKPrtGraphicPrimitiveElt& iElement);
     /// A name for a definition, unique in the document.
     std::string NewId(const char* iKind);
-    /// The name of the element in the document; empty where it needs none.
+    /// The name of the element in the document, where it was written first; empty where it needs none.
     std::string IdOf(const VEKPrtGraphicPrimitiveElt& iElement);
     /// Where a link leads; empty, with a warning, for one that would run a program.
     std::string LinkTo(const VEKPrtGraphicPrimitiveElt& iElement, const std::string& iURI) const;

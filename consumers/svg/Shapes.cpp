@@ -246,8 +246,7 @@ static void Outline(SvgPage& ioPage, PathData& ioPath, const VEKPrtPolyPolygonEl
 }
 
 static void Outline(SvgPage& ioPage, PathData& ioPath, const VEKPrtNURBSElt& iCurve) {
-    // The grid does not know of the path's map, which leads from the element to the figure that it is a part
-    // of.
+    // The path's own map, from the element to the figure that it is a part of, is not in the grid.
     const double stretch = ioPath.Map().Stretch();
     const double tolerance = stretch > 0.0 ? 10.0 * ioPage.place.grid.Step() / stretch : 0.0;
     std::string problem;

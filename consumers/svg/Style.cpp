@@ -124,7 +124,7 @@ void SvgElement::Content() {
     if (!text.IsEmpty()) _page.xml.Leaf("desc", text.ToUtf8());
 }
 
-SvgElement& SvgElement::Stroke(VEKPrtStrokeAttributes& ioStroke) {
+void SvgElement::Stroke(VEKPrtStrokeAttributes& ioStroke) {
     unsigned colour = 0;
     unsigned char transparency = 255;
     double width = 0, scale = 1;
@@ -139,8 +139,7 @@ SvgElement& SvgElement::Stroke(VEKPrtStrokeAttributes& ioStroke) {
     const Place& place = _page.place;
     if (!(width >= 0.0)) {
         _page.Warn(_element, "a stroke width below 0");
-        xml.Attribute("stroke", "none");
-        return *this;
+        return xml.Attribute("stroke", "none");
     }
     // A fixed width is what it is on the page: the transforms are taken out of it, and out of the dashes.
     if (style == lineStyleFixed) {
@@ -153,10 +152,9 @@ SvgElement& SvgElement::Stroke(VEKPrtStrokeAttributes& ioStroke) {
     if (cap != lineCapButt) xml.Attribute("stroke-linecap", CapOf(cap));
     if (join != lineJoinMitre) xml.Attribute("stroke-linejoin", JoinOf(join));
     if (transparency != 255) xml.Attribute("stroke-opacity", Opacity(transparency));
-    return *this;
 }
 
-SvgElement& SvgElement::Paint(Appearance& ioAppearance) {
+void SvgElement::Paint(Appearance& ioAppearance) {
     _page.xml.OptionalAttribute("fill", ioAppearance.paint);
     if (DrawsInterior(ioAppearance.style) && ioAppearance.paint != "none") {
         VEKPrtFillRule rule = VEKPrtFillNonZero;
@@ -166,8 +164,8 @@ SvgElement& SvgElement::Paint(Appearance& ioAppearance) {
         if (rule == VEKPrtFillEvenOdd) Attribute("fill-rule", "evenodd");
         if (transparency != 255) Attribute("fill-opacity", Opacity(transparency));
     }
-    if (DrawsOutline(ioAppearance.style)) return Stroke(ioAppearance.stroke);
-    return Attribute("stroke", "none");
+    if (!DrawsOutline(ioAppearance.style)) return _page.xml.Attribute("stroke", "none");
+    Stroke(ioAppearance.stroke);
 }
 
 void WriteShape(SvgPage& ioPage, const VEKPrtGraphicPrimitiveElt& iElement, const char* iName,

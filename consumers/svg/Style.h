@@ -33,12 +33,13 @@ public:
     SvgElement& Attribute(const char* iName, const std::string& iValue);
     /// A coordinate or a length.
     SvgElement& Attribute(const char* iName, double iValue);
-    SvgElement& Stroke(VEKPrtStrokeAttributes& ioStroke);
-    SvgElement& Paint(Appearance& ioAppearance);
+    void Paint(Appearance& ioAppearance);
     /// Title and description; nested elements come after it.
     void Content();
 
 private:
+    void Stroke(VEKPrtStrokeAttributes& ioStroke);
+
     SvgPage& _page;
     const VEKPrtGraphicPrimitiveElt& _element;
     bool _inContent = false;

@@ -40,20 +40,18 @@ void FindShared(SvgPage& ioPage, VEKPrtImageElt& ioImage) {
 // Calls iWrite unless the element is nested too deeply, or within itself: a container can hold one that holds
 // it in turn.
 template <class Write>
-void Descend(SvgPage& ioPage, const VEKPrtGraphicPrimitiveElt& iElement, Shared* ioShared, Write iWrite) {
+void Descend(SvgPage& ioPage, const VEKPrtGraphicPrimitiveElt& iElement, Shared* ioShared, bool iAgain,
+             Write iWrite) {
     constexpr int deepest = 1000;
     if (ioShared && ioShared->open) return ioPage.Warn(iElement, "held by itself");
     if (ioPage.depth >= deepest) return ioPage.Warn(iElement, "nested too deeply");
-    const bool outerAgain = ioPage.again;
+    const bool outerAgain = std::exchange(ioPage.again, ioPage.again || iAgain);
     ++ioPage.depth;
-    if (ioShared) {
-        ioShared->open = true;
-        ioPage.again = outerAgain || ioShared->times++ > 0;
-    }
+    if (ioShared) ioShared->open = true;
     iWrite();
     if (ioShared) ioShared->open = false;
-    ioPage.again = outerAgain;
     --ioPage.depth;
+    ioPage.again = outerAgain;
 }
 
 // The element as it stands in the document already, if that will do for another place.
@@ -78,7 +76,7 @@ void WriteShared(SvgPage& ioPage, VEKPrtGraphicPrimitiveElt& ioElement, const Ha
         ioPage.xml.Start("use", {{"xlink:href", "#" + known->id}});
         return ioPage.xml.End();
     }
-    Descend(ioPage, ioElement, &ioShared, [&] {
+    Descend(ioPage, ioElement, &ioShared, !ioShared.written.empty(), [&] {
         const unsigned outerUses = std::exchange(ioPage.uses, 0U);
         ioShared.id.clear();
         iHandler.write(ioPage, ioElement);
@@ -157,7 +155,7 @@ void WriteElement(SvgPage& ioPage, VEKPrtGraphicPrimitiveElt& ioElement) {
     if (ioPage.again) --ioPage.allowance;
     if (Shared* const shared = ioPage.SharedOf(ioElement))
         return WriteShared(ioPage, ioElement, *handler, *shared);
-    Descend(ioPage, ioElement, nullptr, [&] { handler->write(ioPage, ioElement); });
+    Descend(ioPage, ioElement, nullptr, false, [&] { handler->write(ioPage, ioElement); });
 }
 
 void AppendToRegion(SvgPage& ioPage, PathData& ioPath, VEKPrtGraphicPrimitiveElt& ioElement,
@@ -167,8 +165,9 @@ void AppendToRegion(SvgPage& ioPage, PathData& ioPath, VEKPrtGraphicPrimitiveElt
     // An outline cannot refer to another one.
     if (ioPage.again && --ioPage.allowance < 0)
         return ioPage.Warn(ioElement, "held at too many places, left out");
-    Descend(ioPage, ioElement, ioPage.SharedOf(ioElement),
-            [&] { handler->outline(ioPage, ioPath, ioElement, iMap); });
+    Shared* const shared = ioPage.SharedOf(ioElement);
+    const bool again = shared && std::exchange(shared->outlined, true);
+    Descend(ioPage, ioElement, shared, again, [&] { handler->outline(ioPage, ioPath, ioElement, iMap); });
 }
 
 } // namespace vekprt::svg

@@ -35,18 +35,14 @@ bool NeedsNoEscape(char iCharacter) {
 } // namespace
 
 char32_t NextCharacter(std::string_view& ioText) {
+    // By the first four bits of the first byte, and by the length.
+    constexpr std::size_t lengths[] = {1, 1, 1, 1, 1, 1, 1, 1, 0, 0, 0, 0, 2, 2, 3, 4};
     constexpr char32_t least[] = {0, 0, 0x80, 0x800, 0x10000};
     const auto byte = [&](std::size_t i) {
         return i < ioText.size() ? static_cast<unsigned char>(ioText[i]) : 0U;
     };
-    const unsigned first = byte(0);
-    const std::size_t length = first < 0x80   ? 1
-                               : first < 0xC0 ? 0
-                               : first < 0xE0 ? 2
-                               : first < 0xF0 ? 3
-                               : first < 0xF8 ? 4
-                                              : 0;
-    char32_t character = length == 1 ? first : first & (0x7FU >> length);
+    const std::size_t length = lengths[byte(0) >> 4];
+    char32_t character = byte(0) & (0xFFU >> length);
     bool sound = length > 0;
     for (std::size_t i = 1; i < length; ++i) {
         sound = sound && (byte(i) & 0xC0U) == 0x80U;
@@ -77,8 +73,7 @@ void XmlWriter::Start(std::string_view iName,
                       std::initializer_list<std::pair<std::string_view, std::string_view>> iAttributes) {
     CloseTag();
     NewLine();
-    _text += '<';
-    _text += iName;
+    _text.append("<").append(iName);
     _open.push_back({iName, false});
     _inTag = true;
     for (const auto& [name, value] : iAttributes)
@@ -86,7 +81,7 @@ void XmlWriter::Start(std::string_view iName,
 }
 
 void XmlWriter::Attribute(std::string_view iName, std::string_view iValue) {
-    ((_text += ' ') += iName) += "=\"";
+    _text.append(" ").append(iName).append("=\"");
     AppendEscaped(iValue);
     _text += '"';
 }
@@ -109,7 +104,7 @@ void XmlWriter::End(int iElements) {
             _text += "/>";
         } else {
             if (!open.hasText) NewLine();
-            ((_text += "</") += open.name) += '>';
+            _text.append("</").append(open.name).append(">");
         }
         _inTag = false;
     }

@@ -11,8 +11,8 @@
 
 namespace vekprt::svg {
 
-/// Takes the next character off a UTF-8 text that is not empty; U+FFFD for a byte that begins no character,
-/// or none that XML allows.
+/// Takes the next character off a UTF-8 text that is not empty; U+FFFD for a byte that begins none, or none
+/// that XML allows.
 char32_t NextCharacter(std::string_view& ioText);
 
 /// A valid name (without colons) for an identifier.  Characters that a name cannot have there give way to
