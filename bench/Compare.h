@@ -25,7 +25,11 @@ inline double Median(std::vector<double> iValues) {
 
 /// After many small blocks were freed, the next large request merges them all: here, so that the side that
 /// freed them pays for it.
-inline void MergeFreeBlocks() { std::free(std::malloc(100000)); }
+inline void MergeFreeBlocks() {
+    void* block = std::malloc(100000);
+    benchmark::DoNotOptimize(block); // or the compiler drops both calls
+    std::free(block);
+}
 
 /// One figure of both sides, pass by pass.
 class Pairs {

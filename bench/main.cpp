@@ -1,6 +1,9 @@
 // Prints each figure as a ratio to its plain counterpart, with the library's own nanoseconds (memory: bytes)
 // behind it.
+#include <malloc.h>
+
 #include <cstdio>
+#include <limits>
 
 #include "Compare.h"
 
@@ -44,6 +47,10 @@ private:
 int main(int argc, char** argv) {
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
+    // Memory once taken from the system stays: its pages would cost both sides more than what is measured, and
+    // not the same from pass to pass.
+    mallopt(M_TRIM_THRESHOLD, std::numeric_limits<int>::max());
+    mallopt(M_MMAP_MAX, 0);
     Table table;
     benchmark::RunSpecifiedBenchmarks(&table);
 }
