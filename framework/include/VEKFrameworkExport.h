@@ -2,6 +2,14 @@
 #ifndef VEKFrameworkExport_H
 #define VEKFrameworkExport_H
 
+#if !defined(_WIN32)
 #define VEKFRAMEWORK_API __attribute__((visibility("default")))
+#elif defined(VEKFRAMEWORK_STATIC)
+#define VEKFRAMEWORK_API
+#elif defined(VEKFramework_EXPORTS)
+#define VEKFRAMEWORK_API __declspec(dllexport)
+#else
+#define VEKFRAMEWORK_API __declspec(dllimport)
+#endif
 
 #endif
