@@ -30,8 +30,9 @@ require() {
     fi
 }
 
-build_packages="g++ cmake ninja-build pkg-config libpng-dev nlohmann-json3-dev libcli11-dev libgtest-dev libxml2-dev"
-picture_packages="librsvg2-bin libxml2-utils fonts-dejavu-core binutils"
+build_packages="g++ cmake ninja-build libpng-dev nlohmann-json3-dev libcli11-dev"
+picture_packages="librsvg2-bin fonts-dejavu-core"
+test_packages="$build_packages $picture_packages pkg-config libgtest-dev libxml2-dev libxml2-utils binutils"
 
 # build PRESET: configures and builds it, quietly unless it fails.
 build() {
