@@ -18,6 +18,11 @@ double Seconds(Operation iOperation) {
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
+/// How often what is timed by hand is run.
+inline void Passes(benchmark::internal::Benchmark* ioBenchmark) {
+    ioBenchmark->Iterations(9)->UseManualTime();
+}
+
 inline double Median(std::vector<double> iValues) {
     std::nth_element(iValues.begin(), iValues.begin() + static_cast<long>(iValues.size() / 2), iValues.end());
     return iValues[iValues.size() / 2];

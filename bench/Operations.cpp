@@ -13,8 +13,6 @@
 
 namespace {
 
-void Passes(benchmark::internal::Benchmark* ioBenchmark) { ioBenchmark->Iterations(9)->UseManualTime(); }
-
 template <class T>
 T* Copied(const T* iValues, std::size_t iCount) {
     T* const copy = new T[iCount];
