@@ -6,7 +6,7 @@
 
 namespace vekprt::svg {
 
-/// Writes an element by the handler of its class, or refers to it; a class without a handler is warned of.
+/// Writes an element by the handler of its class, or refers to it; warns if the class has none.
 void WriteElement(SvgPage& ioPage, VEKPrtGraphicPrimitiveElt& ioElement);
 /// Appends an element, seen through \p iMap, to the outline of a region.
 void AppendToRegion(SvgPage& ioPage, PathData& ioPath, VEKPrtGraphicPrimitiveElt& ioElement,
