@@ -72,9 +72,11 @@ public:
     virtual void SetImpl(void* iImpl) { _impl = iImpl; }
     static long CountLiveObjects() { return s_live; }
 
+protected:
+    char _padding[24] = {}; // Another size than the reference framework gives it.
+
 private:
     static std::atomic<long> s_live;
-    char _padding[24] = {};
     std::atomic<unsigned long> _references{1};
     void* _impl = nullptr;
 };
