@@ -11,7 +11,7 @@
 /// the references of its members.
 class VEKPRT2DMODEL_API VEKListPtrVEKPrtClosedFigureRegionElt : public VEKRawCollPV {
 public:
-    explicit VEKListPtrVEKPrtClosedFigureRegionElt(int iInitial);
+    VEKListPtrVEKPrtClosedFigureRegionElt(int iInitial);
     VEKListPtrVEKPrtClosedFigureRegionElt(const VEKListPtrVEKPrtClosedFigureRegionElt& iOther);
     virtual ~VEKListPtrVEKPrtClosedFigureRegionElt();
     VEKListPtrVEKPrtClosedFigureRegionElt& operator=(const VEKListPtrVEKPrtClosedFigureRegionElt& iOther);

@@ -11,7 +11,7 @@
 /// the references of its members.
 class VEKPRT2DMODEL_API VEKListPtrVEKPrtGraphicPrimitiveElt : public VEKRawCollPV {
 public:
-    explicit VEKListPtrVEKPrtGraphicPrimitiveElt(int iInitial);
+    VEKListPtrVEKPrtGraphicPrimitiveElt(int iInitial);
     VEKListPtrVEKPrtGraphicPrimitiveElt(const VEKListPtrVEKPrtGraphicPrimitiveElt& iOther);
     virtual ~VEKListPtrVEKPrtGraphicPrimitiveElt();
     VEKListPtrVEKPrtGraphicPrimitiveElt& operator=(const VEKListPtrVEKPrtGraphicPrimitiveElt& iOther);

@@ -11,7 +11,7 @@
 /// the references of its members.
 class VEKPRT2DMODEL_API VEKListPtrVEKPrtImageElt : public VEKRawCollPV {
 public:
-    explicit VEKListPtrVEKPrtImageElt(int iInitial);
+    VEKListPtrVEKPrtImageElt(int iInitial);
     VEKListPtrVEKPrtImageElt(const VEKListPtrVEKPrtImageElt& iOther);
     virtual ~VEKListPtrVEKPrtImageElt();
     VEKListPtrVEKPrtImageElt& operator=(const VEKListPtrVEKPrtImageElt& iOther);

@@ -32,7 +32,7 @@ public:
     VEKPRT_DECLARE_META_FAMILY
 
     /// Duplicates the regions and their children in depth, by the regions' own overload, and the fill
-    /// with its pattern image.  The identity strings are not carried over.
+    /// with its pattern image, where that can be copied.  The identity strings are not carried over.
     void Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) override;
 
     virtual void SetDrawStyle(VEKPrtDrawStyle iStyle);

@@ -27,9 +27,9 @@ public:
 
     /// Copies this record into \p oTarget, with an image of its own.
     ///
-    /// An image that \p oTarget held is neither released nor kept: its reference is never given back, so pass
-    /// a record without one.  Where this record has no image, the target's pointer stays as it is; where the
-    /// image cannot be copied, the target's becomes null.
+    /// Where this record has an image, one that \p oTarget held is overwritten without being released, so
+    /// pass a record without one; the target's becomes null where the image cannot be copied.  Where this
+    /// record has none, the target keeps the image it has.
     virtual void Duplicate(VEKPrtFillAttributes& oTarget);
 
     virtual void SetFillStyle(const VEKPrtFillStyle& iStyle);

@@ -43,7 +43,8 @@ public:
     /// Appends \p iChild as the last child.
     ///
     /// Takes its own reference; the caller keeps the one it has.  Null, and this element itself, are
-    /// ignored.  A child already present is added again and takes a second reference.
+    /// ignored.  A child already present is added again and takes a second reference.  An element that holds
+    /// this one, directly or not, is accepted: the cycle is never freed, and duplicating it never ends.
     ///
     /// If the list cannot be allocated, nothing is added and the child's count is unchanged.  If the list
     /// cannot grow, the child is not added either, but keeps the reference taken for it.
@@ -53,9 +54,9 @@ public:
     /// ignored.
     virtual void RemoveChild(VEKPrtGraphicPrimitiveElt* iChild);
 
-    /// The element's own list, null until a child was added: do not delete it, do not release its
-    /// members.  Valid until the next assignment to the element or its destruction.  Not const except in
-    /// the image: the mangled name is part of the binary interface.
+    /// The element's own list, null until a child is added or one is taken from another element by copying:
+    /// do not delete it, do not release its members.  Valid until the next assignment to the element or its
+    /// destruction.  Not const except in the image: the mangled name is part of the binary interface.
     virtual void GetChildren(VEKListPtrVEKPrtGraphicPrimitiveElt*& oChildren);
 
 private:

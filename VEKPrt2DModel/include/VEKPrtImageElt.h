@@ -45,7 +45,8 @@ public:
 
     VEKPRT_DECLARE_META_FAMILY
 
-    /// \copydoc VEKPrtGroupElt::Duplicate
+    /// Duplicates the children in depth; a child that cannot be duplicated is left out.  The colour table is
+    /// copied, or absent where that fails.  The identity strings are not carried over.
     void Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) override;
 
     virtual void SetOrigin(const VEKMathPoint2D& iOrigin);

@@ -10,9 +10,9 @@
 /// The first call of any of them but CreateItself registers the class and fills its cache, the exported
 /// variable meta_object__ followed by the length of the name and the name; the cache is never cleared.
 /// ClassName and IsA yield the same string, the name of the class that defines them; a class derived by a
-/// client declares the family anew or answers for its base.  While the class could not be registered for want
-/// of an allocation, the names and ClassId are null and IsAKindOf is 0, and the next call tries again.
-/// CreateItself always yields null: no element is created by name.
+/// client declares the family again and defines all seven, or reports its base's name.  Until the class can
+/// be registered (an allocation failed), the names and ClassId are null and IsAKindOf is 0; each call tries
+/// again. CreateItself always yields null: no element is created by name.
 #define VEKPRT_DECLARE_META_FAMILY                                                                           \
     static VEKMetaClass* MetaObject();                                                                       \
     static const char* ClassId();                                                                            \

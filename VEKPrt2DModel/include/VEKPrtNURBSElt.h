@@ -39,11 +39,11 @@ public:
     /// Unlike the constructors it reads knots and weights from their second element on: \p iKnots must
     /// have order + count + 1 elements, \p iWeights count + 1.
     ///
-    /// An array of the element's own may be passed back for what it is: it is read as far as it goes, zero
-    /// beyond, and is then the caller's to `delete[]`, also when a new array could not be allocated; where
-    /// none is made (a count of 0 or less, or another array null) it stays the element's.  An argument that
-    /// begins elsewhere in an own array, such as that array less 1 for the knots, is read as far, and the
-    /// array is then freed.
+    /// An array of the element's own may be passed back in its own place, control points as control points
+    /// and so on: it is read as far as it goes, zero beyond, and is then the caller's to `delete[]`, also
+    /// when a new array could not be allocated; where none is made (a count of 0 or less, or another array
+    /// null) it stays the element's.  An argument that begins elsewhere in an own array, or whose first
+    /// element to be read lies in one, is also read only to the end of that array, which is then freed.
     virtual void SetParameters(int iOrder, int iCount, const double* iControlPoints, const double* iKnots,
                                float iFirstBound, float iSecondBound, const double* iWeights);
 

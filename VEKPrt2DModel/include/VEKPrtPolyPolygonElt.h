@@ -13,7 +13,8 @@ extern VEKPRT2DMODEL_API VEKMetaClass* meta_object__20VEKPrtPolyPolygonElt;
 /// The points of all polygons, one polygon after the other, and the number of points of each: for example
 /// an outline and its holes.
 ///
-/// Writing through the lent arrays changes the element.
+/// Writing through the lent arrays changes the element; a count that is raised there brings no points with
+/// it.
 class VEKPRT2DMODEL_API VEKPrtPolyPolygonElt : public VEKPrtGraphicPrimitiveElt {
 public:
     VEKPrtPolyPolygonElt();

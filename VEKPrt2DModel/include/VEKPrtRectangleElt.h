@@ -22,8 +22,8 @@ public:
 
     VEKPRT_DECLARE_META_FAMILY
 
-    /// The copy has a pattern image of its own.  The one that it shared meanwhile is not given back: the
-    /// source's image keeps a reference that is never released.
+    /// The copy has a pattern image of its own, none where that cannot be copied.  The one that it shared
+    /// meanwhile is not given back: the source's image keeps a reference that is never released.
     void Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) override;
 
     virtual void SetPoints(const VEKMathPoint2D& iFirst, const VEKMathPoint2D& iSecond);

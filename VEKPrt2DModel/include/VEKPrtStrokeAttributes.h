@@ -13,6 +13,9 @@ public:
     VEKPrtStrokeAttributes();
     VEKPrtStrokeAttributes(const VEKPrtStrokeAttributes& iOther);
     virtual ~VEKPrtStrokeAttributes();
+
+    /// Where neither record holds a pattern the count is left as it is, too, which shows only after a failed
+    /// allocation.
     VEKPrtStrokeAttributes& operator=(const VEKPrtStrokeAttributes& iOther);
 
     /// 1 when all fields and dash entries are exactly equal, else 0.
@@ -31,8 +34,8 @@ public:
     /// Replaces the dash pattern by a copy of \p iCount values.
     ///
     /// Count 0 drops the pattern.  Null values with a count give a pattern of zeros, but null does
-    /// nothing at all while no pattern is held.  When allocation fails the count stays, and the pattern reads
-    /// as zeros.
+    /// nothing at all while no pattern is held.  When allocation fails the new count is stored and no pattern
+    /// is held: it compares as zeros, and only values that are not null can replace it.
     virtual void SetStrokeTypePattern(const float* iValues, unsigned char iCount);
 
     /// Hands out a fresh copy, the caller's to `delete[]`; null when allocation fails.

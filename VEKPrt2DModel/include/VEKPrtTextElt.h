@@ -15,8 +15,8 @@ extern VEKPRT2DMODEL_API VEKMetaClass* meta_object__13VEKPrtTextElt;
 
 /// A string, its position, and the richest set of records: stroke, fill, text and transform.
 ///
-/// The draw style of a new text is that of a new shape: a consumer that reads it so outlines the letters and
-/// does not fill them.
+/// The draw style of a new text is that of a new shape: a consumer that reads draw styles this way outlines
+/// the letters without filling them.
 class VEKPRT2DMODEL_API VEKPrtTextElt : public VEKPrtGraphicPrimitiveElt {
 public:
     VEKPrtTextElt();

@@ -19,7 +19,9 @@ public:
     virtual ~VEKPrtTransformAttributes();
     VEKPrtTransformAttributes& operator=(const VEKPrtTransformAttributes& iOther);
 
-    /// Hands out the record's own list of kinds, null when empty; valid until the record changes.
+    /// Hands out the record's own list of kinds, valid until the record changes.
+    ///
+    /// Null when empty, and also with a count when a failed addition has lost the list: test the pointer.
     virtual int GetTransformTab(unsigned int& oCount, VEKPrintTransformType*& oKinds) const;
 
     /// Appends the transforms of \p iOther one by one, by its virtual Get and this record's virtual
@@ -31,7 +33,9 @@ public:
     /// \name The seven kinds
     ///
     /// Each Add appends a value and its kind.  When allocation fails it returns -1, and either the values of
-    /// that kind are lost or, after the value was appended, the list of all kinds; the record stays usable.
+    /// that kind are lost or, after the value was appended, the list of all kinds.  Their count
+    /// stays: the next addition puts zeros, or default matrices, in the lost places, and a lost kind becomes
+    /// kind 0, a matrix.
     ///
     /// Each Get takes a position, from 0, among all transforms.  If n entries of its kind stand up to and
     /// including that position, it yields the n-th value added of the kind; the entry at the position itself

@@ -6,8 +6,8 @@
 
 namespace vekprt {
 
-/// Makes \p ioHeld hold \p iImage, either of them perhaps null: the old image is released before the new one
-/// gains its reference, and the image already held keeps its count.
+/// Makes \p ioHeld hold \p iImage; either may be null.  The old image is released before the new one gains
+/// its reference, and the image already held keeps its count.
 ///
 /// \p iImage is a reference because it may be the field of another record, which the destructor of the old
 /// image may change.

@@ -18,17 +18,20 @@ constexpr int containerWalkStart = 0;
 // The closed figure and the model release every member.
 constexpr int completeWalkStart = 1;
 
-/// The operations on a holder's `List*` of `Member*`: made on first need, null until then.
+/// The operations on a holder's `List*` of `Member*`: created when first needed, null until then.
 ///
-/// The holder has one reference on each occurrence of a member.  A list drops an Append without a word when
-/// it cannot grow; the reference taken for it is then never given back.
+/// The holder has one reference on each occurrence of a member.  A list silently drops an Append when it
+/// cannot grow; the reference taken for it is then never given back.
+///
+/// The fields, and the lengths of the lists, are read anew after each call of a member's function: what a
+/// member does there may change the holder or the source.  Lists are made and freed by the global operators,
+/// whatever operators the host's collection has.
 template <class List, class Member>
 struct MemberList {
     static void Add(List*& ioList, Member* iMember) {
         if (!iMember) return;
-        if (!ioList) ioList = new (std::nothrow) List(0);
-        if (!ioList) return;
-        AppendShared(*ioList, iMember);
+        if (!ioList) ioList = ::new (std::nothrow) List(0);
+        if (ioList) AppendShared(ioList, iMember);
     }
 
     static void Remove(List* ioList, Member* iMember) {
@@ -40,32 +43,29 @@ struct MemberList {
     }
 
     static void Destroy(List*& ioList) {
-        if (ioList) ReleaseWalk(*ioList, 1, ioList->Size());
-        delete ioList;
+        ReleaseWalk(ioList, completeWalkStart);
+        ::delete ioList;
         ioList = nullptr;
     }
 
-    /// Makes \p ioList share the members of \p iSource; the walk that releases the old members runs from
-    /// \p iFirst over as many positions as there are.  Two holders without a list stay without; otherwise
-    /// a list is made, even for a source without one.
-    ///
-    /// \p iSource is the field of the source, and read anew when the old members are gone: their destructors
-    /// may give it a list or take it away.
+    /// Makes \p ioList share the members of \p iSource; the old members are released by a walk that starts at
+    /// \p iFirst and covers as many positions as the list has members.  Two holders without a list stay
+    /// without; otherwise a list is made, even for a source without one.
     static void Share(List*& ioList, List* const& iSource, int iFirst) {
         if (ioList == iSource) return;
-        if (ioList) ReleaseWalk(*ioList, iFirst, iFirst + ioList->Size() - 1);
-        delete ioList;
-        ioList = new (std::nothrow) List(0);
-        if (!ioList || !iSource) return;
-        for (int position = 1; position <= iSource->Size(); ++position)
-            if (Member* const member = At(*iSource, position)) AppendShared(*ioList, member);
+        ReleaseWalk(ioList, iFirst);
+        ::delete ioList;
+        ioList = ::new (std::nothrow) List(0);
+        if (!ioList) return;
+        for (int position = 1; iSource && position <= iSource->Size(); ++position)
+            if (Member* const member = At(*iSource, position)) AppendShared(ioList, member);
     }
 
     /// Makes a list of duplicates, one for each occurrence.  The reference that a duplicate comes with is
-    /// the list's.  \p iSource is a field here, too: a member's Duplicate may change it.
+    /// the list's.
     static void Duplicate(List*& oList, List* const& iSource) {
         if (!iSource) return;
-        oList = new (std::nothrow) List(0);
+        oList = ::new (std::nothrow) List(0);
         if (!oList) return;
         for (int position = 1; iSource && position <= iSource->Size(); ++position) {
             Member* const member = At(*iSource, position);
@@ -79,14 +79,14 @@ struct MemberList {
 private:
     static Member* At(const List& iList, int iPosition) { return static_cast<Member*>(iList[iPosition]); }
 
-    static void AppendShared(List& ioList, Member* iMember) {
+    static void AppendShared(List* const& ioList, Member* iMember) {
         iMember->AddRef();
-        ioList.Append(iMember);
+        if (ioList) ioList->Append(iMember);
     }
 
-    static void ReleaseWalk(const List& iList, int iFirst, int iLast) {
-        for (int position = iFirst; position <= iLast; ++position)
-            if (Member* const member = At(iList, position)) member->Release();
+    static void ReleaseWalk(List* const& iList, int iFirst) {
+        for (int position = iFirst; iList && position < iFirst + iList->Size(); ++position)
+            if (Member* const member = At(*iList, position)) member->Release();
     }
 };
 

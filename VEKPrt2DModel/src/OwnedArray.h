@@ -10,7 +10,7 @@
 
 namespace vekprt {
 
-/// An array of \p iCount elements, not initialised where their type is not.
+/// An array of \p iCount elements, left uninitialised if their type has no constructor.
 ///
 /// A count of 0 also yields an array.  Null when the count is negative, the size does not fit, or allocation
 /// fails.  The tests come first because g++ throws from `new (std::nothrow)` for lengths that it considers
@@ -19,12 +19,12 @@ template <class T>
 T* NewArray(std::int64_t iCount) {
     constexpr std::int64_t limit = PTRDIFF_MAX / static_cast<std::int64_t>(sizeof(T));
     if (iCount < 0 || iCount > limit) return nullptr;
-    return new (std::nothrow) T[static_cast<std::size_t>(iCount)];
+    return ::new (std::nothrow) T[static_cast<std::size_t>(iCount)];
 }
 
 template <class T>
 void DeleteArray(T*& ioArray) {
-    delete[] ioArray;
+    ::delete[] ioArray;
     ioArray = nullptr;
 }
 
@@ -49,7 +49,7 @@ Target* NewCopy(std::int64_t iCount, const Source* iSource, std::int64_t iReadab
 }
 
 /// An array taken out of its owner to be replaced.  What replaces it may be copied from a part of it, so it
-/// is there until Free is called or the scope ends.
+/// is kept until Free is called or the scope ends.
 template <class T>
 class OutgoingArray {
 public:
@@ -67,12 +67,10 @@ public:
         return array;
     }
 
-    /// Whether a source that is read from its element \p iFirst on is this array or begins within it.
+    /// Whether a source that is read from its element \p iFirst on begins, or is first read, within this
+    /// array.
     bool Holds(const T* iSource, std::int64_t iFirst = 0) const {
-        if (!_array || !iSource) return false;
-        const std::less<const T*> before;
-        const T* const first = iSource + iFirst;
-        return iSource == _array || (!before(first, _array) && before(first, _array + _count));
+        return _array && iSource && (Contains(iSource) || Contains(iSource + iFirst));
     }
 
     /// How many elements can be read from element \p iFirst of a source on, at most \p iWanted: a source
@@ -82,6 +80,12 @@ public:
     }
 
 private:
+    // An array of no length contains its own address.
+    bool Contains(const T* iEntry) const {
+        const std::less<const T*> before;
+        return iEntry == _array || (!before(iEntry, _array) && before(iEntry, _array + _count));
+    }
+
     T* _array;
     std::int64_t _count;
 };

@@ -10,8 +10,8 @@ VEKPrtFillAttributes::VEKPrtFillAttributes(const VEKPrtFillAttributes& iOther) :
 
 VEKPrtFillAttributes::~VEKPrtFillAttributes() { vekprt::HoldImage(_image, nullptr); }
 
-// Its own image is the one already held.
 VEKPrtFillAttributes& VEKPrtFillAttributes::operator=(const VEKPrtFillAttributes& iOther) {
+    if (&iOther == this) return *this;
     CopyColour(iOther);
     vekprt::HoldImage(_image, iOther._image);
     CopyPlacement(iOther);

@@ -4,9 +4,7 @@
 // one.
 VEKPrtGroupAttributes::VEKPrtGroupAttributes() { _linkURI = VEKPrintLinkURI(); }
 
-VEKPrtGroupAttributes::VEKPrtGroupAttributes(const VEKPrtGroupAttributes& iOther) : VEKPrtGroupAttributes() {
-    *this = iOther;
-}
+VEKPrtGroupAttributes::VEKPrtGroupAttributes(const VEKPrtGroupAttributes& iOther) { *this = iOther; }
 
 VEKPrtGroupAttributes::~VEKPrtGroupAttributes() = default;
 

@@ -17,7 +17,8 @@ VEKPrtStrokeAttributes::~VEKPrtStrokeAttributes() { vekprt::DeleteArray(_pattern
 
 VEKPrtStrokeAttributes& VEKPrtStrokeAttributes::operator=(const VEKPrtStrokeAttributes& iOther) {
     // Where neither holds a pattern the length is not copied either, even if a failed allocation has left
-    // them with different ones (StrokeFailure.AssignmentKeepsTheLength).  Its own pattern is kept.
+    // them with different ones (StrokeFailure.AssignmentKeepsTheLength).  In a self-assignment the pattern is
+    // kept.
     if (_pattern != iOther._pattern) ReplacePattern(iOther._pattern, iOther._patternLength);
     CopyPlainFields(iOther);
     return *this;

@@ -16,8 +16,8 @@ VEKMathVector2D Blank() {
     return VEKMathVector2D(0.0, 0.0);
 }
 
-// Appends to ioTarget the transform at iIndex of iSource.  The preset is what a derived record's Get leaves
-// alone.
+// Appends to ioTarget the transform at iIndex of iSource.  A derived record's Get may leave
+// the preset untouched; it is then what is appended.
 template <class Value, class Parameter>
 int Replay(const VEKPrtTransformAttributes& iSource, unsigned int iIndex, VEKPrtTransformAttributes& ioTarget,
            int (VEKPrtTransformAttributes::*iGet)(unsigned int, Value&) const,
@@ -67,7 +67,7 @@ int VEKPrtTransformAttributes::Values<Value>::Append(const Value& iValue) {
 VEKPrtTransformAttributes::VEKPrtTransformAttributes() = default;
 VEKPrtTransformAttributes::VEKPrtTransformAttributes(const VEKPrtTransformAttributes& iOther) = default;
 
-// Most records are empty and replace an empty one, which is told at once.
+// Most assignments are between two empty records: one test settles them.
 VEKPrtTransformAttributes& VEKPrtTransformAttributes::operator=(const VEKPrtTransformAttributes& iOther) {
     if (IsEmpty() && iOther.IsEmpty()) return *this;
     _kinds = iOther._kinds;
@@ -81,7 +81,7 @@ VEKPrtTransformAttributes& VEKPrtTransformAttributes::operator=(const VEKPrtTran
     return *this;
 }
 
-// By the counts: where one is 0 there is no array either.
+// Tests the counts: where a count is 0 there is no array either.
 bool VEKPrtTransformAttributes::IsEmpty() const {
     return (_kinds.count | _matrices.count | _scalesX.count | _scalesY.count | _rotations.count |
             _skewsX.count | _skewsY.count | _translations.count) == 0;

@@ -1,4 +1,4 @@
-// What every element class does alike, each step once: meta-object family, copying, duplication.
+// The steps that all element classes share, each written once: meta-object family, copying, duplication.
 #ifndef ElementProtocol_H
 #define ElementProtocol_H
 
@@ -29,8 +29,9 @@ void Assign(Element& ioTarget, const Element& iSource, void (Element::*iCopyOwn)
     (ioTarget.*iCopyOwn)(iSource);
 }
 
-// The recipes of duplication.  Which one a class uses shows in what it allocates, and in what it has when an
-// allocation fails in between, so each class keeps its own (EveryStroked.CopiesCarryTheRecordsByTheirRecipe).
+// The recipes of duplication.  Which one a class uses can be seen from what it allocates, and from what the
+// copy holds when an allocation fails part-way, so each class keeps its own
+// (EveryStroked.CopiesCarryTheRecordsByTheirRecipe).
 
 /// Duplicates by default construction, then assignment.  The new element, null when it cannot be allocated,
 /// is stored into \p oCopy before anything else, and returned with its own type.
@@ -51,7 +52,7 @@ Element* DuplicateByCopying(const Element& iSource, Out*& oCopy) {
     return copy;
 }
 
-/// Duplicates by default construction alone: the class copies what it means to, without identity strings.
+/// Duplicates by default construction alone: the class then copies what it wants, without identity strings.
 template <class Element, class Out>
 Element* DuplicateByConstruction(Out*& oCopy) {
     Element* const copy = new Element;

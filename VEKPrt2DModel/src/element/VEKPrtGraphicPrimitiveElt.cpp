@@ -13,7 +13,7 @@ VEKPrtGraphicPrimitiveElt::VEKPrtGraphicPrimitiveElt() {
 }
 
 VEKPrtGraphicPrimitiveElt::VEKPrtGraphicPrimitiveElt(const VEKPrtGraphicPrimitiveElt& iOther)
-    : VEKPrtGraphicPrimitiveElt() {
+    : VEKBaseUnknown() {
     if (&iOther != this) CopyOwn(iOther); // a host's string need not survive its own assignment
 }
 

@@ -59,17 +59,18 @@ void VEKPrtBitmapImageElt::GetOrientation(float& oOrientation) const { oOrientat
 void VEKPrtBitmapImageElt::SetPixelImage(VEKPixelImage* iImage) { vekprt::HoldImage(_image, iImage); }
 void VEKPrtBitmapImageElt::GetPixelImage(VEKPixelImage*& oImage) const { oImage = _image; }
 
-// The test is the wrong way round on purpose: the image already held is released (after it has gained its
-// new reference, which may be its only one), and another one held before is not and outlives the element. The
+// The test is the wrong way round on purpose: the image already held is released, last of all because the
+// reference may be its only one, and a different image held before is not and outlives the element.  The
 // orientation is ignored.  Clients see both, so they stay (BitmapImage.SetParametersKeepsTheOldImage).
 void VEKPrtBitmapImageElt::SetParameters(const VEKMathPoint2D& iOrigin, double iWidth, double iHeight,
                                          double /*iOrientation*/, VEKPixelImage* iImage) {
+    VEKPixelImage* const heldAlready = iImage == _image ? iImage : nullptr;
     _origin = iOrigin;
     _width = iWidth;
     _height = iHeight;
-    if (iImage) iImage->AddRef();
-    if (iImage && iImage == _image) _image->Release();
     _image = iImage;
+    if (iImage) iImage->AddRef();
+    if (heldAlready) heldAlready->Release();
 }
 
 void VEKPrtBitmapImageElt::GetParameters(VEKMathPoint2D& oOrigin, double& oWidth, double& oHeight,

@@ -30,8 +30,8 @@ VEKPrtColourTable::~VEKPrtColourTable() {
 }
 
 VEKPrtColourTable& VEKPrtColourTable::operator=(const VEKPrtColourTable& iOther) {
-    // By pointer: two tables without arrays count as one and the same.  The three arrays come and go
-    // together, here and below, so that one speaks for all.
+    // By pointer: two tables without arrays count as one and the same.  The three arrays are
+    // always set and freed together, so testing one is enough, here and below.
     if (_red == iOther._red) return *this;
     vekprt::DeleteArray(_red);
     vekprt::DeleteArray(_green);

@@ -7,8 +7,8 @@
 
 namespace vekprt {
 
-// In all of these an array that is there holds exactly the points that its count says.  A count without an
-// array is possible: a negative one, and one whose allocation failed.
+// An array, where there is one, holds exactly as many points as its count says.  There is none when the count
+// is negative or the allocation failed.
 
 /// A copy of \p iCount points: an array of no length for 0, none for a negative count.
 template <class Coordinate>
@@ -17,10 +17,10 @@ double* NewPoints(const Coordinate* iPoints, int iCount) {
     return NewCopy<double>(coordinates, iPoints, coordinates);
 }
 
-/// As many points as the list has, or \p iCount says, from position \p iFirst on; none for 0 or less.
+/// A copy of \p iCount points from position \p iFirst of the list on; null for a count of 0 or less.
 ///
-/// From 1 that is the list; from 0 it begins with the null at position 0, which is (0, 0), and leaves the
-/// last point out.  The classes differ in it, and clients see which points they get, so each keeps its own
+/// From position 1 that is the whole list; from 0 the first point is (0, 0), for the null there, and the last
+/// is left out.  The classes differ in it, and clients see which points they get, so each keeps its own
 /// (PointArrayList.FirstPosition).
 inline double* NewPointsFromList(const VEKListPtrVEKMathPoint2D& iList, int iCount, int iFirst) {
     double* const points = iCount > 0 ? NewArray<double>(2 * std::int64_t{iCount}) : nullptr;

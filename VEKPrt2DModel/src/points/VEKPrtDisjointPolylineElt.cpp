@@ -36,7 +36,7 @@ void VEKPrtDisjointPolylineElt::CopyOwn(const VEKPrtDisjointPolylineElt& iOther)
     _transform = iOther._transform;
 }
 
-// By another recipe than the other point sequences.
+// Unlike the other point sequences, duplicated by default construction and assignment.
 void VEKPrtDisjointPolylineElt::Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) {
     vekprt::DuplicateByAssignment(*this, oCopy);
 }

@@ -7,7 +7,7 @@
 
 namespace {
 
-// Below 0 for an order that negative: there are no knots then.
+// Negative when the order is less than -iCount; there are then no knots.
 std::int64_t KnotCount(int iOrder, int iCount) { return std::int64_t{iOrder} + iCount; }
 
 } // namespace
@@ -43,8 +43,8 @@ void VEKPrtNURBSElt::DeleteArrays() {
     vekprt::DeleteArray(_weights);
 }
 
-// Makes arrays for order and count, and says whether all three could be allocated.  All are asked for in any
-// case; where one is missing, the others stay and are zero.
+// Makes arrays for order and count, and says whether all three could be allocated.  All three are requested
+// even if one fails; those that succeed are kept, filled with zeros.
 bool VEKPrtNURBSElt::NewArrays() {
     const std::int64_t coordinates = 2 * std::int64_t{_count}, knots = KnotCount(_order, _count);
     _heldOrder = _order;

@@ -11,8 +11,8 @@ VEKPrtTextElt::VEKPrtTextElt(const VEKMathPoint2D& iPosition, const VEKUnicodeSt
     _text = iText;
 }
 
-// The text record comes before the draw style and the other records here, and between them in the assignment;
-// a host's or client's types see which is copied first.
+// The text record is copied before the draw style and the other records here, and between fill and transform
+// in the assignment.  The host's types can observe the order.
 VEKPrtTextElt::VEKPrtTextElt(const VEKPrtTextElt& iOther) : VEKPrtTextElt() {
     if (&iOther == this) return; // a host's string need not survive its own assignment
     _position = iOther._position;
