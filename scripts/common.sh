@@ -32,7 +32,7 @@ require() {
 
 build_packages="g++ cmake ninja-build libpng-dev nlohmann-json3-dev libcli11-dev"
 picture_packages="librsvg2-bin fonts-dejavu-core"
-test_packages="$build_packages $picture_packages pkg-config libgtest-dev libxml2-dev libxml2-utils binutils"
+test_packages="$build_packages $picture_packages pkg-config libgtest-dev libxml2-dev libxml2-utils binutils gdb"
 
 # build PRESET: configures and builds it, quietly unless it fails.
 build() {
