@@ -21,6 +21,7 @@
 template <class Member>
 class VEKPrtMembers {
 public:
+    /// A forward iterator; equal to end() behind the last member.
     class Iterator {
     public:
         using iterator_category = std::forward_iterator_tag;
@@ -73,13 +74,16 @@ private:
     int _end;
 };
 
+/// The elements of a list.
 inline VEKPrtMembers<VEKPrtGraphicPrimitiveElt> MembersOf(const VEKListPtrVEKPrtGraphicPrimitiveElt* iList) {
     return VEKPrtMembers<VEKPrtGraphicPrimitiveElt>(iList);
 }
+/// The regions of a list.
 inline VEKPrtMembers<VEKPrtClosedFigureRegionElt>
 MembersOf(const VEKListPtrVEKPrtClosedFigureRegionElt* iList) {
     return VEKPrtMembers<VEKPrtClosedFigureRegionElt>(iList);
 }
+/// The pages of a list.
 inline VEKPrtMembers<VEKPrtImageElt> MembersOf(const VEKListPtrVEKPrtImageElt* iList) {
     return VEKPrtMembers<VEKPrtImageElt>(iList);
 }

@@ -19,7 +19,9 @@ class VEKRef {
 
 public:
     VEKRef() = default;
+    /// The caller's reference becomes this one's.
     static VEKRef Adopt(T* iObject) { return VEKRef(iObject); }
+    /// The caller keeps the reference that it has, if any.
     static VEKRef Share(T* iObject) {
         if (iObject) iObject->AddRef();
         return VEKRef(iObject);
@@ -59,7 +61,7 @@ private:
     T* _object = nullptr;
 };
 
-// By identity of the objects, null included.
+/// By identity of the objects, null included.
 template <class T, class U>
 bool operator==(const VEKRef<T>& iLeft, const VEKRef<U>& iRight) {
     return iLeft.Get() == iRight.Get();

@@ -5,7 +5,7 @@
 #include "VEKPrt2DModelExport.h"
 #include "VEKRawCollPV.h"
 
-/// Pointers to VEKPrtImageElt at positions 1 to Size(), read through the inherited operator[].
+/// Pointers to VEKPrtImageElt at positions 1 to Size(), made and read as a VEKRawCollPV.
 ///
 /// The list holds no references: copying it copies pointers only.  Whoever keeps the list counts
 /// the references of its members.

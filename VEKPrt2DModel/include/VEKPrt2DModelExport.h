@@ -3,6 +3,7 @@
 #define VEKPrt2DModelExport_H
 
 #if !defined(_WIN32)
+/// For an exported class, function or variable.
 #define VEKPRT2DMODEL_API __attribute__((visibility("default")))
 /// For a member of an exported class that is no part of the binary interface.
 #define VEKPRT2DMODEL_LOCAL __attribute__((visibility("hidden")))

@@ -10,6 +10,7 @@
 /// write their outputs only on success.  Copies are independent.
 class VEKPRT2DMODEL_API VEKPrtColourTable {
 public:
+    /// Empty.
     VEKPrtColourTable();
 
     /// Empty when allocation fails.

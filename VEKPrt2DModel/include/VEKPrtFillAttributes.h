@@ -8,7 +8,12 @@
 
 class VEKPixelImage;
 
+/// What an interior is filled with.  Stored and handed back, whatever the value; new records have
+/// VEKPrtFillSolid.
 enum VEKPrtFillStyle : int { VEKPrtFillSolid = 0, VEKPrtFillPattern = 1, VEKPrtFillNone = 2 };
+
+/// What is inside where outlines cross.  Stored and handed back, whatever the value; new records have
+/// VEKPrtFillEvenOdd.
 enum VEKPrtFillRule : int { VEKPrtFillNonZero = 0, VEKPrtFillEvenOdd = 1 };
 
 /// Style, rule, colour, and an optional pattern: a pixel image, two vectors and a reference point.
@@ -17,6 +22,7 @@ enum VEKPrtFillRule : int { VEKPrtFillNonZero = 0, VEKPrtFillEvenOdd = 1 };
 /// own; only Duplicate copies it.
 class VEKPRT2DMODEL_API VEKPrtFillAttributes {
 public:
+    /// Colour 0, transparency 255, solid, even-odd, no pattern.
     VEKPrtFillAttributes();
     VEKPrtFillAttributes(const VEKPrtFillAttributes& iOther);
     virtual ~VEKPrtFillAttributes();

@@ -8,6 +8,7 @@
 /// The hyperlink target of a whole group.
 class VEKPRT2DMODEL_API VEKPrtGroupAttributes {
 public:
+    /// No link.
     VEKPrtGroupAttributes();
     VEKPrtGroupAttributes(const VEKPrtGroupAttributes& iOther);
     virtual ~VEKPrtGroupAttributes();

@@ -28,6 +28,7 @@ extern VEKPRT2DMODEL_API VEKMetaClass* meta_object__14VEKPrtImageElt;
 /// Owns its colour table outright; holds one reference on each child.
 class VEKPRT2DMODEL_API VEKPrtImageElt : public VEKPrtGraphicPrimitiveElt {
 public:
+    /// Measured in millimetres, with the identity as its matrix.
     VEKPrtImageElt();
     VEKPrtImageElt(const VEKMathPoint2D& iOrigin, double iWidth, double iHeight,
                    const VEKPrtImageUnits& iUnits, const VEKMath2x2Matrix& iMatrix);

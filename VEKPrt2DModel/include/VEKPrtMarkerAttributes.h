@@ -5,8 +5,10 @@
 #include "VEKPrintMarkerAttribute.h"
 #include "VEKPrt2DModelExport.h"
 
+/// The symbol; how large it is drawn is the element's.
 class VEKPRT2DMODEL_API VEKPrtMarkerAttributes {
 public:
+    /// A plus.
     VEKPrtMarkerAttributes();
     VEKPrtMarkerAttributes(const VEKPrtMarkerAttributes& iOther);
     virtual ~VEKPrtMarkerAttributes();

@@ -15,6 +15,7 @@ class VEKPrtImageElt;
 /// one reference back for each occurrence.
 class VEKPRT2DMODEL_API VEKPrtModel : public VEKBaseUnknown {
 public:
+    /// Without pages.
     VEKPrtModel();
 
     /// Shares the images; the framework's data words are left out.

@@ -14,6 +14,7 @@ extern VEKPRT2DMODEL_API VEKMetaClass* meta_object__14VEKPrtNURBSElt;
 /// There are order + count knots and count weights; weights are not optional.
 class VEKPRT2DMODEL_API VEKPrtNURBSElt : public VEKPrtGraphicPrimitiveElt {
 public:
+    /// The bounds are 0 and 1.
     VEKPrtNURBSElt();
 
     /// Reads knots and weights from their first element on.  Arrays are made only for a positive count and

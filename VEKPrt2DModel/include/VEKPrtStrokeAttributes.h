@@ -10,6 +10,7 @@
 /// Colours are indices into the page's colour table.  Copies own their dash pattern.
 class VEKPRT2DMODEL_API VEKPrtStrokeAttributes {
 public:
+    /// Colour 0, transparency 255, a width of 0.1 (the float), solid and scaled, butt caps, mitred joins.
     VEKPrtStrokeAttributes();
     VEKPrtStrokeAttributes(const VEKPrtStrokeAttributes& iOther);
     virtual ~VEKPrtStrokeAttributes();

@@ -7,6 +7,8 @@
 
 class VEKFont;
 
+/// Where the next letter stands.  Stored and handed back, whatever the value; new records have
+/// VEKPrtTextHorizontal.
 enum VEKPrtTextWritingMode : int { VEKPrtTextHorizontal = 0, VEKPrtTextVertical = 1 };
 
 /// Font, weight, height, anchor, slant, direction, spacing, expansion and writing mode.
@@ -15,6 +17,7 @@ enum VEKPrtTextWritingMode : int { VEKPrtTextHorizontal = 0, VEKPrtTextVertical 
 /// never delete it.  The caller keeps the font alive as long as any record points at it.
 class VEKPRT2DMODEL_API VEKPrtTextAttributes {
 public:
+    /// No font, height 10, expansion 1, neither slanted nor turned nor spaced.
     VEKPrtTextAttributes();
     VEKPrtTextAttributes(const VEKPrtTextAttributes& iOther);
     virtual ~VEKPrtTextAttributes();

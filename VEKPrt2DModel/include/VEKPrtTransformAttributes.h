@@ -14,6 +14,7 @@
 /// outputs only on success.
 class VEKPRT2DMODEL_API VEKPrtTransformAttributes {
 public:
+    /// Empty.
     VEKPrtTransformAttributes();
     VEKPrtTransformAttributes(const VEKPrtTransformAttributes& iOther);
     virtual ~VEKPrtTransformAttributes();

@@ -34,13 +34,18 @@ public:
     static void operator delete(void* iObject, const std::nothrow_t&) noexcept;
     static void operator delete(void*, void*) noexcept {}
 
-    // The host's interface protocol.  The reference implementation offers no interface: GetTypeInfoCount
-    // counts 0 and returns Done; the others return NotImplemented, set a returned pointer to null and leave
-    // other outputs alone.
+    /// \name The host's interface protocol
+    ///
+    /// The reference implementation offers no interface: GetTypeInfoCount counts 0 and returns Done; the
+    /// others return NotImplemented, set a returned pointer to null and leave other outputs alone.
+    /// @{
+
+    /// What the functions of the protocol return.
     enum Status : int { Done = 0, NotImplemented = -1 };
     virtual int QueryInterface(const void* iInterfaceId, void** oInterface);
-    /// Both return the count after the call; Release to 0 deletes the object.
+    /// Returns the count after the call.
     virtual unsigned long AddRef();
+    /// Returns the count after the call; at 0 the object is deleted.
     virtual unsigned long Release();
     virtual int GetTypeInfoCount(unsigned int* oCount);
     virtual int GetTypeInfo(unsigned int iIndex, unsigned long iLocale, void** oInfo);
@@ -48,20 +53,27 @@ public:
                               unsigned long iLocale, long* oIds);
     virtual int Invoke(long iId, const void* iInterfaceId, unsigned long iLocale, unsigned short iFlags,
                        void* ioParameters, void* oResult, void* oException, unsigned int* oBadArgument);
+    /// @}
 
     virtual ~VEKBaseUnknown() { s_liveObjects.fetch_sub(1, std::memory_order_relaxed); }
 
+    /// The one of the object's class, or of the nearest class above it that has one.
     virtual VEKMetaClass* GetMetaObject() const;
+    /// The name of that class.
     virtual const char* IsA() const;
+    /// 1 for the name of that class or of one above it, otherwise 0.
     virtual int IsAKindOf(const char* iClassName) const;
 
     /// One of the three data words, for the host's use; never dereferenced here.
     virtual void* GetImpl() const;
     virtual void SetImpl(void* iImpl);
+    /// Always 0 here.
     virtual int IsNull() const;
     /// Identity, not content.
     virtual int IsEqual(const VEKBaseUnknown* iOther) const;
+    /// Always null here.
     virtual VEKBaseUnknown* QueryInterface(const char* iInterfaceName);
+    /// Does nothing here.
     virtual void ChangeComponentState(int iFrom, int iTo);
 
     static VEKMetaClass* MetaObject();

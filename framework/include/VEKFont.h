@@ -4,6 +4,7 @@
 
 #include "VEKUnicodeString.h"
 
+/// Named only: what the family looks like is the consumer's.
 class VEKFont {
 public:
     VEKFont(const char* iFamily) : _family(iFamily) {}

@@ -3,6 +3,7 @@
 #define VEKFrameworkExport_H
 
 #if !defined(_WIN32)
+/// For an exported class or function.
 #define VEKFRAMEWORK_API __attribute__((visibility("default")))
 #elif defined(VEKFRAMEWORK_STATIC)
 #define VEKFRAMEWORK_API

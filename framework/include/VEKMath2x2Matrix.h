@@ -2,6 +2,7 @@
 #ifndef VEKMath2x2Matrix_H
 #define VEKMath2x2Matrix_H
 
+/// Four coefficients, fixed once it is made.
 class VEKMath2x2Matrix {
 public:
     /// The identity.

@@ -2,6 +2,7 @@
 #ifndef VEKPrintLineAttribute_H
 #define VEKPrintLineAttribute_H
 
+/// New records have the solid type, the scaled style, butt caps and mitred joins.
 enum VEKPrintLineAttribute : int {
     VEKPrintLineTypeSolid = 0,
     VEKPrintLineTypeDashed = 1,

@@ -2,6 +2,7 @@
 #ifndef VEKPrintTextAttribute_H
 #define VEKPrintTextAttribute_H
 
+/// New records have the regular weight, and the anchor at the left end of the baseline.
 enum VEKPrintTextAttribute : int {
     VEKPrintTextWeightLight = 24,
     VEKPrintTextWeightRegular = 25,

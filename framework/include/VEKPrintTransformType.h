@@ -2,6 +2,7 @@
 #ifndef VEKPrintTransformType_H
 #define VEKPrintTransformType_H
 
+/// Each goes with a pair of operations of VEKPrtTransformAttributes.
 enum VEKPrintTransformType : int {
     VEKPrintTransformMatrix = 0,
     VEKPrintTransformTranslation = 1,

@@ -9,6 +9,7 @@ class VEKPrtModel;
 
 /// What became of a page; true where a condition is asked for when the whole of it was written.
 struct SvgResult {
+    /// How much of it was written.
     enum Status {
         Written,
         /// Nothing was written.
