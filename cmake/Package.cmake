@@ -8,7 +8,6 @@ set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_CONTACT "${VEKPRT_MAINTAINER}")
 set(CPACK_PACKAGE_DIRECTORY ${PROJECT_BINARY_DIR}/packages)
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
-set(CPACK_STRIP_FILES ON)
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE
   WORLD_READ WORLD_EXECUTE)
 set(CPACK_COMPONENTS_ALL Runtime Development)
@@ -20,6 +19,10 @@ set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME ${runtime})
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
+# Debug information goes into a package of its own, and is stripped from the libraries for it.
+target_compile_options(VEKPrt2DModel PRIVATE -g)
+target_compile_options(VEKFramework PRIVATE -g)
+set(CPACK_DEBIAN_RUNTIME_DEBUGINFO_PACKAGE ON)
 set(CPACK_DEBIAN_RUNTIME_DESCRIPTION "Holds pages of groups, lines, arcs, curves, text and bitmaps:
  client programs build a model; plot drivers, viewers and converters walk it.")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME ${development})
