@@ -36,11 +36,14 @@ inline double* NewPointsFromList(const VEKListPtrVEKMathPoint2D& iList, int iCou
 /// SetPoints.  The old array goes first, unless \p iPoints lies in it: it is then read as far as it goes.
 inline void ReplacePoints(double*& ioPoints, int& ioCount, const double* iPoints, int iCount) {
     OutgoingArray<double> old(ioPoints, 2 * std::int64_t{ioCount});
-    const std::int64_t wanted = 2 * std::int64_t{iCount};
-    const std::int64_t readable = old.CountReadable(iPoints, wanted);
-    if (!old.Holds(iPoints)) old.Free();
     ioCount = iCount;
-    ioPoints = NewCopy<double>(wanted, iPoints, readable);
+    if (old.Holds(iPoints)) {
+        const std::int64_t wanted = 2 * std::int64_t{iCount};
+        ioPoints = NewCopy<double>(wanted, iPoints, old.CountReadable(iPoints, wanted));
+    } else {
+        old.Free();
+        ioPoints = NewPoints(iPoints, iCount);
+    }
 }
 
 /// Copying.  Two elements without an array are left alone, counts included; otherwise a source without
