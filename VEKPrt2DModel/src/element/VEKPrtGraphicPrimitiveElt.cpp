@@ -12,6 +12,8 @@ VEKPrtGraphicPrimitiveElt::VEKPrtGraphicPrimitiveElt() {
     _title = "";
 }
 
+// The framework's part starts anew.
+// NOLINTNEXTLINE(bugprone-copy-constructor-init)
 VEKPrtGraphicPrimitiveElt::VEKPrtGraphicPrimitiveElt(const VEKPrtGraphicPrimitiveElt& iOther)
     : VEKBaseUnknown() {
     if (&iOther != this) CopyOwn(iOther); // a host's string need not survive its own assignment
