@@ -63,4 +63,9 @@ using Stroked =
 using PlacedOnly = testing::Types<VEKPrtBitmapImageElt, VEKPrtGroupElt, VEKPrtPatternElt, VEKPrtSymbolElt,
                                   VEKPrtClosedFigureRegionElt>;
 
+template <class T, class List>
+constexpr bool In = false;
+template <class T, class... Ts>
+constexpr bool In<T, testing::Types<Ts...>> = (std::is_same_v<T, Ts> || ...);
+
 #endif

@@ -31,7 +31,7 @@ void Assign(Element& ioTarget, const Element& iSource, void (Element::*iCopyOwn)
 
 // The recipes of duplication.  Which one a class uses can be seen from what it allocates, and from what the
 // copy holds when an allocation fails part-way, so each class keeps its own
-// (EveryStroked.CopiesCarryTheRecordsByTheirRecipe).
+// (EveryStroked.DuplicatesByItsRecipe).
 
 /// Duplicates by default construction, then assignment.  The new element, null when it cannot be allocated,
 /// is stored into \p oCopy before anything else, and returned with its own type.
