@@ -1,8 +1,7 @@
 // Fails every allocation of every copying operation in turn, alone and from there on.
-#include <functional>
 #include <optional>
 
-#include "TestSupport.h"
+#include "Fields.h"
 
 namespace {
 
@@ -10,56 +9,29 @@ template <class Element>
 class EveryAllocation : public testing::Test {};
 TYPED_TEST_SUITE(EveryAllocation, AllElements, );
 
-// Each overload fills what a class has, if it has it.
 template <class Element>
-auto FillStroke(Element& ioElement, int) -> decltype(ioElement.SetStrokeAttributes({})) {
-    VEKPrtStrokeAttributes stroke;
-    const float dashes[] = {1, 2, 3};
-    stroke.SetStrokeTypePattern(dashes, 3);
-    ioElement.SetStrokeAttributes(stroke);
-}
-template <class Element>
-auto FillTransform(Element& ioElement, int) -> decltype(ioElement.SetTransformAttributes({})) {
-    VEKPrtTransformAttributes transform;
-    transform.AddMatrix(VEKMath2x2Matrix(1, 2, 3, 4));
-    transform.AddRotation(5.0F);
-    ioElement.SetTransformAttributes(transform);
-}
-template <class Element>
-auto FillPoints(Element& ioElement, int) -> decltype(ioElement.SetPoints(static_cast<double*>(nullptr), 2)) {
-    ioElement.SetPoints(static_cast<double*>(nullptr), 2);
-}
-template <class Element>
-auto FillTable(Element& ioElement, int) -> decltype(ioElement.SetColourTable(nullptr)) {
-    auto* const table = new VEKPrtColourTable;
-    unsigned index = 0;
-    table->AddColour(1, 2, 3, index);
-    ioElement.SetColourTable(table);
-}
-template <class Element>
-void FillStroke(Element&, long) {}
-template <class Element>
-void FillTransform(Element&, long) {}
-template <class Element>
-void FillPoints(Element&, long) {}
-template <class Element>
-void FillTable(Element&, long) {}
-
-void FillOwn(VEKPrtTextElt& ioText) { ioText.SetText("text"); }
-void FillOwn(VEKPrtPolyPolygonElt& ioPolygons) {
-    const int counts[] = {2, 1};
-    ioPolygons.SetPoints(nullptr, counts, 2);
-}
-void FillOwn(VEKPrtNURBSElt& ioCurve) {
+void SetAll(Element& ioElement) {
+    for (const auto& fields : {FieldsOf<Element>(), RecordsOf<Element>()})
+        for (const auto& field : fields)
+            field.set(ioElement, 1);
     const double values[] = {1, 2, 3, 4, 5, 6};
-    ioCurve.SetParameters(2, 2, values, values, 0.0F, 1.0F, values);
+    const int counts[] = {2, 1};
+    if constexpr (In<Element, PointArrays>) ioElement.SetPoints(values, 2);
+    if constexpr (std::is_same_v<Element, VEKPrtPolyPolygonElt>) ioElement.SetPoints(values, counts, 2);
+    if constexpr (std::is_same_v<Element, VEKPrtNURBSElt>)
+        ioElement.SetParameters(2, 2, values, values, 0.0F, 1.0F, values);
+    if constexpr (std::is_same_v<Element, VEKPrtImageElt>) {
+        auto* const table = new VEKPrtColourTable;
+        unsigned index = 0;
+        table->AddColour(1, 2, 3, index);
+        ioElement.SetColourTable(table);
+    }
 }
-void FillOwn(VEKPrtGraphicPrimitiveElt&) {}
 
 // Of the page, a failure may lose arrays of the colour table's copy: those that came before or after the one
 // that failed.
 template <class Element>
-constexpr long mayLose = std::is_same<Element, VEKPrtImageElt>::value ? 2 : 0;
+constexpr long mayLose = std::is_same_v<Element, VEKPrtImageElt> ? 2 : 0;
 
 } // namespace
 
@@ -69,11 +41,7 @@ TYPED_TEST(EveryAllocation, CanFail) {
     const auto source = Make<TypeParam>();
     source->SetID("id");
     source->SetTitle("title");
-    FillStroke(*source, 0);
-    FillTransform(*source, 0);
-    FillPoints(*source, 0);
-    FillTable(*source, 0);
-    FillOwn(*source);
+    SetAll(*source);
 
     struct Operation {
         const char* name;

@@ -83,8 +83,8 @@ inline double ToNumber(double iValue) { return iValue; }
 inline double ToNumber(const Vector& iValue) { return iValue.GetX(); }
 inline double ToNumber(const Matrix& iValue) { return iValue.GetCoef(1, 1) - Matrix().GetCoef(1, 1); }
 
-/// A kind of transform.
-struct Kind {
+/// A kind of entry in a transform.
+struct TransformKind {
     const char* name;
     std::function<int(Transform&, double)> add;
     /// The value at a position of the list; none where the record says that it failed.
@@ -92,8 +92,8 @@ struct Kind {
 };
 
 template <class Argument, class Value>
-Kind MakeKind(const char* iName, int (Transform::*iAdd)(Argument),
-              int (Transform::*iGet)(unsigned, Value&) const) {
+TransformKind MakeKind(const char* iName, int (Transform::*iAdd)(Argument),
+                       int (Transform::*iGet)(unsigned, Value&) const) {
     const auto add = [=](Transform& ioTransform, double iNumber) {
         return (ioTransform.*iAdd)(FromNumber<Value>(iNumber));
     };
@@ -110,8 +110,8 @@ Kind MakeKind(const char* iName, int (Transform::*iAdd)(Argument),
 
 #define KIND(Name) MakeKind(#Name, &Transform::Add##Name, &Transform::Get##Name)
 /// By their numbers.
-inline const Kind g_kinds[] = {KIND(Matrix), KIND(Translation), KIND(Rotation), KIND(ScaleX),
-                               KIND(ScaleY), KIND(SkewX),       KIND(SkewY)};
+inline const TransformKind g_kinds[] = {KIND(Matrix), KIND(Translation), KIND(Rotation), KIND(ScaleX),
+                                        KIND(ScaleY), KIND(SkewX),       KIND(SkewY)};
 
 inline std::vector<int> Kinds(const Transform& iTransform) {
     unsigned count = 99;
@@ -134,7 +134,7 @@ inline Transform OneOfEach() {
 inline bool operator==(const Transform& iLeft, const Transform& iRight) {
     const std::size_t count = Kinds(iLeft).size();
     bool equal = Kinds(iRight) == Kinds(iLeft);
-    for (const Kind& kind : g_kinds)
+    for (const TransformKind& kind : g_kinds)
         for (unsigned i = 0; i < count; ++i)
             equal = equal && kind.get(iLeft, i) == kind.get(iRight, i);
     return equal;

@@ -4,12 +4,10 @@
 //
 // VEKPRT_RANDOM_STEPS and VEKPRT_RANDOM_SEED in the environment say how many steps, and which.
 #include <iostream>
-#include <optional>
 #include <random>
 #include <set>
-#include <tuple>
 
-#include "TestSupport.h"
+#include "Fields.h"
 #include "VEKPrtChildren.h"
 
 namespace {
@@ -19,7 +17,7 @@ struct Heap {
     long nth = -1, asked = 0, blocks = 0;
     bool sticky = false;
     bool Take() {
-        const bool fails = nth >= 0 && (asked == nth || (sticky && asked > nth));
+        const bool fails = asked == nth || (sticky && asked > nth);
         ++asked;
         blocks += fails ? 0 : 1;
         return !fails;
@@ -81,22 +79,17 @@ bool Accepts(Kind iHolder, Kind iMember) {
     return iHolder == model ? iMember == page : iHolder == figure ? iMember == region : IsElement(iMember);
 }
 
-template <class T, class... Ts>
-constexpr bool In(testing::Types<Ts...>) {
-    return (std::is_same_v<T, Ts> || ...);
-}
 template <class T>
 constexpr bool isElement = std::is_base_of_v<VEKPrtGraphicPrimitiveElt, T>;
 template <class T>
-constexpr bool isPlaced = In<T>(Stroked()) || In<T>(PlacedOnly());
-template <class T>
-constexpr bool isHolder = In<T>(Holders());
+constexpr bool isPlaced = In<T, Stroked> || In<T, PlacedOnly>;
 
 struct Node;
 struct Records {
     unsigned colour = 0;
     Array dashes, kinds, rotations, translations;
     Node* image = nullptr;
+    std::vector<Array*> Arrays() { return {&dashes, &kinds, &rotations, &translations}; }
 };
 
 // One object of the library.
@@ -104,7 +97,7 @@ struct Node : Records {
     Kind kind = line;
     VEKBaseUnknown* real = nullptr;
     long references = 1;
-    Text strings[3], text;
+    Text strings[4]; // the last is a text's own
     Array points;
     bool hasList = false, hasTable = false;
     int listCapacity = 0, capacity = 0, allocated = 0, colours = 0; // the last three are the table's
@@ -116,27 +109,6 @@ template <std::size_t I = 0, class Use>
 void Typed(const Node& iNode, Use iUse) {
     if (iNode.kind == I) return iUse(static_cast<std::tuple_element_t<I, Classes>&>(*iNode.real));
     if constexpr (I + 1 < std::tuple_size_v<Classes>) Typed<I + 1>(iNode, iUse);
-}
-
-void Add(VEKPrtModel& ioModel, VEKBaseUnknown* iPage) {
-    ioModel.AddImage(static_cast<VEKPrtImageElt*>(iPage));
-}
-void Remove(VEKPrtModel& ioModel, VEKBaseUnknown* iPage) {
-    ioModel.RemoveImage(static_cast<VEKPrtImageElt*>(iPage));
-}
-void Add(VEKPrtClosedFigureElt& ioFigure, VEKBaseUnknown* iRegion) {
-    ioFigure.AddChild(static_cast<VEKPrtClosedFigureRegionElt*>(iRegion));
-}
-void Remove(VEKPrtClosedFigureElt& ioFigure, VEKBaseUnknown* iRegion) {
-    ioFigure.RemoveChild(static_cast<VEKPrtClosedFigureRegionElt*>(iRegion));
-}
-template <class Container>
-void Add(Container& ioContainer, VEKBaseUnknown* iChild) {
-    ioContainer.AddChild(static_cast<VEKPrtGraphicPrimitiveElt*>(iChild));
-}
-template <class Container>
-void Remove(Container& ioContainer, VEKBaseUnknown* iChild) {
-    ioContainer.RemoveChild(static_cast<VEKPrtGraphicPrimitiveElt*>(iChild));
 }
 
 bool Contains(const Node& iHolder, const Node& iNode) {
@@ -168,12 +140,11 @@ public:
         for (Node* const member : ioNode->members)
             Release(member);
         Release(ioNode->image);
-        for (Array* const array :
-             {&ioNode->dashes, &ioNode->kinds, &ioNode->rotations, &ioNode->translations, &ioNode->points})
+        for (Array* const array : ioNode->Arrays())
             array->Drop();
-        for (Text* const string :
-             {&ioNode->strings[0], &ioNode->strings[1], &ioNode->strings[2], &ioNode->text})
-            string->Assign("");
+        ioNode->points.Drop();
+        for (Text& string : ioNode->strings)
+            string.Assign("");
         DropList(*ioNode);
         DropTable(*ioNode);
         g_heap.Free(IsPixels(ioNode->kind) ? 2 : 1);
@@ -294,7 +265,7 @@ private:
         Share(ioTarget, iSource);
         if (ioTarget.points.there || iSource.points.there)
             ioTarget.points.Set(iSource.points.there ? iSource.points.count : 0, iSource.points.values);
-        if (ioTarget.kind == Kind::text) ioTarget.text.Assign(iSource.text.value);
+        if (ioTarget.kind == text) ioTarget.strings[3].Assign(iSource.strings[3].value);
         CopyStroke(ioTarget, iSource);
         Hold(ioTarget.image, iSource.image);
         CopyTransform(ioTarget, iSource);
@@ -320,7 +291,7 @@ public:
         Node* const node = AnyHeld([](Kind iKind) { return !IsPixels(iKind); });
         const int operation = _held.size() > 15 ? 9 : Any(10);
         if (operation < 2 || !node) return Create();
-        if (operation < 5) return Change(*node);
+        if (operation < 5) return Any(3) == 0 ? ChangeRecord() : Change(*node);
         if (operation < 7) return AddOrRemove();
         if (operation < 9) return CopyOrAssign(*node);
         const auto at = _held.begin() + Any(static_cast<int>(_held.size()));
@@ -341,7 +312,7 @@ public:
     // Gives back what can be given back; the rest is lost for good.
     void Finish() {
         _plain.Hold(_record.image, nullptr);
-        _fill = VEKPrtFillAttributes();
+        _fill = Fill();
         _record.dashes.Drop();
         _stroke.SetStrokeTypePattern(nullptr, 0);
         RenewTransform();
@@ -366,45 +337,37 @@ private:
         return nullptr;
     }
 
-    // What follows is the library's side of an operation, one in four with a failing allocation ...
-    void Begin(const char* iWhat) {
+    // An operation on the library, one in four with a failing allocation, and then on the plain side; what
+    // they ask for and what they leave must agree.
+    template <class Real, class OnPlain>
+    void Both(const char* iWhat, Real iReal, OnPlain iOnPlain) {
         what = iWhat;
-        _next = Heap();
-        _next.nth = Any(4) == 0 ? Any(8) : -1;
-        _next.sticky = Any(2) == 0;
-        _asked = Allocations();
-        _blocks = LiveBlocks();
-        if (_next.nth >= 0) _faults.emplace(_next.nth, _next.sticky);
-    }
-    // ... what follows the plain side ...
-    void Replay() {
-        _faults.reset();
-        _asked = Allocations() - _asked;
-        _blocks = LiveBlocks() - _blocks;
-        _next.blocks = g_heap.blocks;
-        g_heap = _next;
-    }
-    // ... and here they are compared.
-    void End() {
-        EXPECT_EQ(_asked, g_heap.asked) << "allocations";
-        EXPECT_EQ(_blocks, g_heap.blocks - _next.blocks) << "blocks left";
+        Heap heap;
+        heap.nth = Any(4) == 0 ? Any(8) : -1;
+        heap.sticky = heap.nth >= 0 && Any(2) == 0;
+        heap.blocks = g_heap.blocks;
+        const long asked = Allocations(), blocks = LiveBlocks();
+        AllocationFaults faults(heap.nth, heap.sticky);
+        iReal();
+        faults.Stop();
+        const long nowAsked = Allocations(), nowBlocks = LiveBlocks();
+        g_heap = heap;
+        iOnPlain();
+        EXPECT_EQ(nowAsked - asked, g_heap.asked) << "allocations";
+        EXPECT_EQ(nowBlocks - blocks, g_heap.blocks - heap.blocks) << "blocks left";
         g_heap.nth = -1;
+        g_heap.sticky = false;
         const long live = VEKBaseUnknown::CountLiveObjects() - _liveBefore;
         EXPECT_EQ(live, static_cast<long>(_plain.alive.size() + _gone.size()));
     }
     void GiveBack(Node* ioNode) {
-        Begin("release");
-        ioNode->real->Release();
-        Replay();
-        _plain.Release(ioNode);
-        End();
+        Both(
+            "release", [&] { ioNode->real->Release(); }, [&] { _plain.Release(ioNode); });
     }
     void RenewTransform() {
-        Begin("new transform");
-        _transform = VEKPrtTransformAttributes();
-        Replay();
-        _plain.CopyTransform(_record, Records());
-        End();
+        Both(
+            "new transform", [&] { _transform = Transform(); },
+            [&] { _plain.CopyTransform(_record, Records()); });
     }
 
     // Takes a new object into the world, and tells each node that the plain side made which object it is.
@@ -419,23 +382,17 @@ private:
             if (!node->real) _gone.push_back(node);
         }
     }
-    static VEKPixelImage* ImageOf(const VEKPrtFillAttributes& iFill) {
-        VEKPixelImage* image = nullptr;
-        VEKMathVector2D first, second;
-        VEKPrtFillAttributes(iFill).GetPattern(image, first, second);
-        return image;
-    }
     static void Bind(Node& ioNode, VEKBaseUnknown* iReal) {
         if (ioNode.real) return;
         ioNode.real = iReal;
         Typed(ioNode, [&](auto& ioReal) {
             using T = std::decay_t<decltype(ioReal)>;
-            if constexpr (In<T>(Filled())) {
-                VEKPrtFillAttributes fill;
+            if constexpr (In<T, Filled>) {
+                Fill fill;
                 ioReal.GetFillAttributes(fill);
                 if (ioNode.image) Bind(*ioNode.image, ImageOf(fill));
             }
-            if constexpr (isHolder<T>) {
+            if constexpr (In<T, Holders>) {
                 std::size_t i = 0;
                 for (auto& member : ChildrenOf(ioReal))
                     if (i < ioNode.members.size()) Bind(*ioNode.members[i++], &member);
@@ -451,11 +408,10 @@ private:
     }
     void Create() {
         const auto kind = static_cast<Kind>(Any(pixels));
-        Begin("create");
-        VEKBaseUnknown* const real = New(kind);
-        Replay();
-        Node* const node = _plain.Born(kind);
-        End();
+        VEKBaseUnknown* real = nullptr;
+        Node* node = nullptr;
+        Both(
+            "create", [&] { real = New(kind); }, [&] { node = _plain.Born(kind); });
         Enter(node, real);
         if (Any(4) > 0) return;
         Enter(_plain.Born(pixels), new VEKPixelImage(1, 1));
@@ -469,20 +425,21 @@ private:
         const int aspect = Any(7), length = Any(3);
         Node* const image = Any(3) == 0 ? nullptr : AnyHeld(IsPixels);
         if (aspect == 0) return RenewTransform();
-        Begin("client's record");
-        if (aspect == 1) _stroke.SetStrokeTypePattern(values, static_cast<unsigned char>(length));
-        if (aspect == 2) _stroke.SetStrokeColourIndex(static_cast<unsigned>(length));
-        if (aspect == 3)
-            _fill.SetPattern(image ? static_cast<VEKPixelImage*>(image->real) : nullptr, {0, 0}, {0, 0});
-        if (aspect == 4) _transform.AddTranslation(VEKMathVector2D(value, 0));
-        if (aspect > 4) _transform.AddRotation(values[0]);
-        Replay();
-        if (aspect == 1) _record.dashes.Set(length, {values, values + length});
-        if (aspect == 2) _record.colour = static_cast<unsigned>(length);
-        if (aspect == 3) _plain.Hold(_record.image, image);
-        if (aspect == 4 && _record.translations.Append(value)) _record.kinds.Append(1);
-        if (aspect > 4 && _record.rotations.Append(value)) _record.kinds.Append(2);
-        End();
+        const auto change = [&] {
+            if (aspect == 1) _stroke.SetStrokeTypePattern(values, static_cast<unsigned char>(length));
+            if (aspect == 2) _stroke.SetStrokeColourIndex(static_cast<unsigned>(length));
+            if (aspect == 3)
+                _fill.SetPattern(image ? static_cast<VEKPixelImage*>(image->real) : nullptr, {0, 0}, {0, 0});
+            if (aspect == 4) _transform.AddTranslation(FromNumber<Vector>(value));
+            if (aspect > 4) _transform.AddRotation(values[0]);
+        };
+        Both("client's record", change, [&] {
+            if (aspect == 1) _record.dashes.Set(length, {values, values + length});
+            if (aspect == 2) _record.colour = static_cast<unsigned>(length);
+            if (aspect == 3) _plain.Hold(_record.image, image);
+            if (aspect == 4 && _record.translations.Append(value)) _record.kinds.Append(1);
+            if (aspect > 4 && _record.rotations.Append(value)) _record.kinds.Append(2);
+        });
     }
 
     // A string, a record, points or a colour.
@@ -491,17 +448,16 @@ private:
         const VEKUnicodeString string(value.c_str());
         const double coordinates[] = {1.0 * Any(100), 2, 3, 4, 5, 6, 7, 8};
         const int aspect = Any(7), count = Any(5) - 1;
-        Begin("change");
-        Typed(ioNode, [&](auto& ioReal) {
+        const auto change = [&](auto& ioReal) {
             using T = std::decay_t<decltype(ioReal)>;
             if constexpr (isElement<T>) {
                 if (aspect == 0) ioReal.SetID(string);
                 if (aspect == 1) ioReal.SetDescription(string);
                 if (aspect == 2) ioReal.SetTitle(string);
             }
-            if constexpr (In<T>(Stroked()))
+            if constexpr (In<T, Stroked>)
                 if (aspect == 3) ioReal.SetStrokeAttributes(_stroke);
-            if constexpr (In<T>(Filled()))
+            if constexpr (In<T, Filled>)
                 if (aspect == 4) ioReal.SetFillAttributes(_fill);
             if constexpr (isPlaced<T>)
                 if (aspect == 5) ioReal.SetTransformAttributes(_transform);
@@ -517,19 +473,21 @@ private:
                 else
                     ioReal.SetColourTable(new (std::nothrow) VEKPrtColourTable);
             }
-        });
-        Replay();
+        };
         const Kind kind = ioNode.kind;
-        if (aspect < 3 && IsElement(kind)) ioNode.strings[aspect].Assign(value);
-        if (aspect == 3 && IsStroked(kind)) _plain.CopyStroke(ioNode, _record);
-        if (aspect == 4 && IsFilled(kind)) _plain.Hold(ioNode.image, _record.image);
-        if (aspect == 5 && kind < page) _plain.CopyTransform(ioNode, _record);
-        if (aspect == 6 && kind == text) ioNode.text.Assign(value);
-        if (aspect == 6 && kind == polyline)
-            ioNode.points.Set(count, {coordinates, coordinates + std::max(2 * count, 0)}, 0);
-        if (aspect == 6 && kind == page)
-            ioNode.hasTable ? _plain.AddColour(ioNode) : void(ioNode.hasTable = g_heap.Take());
-        End();
+        Both(
+            "change", [&] { Typed(ioNode, change); },
+            [&] {
+                if (aspect < 3 && IsElement(kind)) ioNode.strings[aspect].Assign(value);
+                if (aspect == 3 && IsStroked(kind)) _plain.CopyStroke(ioNode, _record);
+                if (aspect == 4 && IsFilled(kind)) _plain.Hold(ioNode.image, _record.image);
+                if (aspect == 5 && kind < page) _plain.CopyTransform(ioNode, _record);
+                if (aspect == 6 && kind == text) ioNode.strings[3].Assign(value);
+                if (aspect == 6 && kind == polyline)
+                    ioNode.points.Set(count, {coordinates, coordinates + std::max(2 * count, 0)}, 0);
+                if (aspect == 6 && kind == page)
+                    ioNode.hasTable ? _plain.AddColour(ioNode) : void(ioNode.hasTable = g_heap.Take());
+            });
     }
 
     void AddOrRemove() {
@@ -541,14 +499,13 @@ private:
         if (adds && member && member != holder && (Contains(*member, *holder) || holder->members.size() > 9))
             return;
         VEKBaseUnknown* const real = member ? member->real : nullptr;
-        Begin(adds ? "add" : "remove");
-        Typed(*holder, [&](auto& ioReal) {
-            if constexpr (isHolder<std::decay_t<decltype(ioReal)>>)
-                adds ? Add(ioReal, real) : Remove(ioReal, real);
-        });
-        Replay();
-        adds ? _plain.Add(*holder, member) : _plain.Remove(*holder, member);
-        End();
+        const auto addOrRemove = [&](auto& ioReal) {
+            if constexpr (In<std::decay_t<decltype(ioReal)>, Holders>)
+                adds ? AddTo(ioReal, real) : RemoveFrom(ioReal, real);
+        };
+        Both(
+            adds ? "add" : "remove", [&] { Typed(*holder, addOrRemove); },
+            [&] { adds ? _plain.Add(*holder, member) : _plain.Remove(*holder, member); });
     }
 
     void CopyOrAssign(Node& ioNode) {
@@ -561,45 +518,45 @@ private:
             if (source != &ioNode && Contains(*member, ioNode)) return;
         VEKBaseUnknown* real = nullptr;
         VEKPrtGraphicPrimitiveElt* duplicate = nullptr;
-        Begin(copies ? "copy" : duplicates ? "duplicate" : "assign");
-        Typed(ioNode, [&](auto& ioReal) {
+        Node* copy = nullptr;
+        const auto onReal = [&](auto& ioReal) {
             using T = std::decay_t<decltype(ioReal)>;
-            if constexpr (!std::is_same_v<T, VEKPixelImage>) {
-                if (copies) real = new T(ioReal);
-                if (!copies && !duplicates) ioReal = static_cast<T&>(*source->real);
-            }
-        });
-        if (duplicates) static_cast<VEKPrtGraphicPrimitiveElt*>(ioNode.real)->Duplicate(duplicate);
-        Replay();
-        Node* const copy = copies ? _plain.Copy(ioNode) : duplicates ? _plain.Duplicate(ioNode) : nullptr;
-        if (!copies && !duplicates) _plain.Assign(ioNode, *source);
-        End();
+            if constexpr (isElement<T>)
+                if (duplicates) return ioReal.Duplicate(duplicate);
+            if constexpr (In<T, Holders> || isElement<T>)
+                copies ? void(real = new T(ioReal)) : void(ioReal = static_cast<T&>(*source->real));
+        };
+        Both(
+            copies       ? "copy"
+            : duplicates ? "duplicate"
+                         : "assign",
+            [&] { Typed(ioNode, onReal); },
+            [&] {
+                if (copies) copy = _plain.Copy(ioNode);
+                if (duplicates) copy = _plain.Duplicate(ioNode);
+                if (!copies && !duplicates) _plain.Assign(ioNode, *source);
+            });
         Enter(copy, duplicates ? duplicate : real);
     }
 
     // Each Get at each position: the n-th entry of a kind goes with the n-th value.
-    static void ExpectTransform(const VEKPrtTransformAttributes& iTransform, const Records& iRecords) {
+    static void ExpectTransform(const Transform& iTransform, const Records& iRecords) {
         unsigned count = 0;
         VEKPrintTransformType* kinds = nullptr;
         iTransform.GetTransformTab(count, kinds);
         ASSERT_EQ(static_cast<int>(count), iRecords.kinds.count);
         ASSERT_EQ(kinds != nullptr, iRecords.kinds.there);
         int seen[3] = {};
-        for (unsigned i = 0; i < count; ++i) {
-            if (!kinds) continue;
+        for (unsigned i = 0; kinds && i < count; ++i) {
             EXPECT_EQ(kinds[i], static_cast<int>(iRecords.kinds.values[i]));
             ++seen[kinds[i]];
-            const auto expect = [&](const Array& iValues, int iSeen, int iStatus, double iValue) {
-                const bool found = iValues.there && iSeen > 0 && iSeen <= iValues.count;
-                EXPECT_EQ(iStatus, found ? 1 : -1);
-                EXPECT_EQ(iValue, found ? iValues.values[static_cast<std::size_t>(iSeen) - 1] : -1.0);
-            };
-            float angle = -1;
-            VEKMathVector2D vector(-1, -1);
-            const int rotated = iTransform.GetRotation(i, angle),
-                      moved = iTransform.GetTranslation(i, vector);
-            expect(iRecords.rotations, seen[2], rotated, static_cast<double>(angle));
-            expect(iRecords.translations, seen[1], moved, vector.GetX());
+            for (const int kind : {1, 2}) {
+                const Array& values = kind == 1 ? iRecords.translations : iRecords.rotations;
+                const bool found = values.there && seen[kind] > 0 && seen[kind] <= values.count;
+                std::optional<double> expected;
+                if (found) expected = values.values[static_cast<std::size_t>(seen[kind]) - 1];
+                EXPECT_EQ(g_kinds[kind].get(iTransform, i), expected);
+            }
         }
     }
 
@@ -607,38 +564,35 @@ private:
         EXPECT_EQ(Count(iNode.real), static_cast<unsigned long>(iNode.references));
         Typed(iNode, [&](auto& iReal) {
             using T = std::decay_t<decltype(iReal)>;
-            VEKUnicodeString strings[3], string;
+            VEKUnicodeString strings[4];
             if constexpr (isElement<T>) {
                 iReal.GetID(strings[0]);
                 iReal.GetDescription(strings[1]);
                 iReal.GetTitle(strings[2]);
             }
-            for (int i = 0; i < 3; ++i)
+            if constexpr (std::is_same_v<T, VEKPrtTextElt>) iReal.GetText(strings[3]);
+            for (int i = 0; i < 4; ++i)
                 EXPECT_EQ(strings[i].ToUtf8(), iNode.strings[i].value);
-            if constexpr (In<T>(Stroked())) {
-                VEKPrtStrokeAttributes stroke;
+            if constexpr (In<T, Stroked>) {
+                Stroke stroke;
                 unsigned colour = 0;
-                float* dashes = nullptr;
-                unsigned char count = 0;
                 iReal.GetStrokeAttributes(stroke);
                 stroke.GetStrokeColourIndex(colour);
-                stroke.GetStrokeTypePattern(dashes, count);
-                const std::unique_ptr<float[]> owner(dashes);
+                const std::vector<float> dashes = DashesOf(stroke);
                 EXPECT_EQ(colour, iNode.colour);
-                EXPECT_EQ(count, iNode.dashes.there ? iNode.dashes.count : 0) << "of a copy";
-                for (std::size_t i = 0; i < count; ++i)
-                    EXPECT_EQ(static_cast<double>(dashes[i]), iNode.dashes.values[i]);
+                EXPECT_EQ(std::vector<double>(dashes.begin(), dashes.end()),
+                          iNode.dashes.there ? iNode.dashes.values : std::vector<double>());
             }
-            if constexpr (In<T>(Filled())) {
-                VEKPrtFillAttributes fill;
+            if constexpr (In<T, Filled>) {
+                Fill fill;
                 iReal.GetFillAttributes(fill);
                 EXPECT_EQ(ImageOf(fill), iNode.image ? iNode.image->real : nullptr);
             }
             if constexpr (isPlaced<T>) {
-                VEKPrtTransformAttributes transform;
+                Transform transform;
                 iReal.GetTransformAttributes(transform);
                 Records copied = iNode;
-                for (Array* const array : {&copied.kinds, &copied.rotations, &copied.translations}) {
+                for (Array* const array : copied.Arrays()) {
                     if (!array->there) array->values = array->Zeros(); // in a copy they are there again
                     array->there = array->count > 0;
                 }
@@ -652,9 +606,6 @@ private:
                 ASSERT_EQ(points != nullptr, iNode.points.there);
                 for (int i = 0; points && i < 2 * count; ++i)
                     EXPECT_EQ(points[i], iNode.points.values[static_cast<std::size_t>(i)]);
-            } else if constexpr (std::is_same_v<T, VEKPrtTextElt>) {
-                iReal.GetText(string);
-                EXPECT_EQ(string.ToUtf8(), iNode.text.value);
             } else if constexpr (std::is_same_v<T, VEKPrtImageElt>) {
                 VEKPrtColourTable* table = nullptr;
                 int colours = 0;
@@ -663,7 +614,7 @@ private:
                 if (table) table->GetColourCount(colours);
                 EXPECT_EQ(colours, iNode.colours);
             }
-            if constexpr (isHolder<T>) {
+            if constexpr (In<T, Holders>) {
                 const auto* const list = ListOf(iReal);
                 ASSERT_EQ(list != nullptr, iNode.hasList);
                 ASSERT_EQ(list ? list->Size() : 0, static_cast<int>(iNode.members.size()));
@@ -674,16 +625,13 @@ private:
     }
 
     std::mt19937 _random;
-    Heap _next;
-    std::optional<AllocationFaults> _faults;
-    long _asked = 0, _blocks = 0;
     Plain _plain;
     std::vector<Node*> _held; // one reference of the client's each
     std::vector<Node*> _gone; // duplicates that a list had no room for, with all that they hold
     Records _record;          // the client's own records
-    VEKPrtStrokeAttributes _stroke;
-    VEKPrtFillAttributes _fill;
-    VEKPrtTransformAttributes _transform;
+    Stroke _stroke;
+    Fill _fill;
+    Transform _transform;
     const long _liveBefore = VEKBaseUnknown::CountLiveObjects();
 };
 

@@ -99,40 +99,25 @@ TYPED_TEST(EveryStroked, DuplicatesByItsRecipe) {
         << "where copying came first, the assignment has another try";
 }
 
-namespace {
-
-template <class Shape>
-VEKPixelImage* ImageOf(const Shape& iShape) {
-    VEKPrtFillAttributes fill;
-    iShape.GetFillAttributes(fill);
-    VEKPixelImage* image = nullptr;
-    VEKMathVector2D first, second;
-    fill.GetPattern(image, first, second);
-    return image;
-}
-
-} // namespace
-
 TYPED_TEST(DuplicateFill, ShapesLeaveAReferenceBehind) {
-    constexpr bool isText = std::is_same<TypeParam, VEKPrtTextElt>::value;
-    constexpr bool isFigure = std::is_same<TypeParam, VEKPrtClosedFigureElt>::value;
+    constexpr bool isText = std::is_same_v<TypeParam, VEKPrtTextElt>;
+    constexpr bool leaves = !isText && !isFigure<TypeParam>;
     const auto image = Make<VEKPixelImage>(1, 1);
     const auto shape = Make<TypeParam>();
-    {
-        VEKPrtFillAttributes fill;
-        fill.SetPattern(image.Get(), VEKMathVector2D(0, 0), VEKMathVector2D(0, 0));
-        shape->SetFillAttributes(fill);
-    }
-    EXPECT_EQ(Count(image), 2UL);
+    Fill fill;
+    fill.SetPattern(image.Get(), Vector(0, 0), Vector(0, 0));
+    shape->SetFillAttributes(fill);
+    EXPECT_EQ(Count(image), 3UL);
     {
         const auto copy = Make<TypeParam>(*shape), assigned = Make<TypeParam>();
         *assigned = *shape;
-        EXPECT_EQ(Count(image), 4UL);
+        EXPECT_EQ(Count(image), 5UL);
         const auto duplicate = Duplicated(*shape);
-        EXPECT_EQ(ImageOf(*duplicate) == image.Get(), isText)
-            << "the text shares its image, the others copy it";
-        EXPECT_EQ(Count(image), isFigure ? 4UL : 5UL);
+        duplicate->GetFillAttributes(fill);
+        EXPECT_EQ(ImageOf(fill) == image.Get(), isText) << "the text shares its image, the others copy it";
+        EXPECT_EQ(Count(image), isText ? 6UL : leaves ? 5UL : 4UL);
     }
-    EXPECT_EQ(Count(image), isText || isFigure ? 2UL : 3UL);
-    if (!isText && !isFigure) image->Release();
+    fill = Fill();
+    EXPECT_EQ(Count(image), leaves ? 3UL : 2UL);
+    if (leaves) image->Release();
 }

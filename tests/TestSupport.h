@@ -10,6 +10,7 @@
 
 #include "AllElements.h"
 #include "VEKPixelImage.h"
+#include "VEKPrtFillAttributes.h"
 #include "VEKRef.h"
 
 /// Blocks that the process has from any form of operator new.
@@ -86,6 +87,19 @@ void WithSelfCopy(Check iCheck) {
     object->~T();
 }
 
+/// An image that cannot be copied.
+struct UncopyableImage : VEKPixelImage {
+    UncopyableImage() : VEKPixelImage(1, 1) {}
+    VEKPixelImage* Clone() const override { return nullptr; }
+};
+
+inline VEKPixelImage* ImageOf(VEKPrtFillAttributes& ioFill) {
+    VEKPixelImage* image = nullptr;
+    VEKMathVector2D first, second;
+    ioFill.GetPattern(image, first, second);
+    return image;
+}
+
 template <class Element>
 std::string Id(const Element& iElement) {
     VEKUnicodeString id;
@@ -93,22 +107,44 @@ std::string Id(const Element& iElement) {
     return id.ToUtf8();
 }
 
+// All that hold members are alike but for the names.
+
+template <class Holder>
+constexpr bool isModel = std::is_base_of_v<VEKPrtModel, Holder>;
+template <class Holder>
+constexpr bool isFigure = std::is_base_of_v<VEKPrtClosedFigureElt, Holder>;
+template <class Holder, class OfModel, class OfFigure, class OfContainer>
+using ByHolder =
+    std::conditional_t<isModel<Holder>, OfModel, std::conditional_t<isFigure<Holder>, OfFigure, OfContainer>>;
+template <class Holder>
+using MemberOf = ByHolder<Holder, VEKPrtImageElt, VEKPrtClosedFigureRegionElt, VEKPrtGraphicPrimitiveElt>;
+
 /// A holder's list itself; null where there is none.
-template <class Container>
-VEKListPtrVEKPrtGraphicPrimitiveElt* ListOf(Container& ioContainer) {
-    VEKListPtrVEKPrtGraphicPrimitiveElt* children = nullptr;
-    ioContainer.GetChildren(children);
-    return children;
+template <class Holder>
+auto ListOf(Holder& ioHolder) {
+    ByHolder<Holder, VEKListPtrVEKPrtImageElt, VEKListPtrVEKPrtClosedFigureRegionElt,
+             VEKListPtrVEKPrtGraphicPrimitiveElt>* list = nullptr;
+    if constexpr (isModel<Holder>)
+        ioHolder.GetImages(list);
+    else
+        ioHolder.GetChildren(list);
+    return list;
 }
-inline VEKListPtrVEKPrtClosedFigureRegionElt* ListOf(VEKPrtClosedFigureElt& ioFigure) {
-    VEKListPtrVEKPrtClosedFigureRegionElt* regions = nullptr;
-    ioFigure.GetChildren(regions);
-    return regions;
+template <class Holder>
+void AddTo(Holder& ioHolder, VEKBaseUnknown* iMember) {
+    auto* const member = static_cast<MemberOf<Holder>*>(iMember);
+    if constexpr (isModel<Holder>)
+        ioHolder.AddImage(member);
+    else
+        ioHolder.AddChild(member);
 }
-inline VEKListPtrVEKPrtImageElt* ListOf(VEKPrtModel& ioModel) {
-    VEKListPtrVEKPrtImageElt* images = nullptr;
-    ioModel.GetImages(images);
-    return images;
+template <class Holder>
+void RemoveFrom(Holder& ioHolder, VEKBaseUnknown* iMember) {
+    auto* const member = static_cast<MemberOf<Holder>*>(iMember);
+    if constexpr (isModel<Holder>)
+        ioHolder.RemoveImage(member);
+    else
+        ioHolder.RemoveChild(member);
 }
 
 #endif
