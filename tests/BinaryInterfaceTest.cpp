@@ -51,19 +51,21 @@ void ExpectSlots(const char* iClass, std::size_t iFirst, Members... iMembers) {
     }
 }
 
+// The functions of a class, which is C, in the order of their slots.
+#define EXPECT_SLOTS(Class, First, ...)                                                                      \
+    do {                                                                                                     \
+        using C = Class;                                                                                     \
+        ExpectSlots(#Class, First, __VA_ARGS__);                                                             \
+    } while (false)
 // A destructor takes two slots, the first two of a record.
-#define RECORD(C, ...)                                                                                       \
-    using C = VEKPrt##C;                                                                                     \
-    ExpectSlots(#C, 2, __VA_ARGS__)
+#define RECORD(Name, ...) EXPECT_SLOTS(VEKPrt##Name, 2, __VA_ARGS__)
 // After the base's last, GetTitle.
-#define ELEMENT(C, ...)                                                                                      \
-    using C = VEKPrt##C##Elt;                                                                                \
-    ExpectSlots(#C, 25, __VA_ARGS__)
-#define PAIR(C, P) &C::Set##P, &C::Get##P
-#define STROKED(C) PAIR(C, StrokeAttributes), PAIR(C, TransformAttributes)
-#define PAINTED(C)                                                                                           \
-    PAIR(C, DrawStyle), PAIR(C, StrokeAttributes), PAIR(C, FillAttributes), PAIR(C, TransformAttributes)
-#define CHILDREN(C) &C::AddChild, &C::RemoveChild, &C::GetChildren
+#define ELEMENT(Name, ...) EXPECT_SLOTS(VEKPrt##Name##Elt, 25, __VA_ARGS__)
+#define PAIR(P) &C::Set##P, &C::Get##P
+#define KIND(P) &C::Add##P, &C::Get##P
+#define STROKED PAIR(StrokeAttributes), PAIR(TransformAttributes)
+#define PAINTED PAIR(DrawStyle), PAIR(StrokeAttributes), PAIR(FillAttributes), PAIR(TransformAttributes)
+#define CHILDREN &C::AddChild, &C::RemoveChild, &C::GetChildren
 
 } // namespace
 
@@ -102,116 +104,59 @@ static_assert(
             VEKPrintLineAttribute, VEKPrintMarkerAttribute, VEKPrintTextAttribute, VEKPrintTransformType>);
 
 TEST(VirtualTables, OfTheBase) {
-    using B = VEKPrtGraphicPrimitiveElt;
     using U = VEKBaseUnknown;
-    ExpectSlots("base", 0, static_cast<int (U::*)(const void*, void**)>(&B::QueryInterface), &B::AddRef,
-                &B::Release, &B::GetTypeInfoCount, &B::GetTypeInfo, &B::GetIDsOfNames, &B::Invoke);
-    ExpectSlots("base", 9, &B::GetMetaObject, &B::IsA, &B::IsAKindOf, &B::GetImpl, &B::SetImpl, &B::IsNull,
-                &B::IsEqual, static_cast<U* (U::*)(const char*)>(&B::QueryInterface),
-                &B::ChangeComponentState, &B::Duplicate, PAIR(B, ID), PAIR(B, Description), PAIR(B, Title));
-    ExpectSlots("model", 18, &VEKPrtModel::AddImage, &VEKPrtModel::RemoveImage, &VEKPrtModel::GetImages);
+    EXPECT_SLOTS(VEKPrtGraphicPrimitiveElt, 0,
+                 static_cast<int (U::*)(const void*, void**)>(&C::QueryInterface), &C::AddRef, &C::Release,
+                 &C::GetTypeInfoCount, &C::GetTypeInfo, &C::GetIDsOfNames, &C::Invoke);
+    EXPECT_SLOTS(VEKPrtGraphicPrimitiveElt, 9, &C::GetMetaObject, &C::IsA, &C::IsAKindOf, &C::GetImpl,
+                 &C::SetImpl, &C::IsNull, &C::IsEqual,
+                 static_cast<U* (U::*)(const char*)>(&C::QueryInterface), &C::ChangeComponentState,
+                 &C::Duplicate, PAIR(ID), PAIR(Description), PAIR(Title));
+    EXPECT_SLOTS(VEKPrtModel, 18, &C::AddImage, &C::RemoveImage, &C::GetImages);
 }
 
 TEST(VirtualTables, OfTheRecords) {
-    {
-        RECORD(TransformAttributes, &TransformAttributes::GetTransformTab,
-               &TransformAttributes::AddTransformAttributes, &TransformAttributes::AddMatrix,
-               &TransformAttributes::GetMatrix, &TransformAttributes::AddScaleX,
-               &TransformAttributes::GetScaleX, &TransformAttributes::AddScaleY,
-               &TransformAttributes::GetScaleY, &TransformAttributes::AddRotation,
-               &TransformAttributes::GetRotation, &TransformAttributes::AddSkewX,
-               &TransformAttributes::GetSkewX, &TransformAttributes::AddSkewY, &TransformAttributes::GetSkewY,
-               &TransformAttributes::AddTranslation, &TransformAttributes::GetTranslation,
-               &TransformAttributes::AddTransform);
-    }
-    {
-        RECORD(StrokeAttributes, PAIR(StrokeAttributes, StrokeColourIndex),
-               PAIR(StrokeAttributes, StrokeColourTransparency), PAIR(StrokeAttributes, StrokeType),
-               PAIR(StrokeAttributes, StrokeTypePattern), PAIR(StrokeAttributes, StrokeWidth),
-               PAIR(StrokeAttributes, StrokeStyle), PAIR(StrokeAttributes, StrokeCap),
-               PAIR(StrokeAttributes, StrokeJoin));
-    }
-    {
-        RECORD(FillAttributes, &FillAttributes::Duplicate, PAIR(FillAttributes, FillStyle),
-               PAIR(FillAttributes, FillRule), PAIR(FillAttributes, FillColourIndex),
-               PAIR(FillAttributes, FillColourTransparency), PAIR(FillAttributes, Pattern),
-               PAIR(FillAttributes, PatternRefPoint));
-    }
-    {
-        RECORD(TextAttributes, PAIR(TextAttributes, Font), PAIR(TextAttributes, Weight),
-               PAIR(TextAttributes, Height), PAIR(TextAttributes, Anchor), PAIR(TextAttributes, Slant),
-               PAIR(TextAttributes, Direction), PAIR(TextAttributes, ExtraSpacing),
-               PAIR(TextAttributes, Expansion), PAIR(TextAttributes, WritingMode));
-    }
-    { RECORD(MarkerAttributes, PAIR(MarkerAttributes, MarkerStyle)); }
-    { RECORD(GroupAttributes, PAIR(GroupAttributes, LinkURI)); }
-    {
-        RECORD(ColourTable, &ColourTable::GetColourCount, &ColourTable::AddColour, &ColourTable::ModifyColour,
-               &ColourTable::GetColourIndex, &ColourTable::GetColour);
-    }
+    RECORD(TransformAttributes, &C::GetTransformTab, &C::AddTransformAttributes, KIND(Matrix), KIND(ScaleX),
+           KIND(ScaleY), KIND(Rotation), KIND(SkewX), KIND(SkewY), KIND(Translation), &C::AddTransform);
+    RECORD(StrokeAttributes, PAIR(StrokeColourIndex), PAIR(StrokeColourTransparency), PAIR(StrokeType),
+           PAIR(StrokeTypePattern), PAIR(StrokeWidth), PAIR(StrokeStyle), PAIR(StrokeCap), PAIR(StrokeJoin));
+    RECORD(FillAttributes, &C::Duplicate, PAIR(FillStyle), PAIR(FillRule), PAIR(FillColourIndex),
+           PAIR(FillColourTransparency), PAIR(Pattern), PAIR(PatternRefPoint));
+    RECORD(TextAttributes, PAIR(Font), PAIR(Weight), PAIR(Height), PAIR(Anchor), PAIR(Slant), PAIR(Direction),
+           PAIR(ExtraSpacing), PAIR(Expansion), PAIR(WritingMode));
+    RECORD(MarkerAttributes, PAIR(MarkerStyle));
+    RECORD(GroupAttributes, PAIR(LinkURI));
+    RECORD(ColourTable, &C::GetColourCount, &C::AddColour, &C::ModifyColour, &C::GetColourIndex,
+           &C::GetColour);
 }
 
 TEST(VirtualTables, OfTheElements) {
-    { ELEMENT(Line, PAIR(Line, StartPoint), PAIR(Line, EndPoint), PAIR(Line, Parameters), STROKED(Line)); }
-    { ELEMENT(Rectangle, PAIR(Rectangle, Points), PAINTED(Rectangle)); }
-    {
-        ELEMENT(Circle, PAIR(Circle, Center), PAIR(Circle, Radius), PAIR(Circle, Parameters),
-                PAINTED(Circle));
-    }
-    {
-        ELEMENT(CircularArc, PAIR(CircularArc, Center), PAIR(CircularArc, Radius),
-                PAIR(CircularArc, StartAngle), PAIR(CircularArc, EndAngle), PAIR(CircularArc, Parameters),
-                PAINTED(CircularArc));
-    }
-    {
-        ELEMENT(Ellipse, PAIR(Ellipse, Center), PAIR(Ellipse, HorzRadius), PAIR(Ellipse, VertRadius),
-                PAIR(Ellipse, Slope), PAIR(Ellipse, Parameters), PAINTED(Ellipse));
-    }
-    {
-        ELEMENT(EllipticalArc, PAIR(EllipticalArc, Center), PAIR(EllipticalArc, HorzRadius),
-                PAIR(EllipticalArc, VertRadius), PAIR(EllipticalArc, StartAngle),
-                PAIR(EllipticalArc, EndAngle), PAIR(EllipticalArc, Slope), PAIR(EllipticalArc, Parameters),
-                PAINTED(EllipticalArc));
-    }
-    {
-        ELEMENT(Marker, PAIR(Marker, Point), PAIR(Marker, Size), PAIR(Marker, Parameters),
-                PAIR(Marker, MarkerAttributes), STROKED(Marker));
-    }
-    {
-        ELEMENT(Text, PAIR(Text, Position), PAIR(Text, Text), PAIR(Text, Parameters), PAIR(Text, DrawStyle),
-                PAIR(Text, StrokeAttributes), PAIR(Text, FillAttributes), PAIR(Text, TextAttributes),
-                PAIR(Text, TransformAttributes));
-    }
-    {
-        ELEMENT(BitmapImage, PAIR(BitmapImage, Origin), PAIR(BitmapImage, Size),
-                PAIR(BitmapImage, Orientation), PAIR(BitmapImage, PixelImage), PAIR(BitmapImage, Parameters),
-                PAIR(BitmapImage, TransformAttributes));
-    }
-    {
-        ELEMENT(Image, PAIR(Image, Origin), PAIR(Image, Size), PAIR(Image, Units), PAIR(Image, Matrix),
-                PAIR(Image, ColourTable), CHILDREN(Image));
-    }
-    { ELEMENT(Group, PAIR(Group, GroupAttributes), PAIR(Group, TransformAttributes), CHILDREN(Group)); }
-    {
-        ELEMENT(Pattern, PAIR(Pattern, Origin), PAIR(Pattern, Size), PAIR(Pattern, TransformAttributes),
-                CHILDREN(Pattern));
-    }
-    {
-        ELEMENT(Symbol, PAIR(Symbol, Origin), PAIR(Symbol, Size), PAIR(Symbol, TransformAttributes),
-                CHILDREN(Symbol));
-    }
-    { ELEMENT(ClosedFigure, PAINTED(ClosedFigure), CHILDREN(ClosedFigure)); }
-    {
-        ELEMENT(
-            ClosedFigureRegion,
-            static_cast<void (ClosedFigureRegion::*)(ClosedFigureRegion*&)>(&ClosedFigureRegion::Duplicate),
-            PAIR(ClosedFigureRegion, TransformAttributes), CHILDREN(ClosedFigureRegion));
-    }
-    { ELEMENT(Polyline, PAIR(Polyline, Points), STROKED(Polyline)); }
-    { ELEMENT(DisjointPolyline, PAIR(DisjointPolyline, Points), STROKED(DisjointPolyline)); }
-    { ELEMENT(PolyCubicBezier, PAIR(PolyCubicBezier, Points), STROKED(PolyCubicBezier)); }
-    { ELEMENT(PolyQuadraticBezier, PAIR(PolyQuadraticBezier, Points), STROKED(PolyQuadraticBezier)); }
-    { ELEMENT(Polygon, PAIR(Polygon, Points), PAINTED(Polygon)); }
-    { ELEMENT(PolyPolygon, PAIR(PolyPolygon, Points), PAINTED(PolyPolygon)); }
-    { ELEMENT(NURBS, PAIR(NURBS, Parameters), STROKED(NURBS)); }
+    ELEMENT(Line, PAIR(StartPoint), PAIR(EndPoint), PAIR(Parameters), STROKED);
+    ELEMENT(Rectangle, PAIR(Points), PAINTED);
+    ELEMENT(Circle, PAIR(Center), PAIR(Radius), PAIR(Parameters), PAINTED);
+    ELEMENT(CircularArc, PAIR(Center), PAIR(Radius), PAIR(StartAngle), PAIR(EndAngle), PAIR(Parameters),
+            PAINTED);
+    ELEMENT(Ellipse, PAIR(Center), PAIR(HorzRadius), PAIR(VertRadius), PAIR(Slope), PAIR(Parameters),
+            PAINTED);
+    ELEMENT(EllipticalArc, PAIR(Center), PAIR(HorzRadius), PAIR(VertRadius), PAIR(StartAngle), PAIR(EndAngle),
+            PAIR(Slope), PAIR(Parameters), PAINTED);
+    ELEMENT(Marker, PAIR(Point), PAIR(Size), PAIR(Parameters), PAIR(MarkerAttributes), STROKED);
+    ELEMENT(Text, PAIR(Position), PAIR(Text), PAIR(Parameters), PAIR(DrawStyle), PAIR(StrokeAttributes),
+            PAIR(FillAttributes), PAIR(TextAttributes), PAIR(TransformAttributes));
+    ELEMENT(BitmapImage, PAIR(Origin), PAIR(Size), PAIR(Orientation), PAIR(PixelImage), PAIR(Parameters),
+            PAIR(TransformAttributes));
+    ELEMENT(Image, PAIR(Origin), PAIR(Size), PAIR(Units), PAIR(Matrix), PAIR(ColourTable), CHILDREN);
+    ELEMENT(Group, PAIR(GroupAttributes), PAIR(TransformAttributes), CHILDREN);
+    ELEMENT(Pattern, PAIR(Origin), PAIR(Size), PAIR(TransformAttributes), CHILDREN);
+    ELEMENT(Symbol, PAIR(Origin), PAIR(Size), PAIR(TransformAttributes), CHILDREN);
+    ELEMENT(ClosedFigure, PAINTED, CHILDREN);
+    ELEMENT(ClosedFigureRegion, static_cast<void (C::*)(C*&)>(&C::Duplicate), PAIR(TransformAttributes),
+            CHILDREN);
+    ELEMENT(Polyline, PAIR(Points), STROKED);
+    ELEMENT(DisjointPolyline, PAIR(Points), STROKED);
+    ELEMENT(PolyCubicBezier, PAIR(Points), STROKED);
+    ELEMENT(PolyQuadraticBezier, PAIR(Points), STROKED);
+    ELEMENT(Polygon, PAIR(Points), PAINTED);
+    ELEMENT(PolyPolygon, PAIR(Points), PAINTED);
+    ELEMENT(NURBS, PAIR(Parameters), STROKED);
 }

@@ -87,9 +87,14 @@ constexpr bool isPlaced = In<T, Stroked> || In<T, PlacedOnly>;
 struct Node;
 struct Records {
     unsigned colour = 0;
-    Array dashes, kinds, rotations, translations;
+    Array dashes, kinds, values[7]; // by kind
     Node* image = nullptr;
-    std::vector<Array*> Arrays() { return {&dashes, &kinds, &rotations, &translations}; }
+    std::vector<Array*> Arrays() {
+        std::vector<Array*> arrays = {&dashes, &kinds};
+        for (Array& each : values)
+            arrays.push_back(&each);
+        return arrays;
+    }
 };
 
 // One object of the library.
@@ -163,8 +168,8 @@ public:
     }
     static void CopyTransform(Records& oTarget, const Records& iSource) {
         oTarget.kinds.Copy(iSource.kinds);
-        oTarget.rotations.Copy(iSource.rotations);
-        oTarget.translations.Copy(iSource.translations);
+        for (const int kind : {0, 3, 4, 2, 5, 6, 1}) // in the order of the fields
+            oTarget.values[kind].Copy(iSource.values[kind]);
     }
     void Add(Node& ioHolder, Node* iMember) {
         if (!iMember || iMember == &ioHolder) return;
@@ -420,25 +425,25 @@ private:
 
     // One of the client's own records.
     void ChangeRecord() {
-        const float values[] = {1.0F * static_cast<float>(Any(100)), 2};
-        const auto value = static_cast<double>(values[0]);
-        const int aspect = Any(7), length = Any(3);
+        const float dashes[] = {1.0F * static_cast<float>(Any(100)), 2};
+        const int aspect = Any(7), length = Any(3), kind = Any(7), value = Any(100);
         Node* const image = Any(3) == 0 ? nullptr : AnyHeld(IsPixels);
         if (aspect == 0) return RenewTransform();
+        int status = 0;
         const auto change = [&] {
-            if (aspect == 1) _stroke.SetStrokeTypePattern(values, static_cast<unsigned char>(length));
+            if (aspect == 1) _stroke.SetStrokeTypePattern(dashes, static_cast<unsigned char>(length));
             if (aspect == 2) _stroke.SetStrokeColourIndex(static_cast<unsigned>(length));
             if (aspect == 3)
                 _fill.SetPattern(image ? static_cast<VEKPixelImage*>(image->real) : nullptr, {0, 0}, {0, 0});
-            if (aspect == 4) _transform.AddTranslation(FromNumber<Vector>(value));
-            if (aspect > 4) _transform.AddRotation(values[0]);
+            if (aspect > 3) status = g_kinds[kind].add(_transform, value);
         };
         Both("client's record", change, [&] {
-            if (aspect == 1) _record.dashes.Set(length, {values, values + length});
+            if (aspect == 1) _record.dashes.Set(length, {dashes, dashes + length});
             if (aspect == 2) _record.colour = static_cast<unsigned>(length);
             if (aspect == 3) _plain.Hold(_record.image, image);
-            if (aspect == 4 && _record.translations.Append(value)) _record.kinds.Append(1);
-            if (aspect > 4 && _record.rotations.Append(value)) _record.kinds.Append(2);
+            if (aspect <= 3) return;
+            const bool appended = _record.values[kind].Append(value) && _record.kinds.Append(kind);
+            EXPECT_EQ(status, appended ? 1 : -1);
         });
     }
 
@@ -546,16 +551,19 @@ private:
         iTransform.GetTransformTab(count, kinds);
         ASSERT_EQ(static_cast<int>(count), iRecords.kinds.count);
         ASSERT_EQ(kinds != nullptr, iRecords.kinds.there);
-        int seen[3] = {};
-        for (unsigned i = 0; kinds && i < count; ++i) {
-            EXPECT_EQ(kinds[i], static_cast<int>(iRecords.kinds.values[i]));
-            ++seen[kinds[i]];
-            for (const int kind : {1, 2}) {
-                const Array& values = kind == 1 ? iRecords.translations : iRecords.rotations;
-                const bool found = values.there && seen[kind] > 0 && seen[kind] <= values.count;
+        int seen[7] = {};
+        for (unsigned i = 0; i <= count; ++i) {
+            const bool inside = kinds && i < count;
+            if (inside) {
+                EXPECT_EQ(kinds[i], static_cast<int>(iRecords.kinds.values[i]));
+                ++seen[kinds[i]];
+            }
+            for (int kind = 0; kind < 7; ++kind) {
+                const Array& values = iRecords.values[kind];
+                const bool found = inside && values.there && seen[kind] > 0 && seen[kind] <= values.count;
                 std::optional<double> expected;
                 if (found) expected = values.values[static_cast<std::size_t>(seen[kind]) - 1];
-                EXPECT_EQ(g_kinds[kind].get(iTransform, i), expected);
+                EXPECT_EQ(g_kinds[kind].get(iTransform, i), expected) << g_kinds[kind].name;
             }
         }
     }
@@ -644,7 +652,7 @@ long FromEnvironment(const char* iName, long iDefault) {
 
 TEST(Random, AgreesWithAPlainModel) {
     const DemandedLeak leak(0, 0); // Finish says how much
-    const long steps = FromEnvironment("VEKPRT_RANDOM_STEPS", 20000);
+    const long steps = FromEnvironment("VEKPRT_RANDOM_STEPS", 40000);
     const long seed = FromEnvironment("VEKPRT_RANDOM_SEED", 1);
     std::cout << steps << " steps, seed " << seed << '\n';
     g_heap = Heap();

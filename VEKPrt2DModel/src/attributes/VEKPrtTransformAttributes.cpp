@@ -51,7 +51,7 @@ VEKPrtTransformAttributes::Values<Value>::operator=(const Values& iOther) {
 
 // The count is raised and the old array let go of before the new one is known to be there: after a
 // failure the count stays raised and the old values are lost, their memory with them.  It stays so
-// (TransformFailure.LosesTheValuesOfOneKind).  The next addition starts from an array of blanks.
+// (Random.AgreesWithAPlainModel).  The next addition starts from an array of blanks.
 template <class Value>
 int VEKPrtTransformAttributes::Values<Value>::Append(const Value& iValue) {
     Value* old = array;
