@@ -76,13 +76,3 @@ TYPED_TEST(EveryAllocation, CanFail) {
     }
     EXPECT_EQ(Id(*source), "id");
 }
-
-TEST(Footprint, OneAllocationForALineAndAmortisedGrowthForItsList) {
-    const auto group = Make<VEKPrtGroupElt>();
-    group->AddChild(Make<VEKPrtLineElt>().Get());
-    const long before = Allocations();
-    constexpr int lines = 1000;
-    for (int i = 0; i < lines; ++i)
-        group->AddChild(Make<VEKPrtLineElt>(VEKMathPoint2D(1, 2), VEKMathPoint2D(3, 4)).Get());
-    EXPECT_LE(Allocations() - before, lines + 10);
-}

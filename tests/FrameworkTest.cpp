@@ -134,14 +134,6 @@ TEST(RawColl, DropsWhatItCannotHold) {
     EXPECT_EQ(other.Size(), 0);
 }
 
-TEST(RawColl, GrowsInFewSteps) {
-    VEKRawCollPV collection(0);
-    const long before = Allocations();
-    for (int i = 0; i < 1000; ++i)
-        collection.Append(&collection);
-    EXPECT_LE(Allocations() - before, 12);
-}
-
 TEST(UnicodeString, KeepsItsValueWhenMemoryIsOut) {
     static_assert(sizeof(VEKUnicodeString) == sizeof(void*), "one pointer");
     VEKUnicodeString text("Ärmel");

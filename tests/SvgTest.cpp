@@ -10,10 +10,10 @@
 #include <sstream>
 
 #include "AtlasModel.h"
+#include "Fields.h"
 #include "Nurbs.h"
 #include "Specimen.h"
 #include "SvgWriter.h"
-#include "TestSupport.h"
 #include "VEKPrtWalk.h"
 
 using vekprt::svg::SampleNurbs;
@@ -29,8 +29,9 @@ public:
                     &xmlFreeDoc),
           _context(_document ? xmlXPathNewContext(_document.get()) : nullptr, &xmlXPathFreeContext) {
         EXPECT_TRUE(_document) << "not well-formed: " << iText.substr(0, 2000);
-        if (_context) Register("s", "http://www.w3.org/2000/svg");
-        if (_context) Register("x", "http://www.w3.org/1999/xlink");
+        for (const auto& [prefix, uri] :
+             {std::pair("s", "http://www.w3.org/2000/svg"), std::pair("x", "http://www.w3.org/1999/xlink")})
+            if (_context) xmlXPathRegisterNs(_context.get(), Xml(prefix), Xml(uri));
     }
     std::string String(const std::string& iPath) const { return Evaluate("string(" + iPath + ")"); }
     int Count(const std::string& iPath) const { return std::stoi(Evaluate("string(count(" + iPath + "))")); }
@@ -45,9 +46,6 @@ private:
     static const xmlChar* Xml(const std::string& iText) {
         return reinterpret_cast<const xmlChar*>(iText.c_str());
     }
-    void Register(const std::string& iPrefix, const std::string& iUri) {
-        xmlXPathRegisterNs(_context.get(), Xml(iPrefix), Xml(iUri));
-    }
     std::string Evaluate(const std::string& iExpression) const {
         if (!_context) return "0";
         const std::unique_ptr<xmlXPathObject, decltype(&xmlXPathFreeObject)> result(
@@ -59,18 +57,24 @@ private:
     std::unique_ptr<xmlXPathContext, decltype(&xmlXPathFreeContext)> _context;
 };
 
+// A table of these colours.
+VEKPrtColourTable* Table(std::initializer_list<int> iColours) {
+    auto* const table = new VEKPrtColourTable;
+    unsigned index = 0;
+    for (const int rgb : iColours)
+        table->AddColour(static_cast<unsigned char>(rgb >> 16), static_cast<unsigned char>(rgb >> 8),
+                         static_cast<unsigned char>(rgb), index);
+    return table;
+}
+
 struct Page {
     VEKRef<VEKPrtModel> model = Make<VEKPrtModel>();
     VEKRef<VEKPrtImageElt> image =
-        Make<VEKPrtImageElt>(VEKMathPoint2D(-5, 10), 100.0, 50.0, VEKPrtImageCentimetre, VEKMath2x2Matrix());
+        Make<VEKPrtImageElt>(Point(-5, 10), 100.0, 50.0, VEKPrtImageCentimetre, Matrix());
     std::string warnings;
 
     Page() {
-        auto* const table = new VEKPrtColourTable;
-        unsigned index = 0;
-        table->AddColour(0x12, 0xAB, 0xEF, index);
-        table->AddColour(255, 0, 7, index);
-        image->SetColourTable(table);
+        image->SetColourTable(Table({0x12ABEF, 0xFF0007}));
         model->AddImage(image.Get());
     }
     std::string Text() {
@@ -79,6 +83,8 @@ struct Page {
         warnings = warned.str();
         return text.str();
     }
+    Document Read() { return Document(Text()); }
+    std::string String(const std::string& iPath) { return Read().String(iPath); }
     template <class Element, class... Arguments>
     VEKRef<Element> Add(Arguments&&... iArguments) {
         const auto element = Make<Element>(std::forward<Arguments>(iArguments)...);
@@ -88,18 +94,22 @@ struct Page {
     auto WarningCount() const { return std::count(warnings.begin(), warnings.end(), '\n'); }
 };
 
-VEKRef<VEKPrtGroupElt> ScaledGroup(double iScale) {
+// A group in which each of these kinds of transform stands with its value.
+VEKRef<VEKPrtGroupElt> TransformedGroup(std::initializer_list<std::pair<int, double>> iTransforms) {
     const auto group = Make<VEKPrtGroupElt>();
-    VEKPrtTransformAttributes transform;
-    transform.AddScaleX(iScale);
-    transform.AddScaleY(iScale);
+    Transform transform;
+    for (const auto& [kind, value] : iTransforms)
+        g_kinds[kind].add(transform, value);
     group->SetTransformAttributes(transform);
     return group;
 }
+VEKRef<VEKPrtGroupElt> ScaledGroup(double iX, double iY) {
+    return TransformedGroup({{VEKPrintTransformScaleX, iX}, {VEKPrintTransformScaleY, iY}});
+}
 
 // The points of path data that has lines alone, absolute or relative.
-std::vector<VEKMathPoint2D> PathPoints(const std::string& iData) {
-    std::vector<VEKMathPoint2D> points;
+std::vector<Point> PathPoints(const std::string& iData) {
+    std::vector<Point> points;
     std::istringstream data(iData);
     char command = 0, comma = 0;
     double x = 0, y = 0;
@@ -169,7 +179,7 @@ TYPED_TEST(SvgOfEvery, ElementIsHandledEvenWithNothingSet) {
     element->SetID("the-id");
     element->SetTitle("a < b & \"c\"");
     element->SetDescription("bad \x01\xFF\xC3 text");
-    const Document document(page.Text());
+    const Document document = page.Read();
     EXPECT_EQ(document.Count("//*[@id='the-id']"), 1);
     EXPECT_EQ(document.String("//*[@id='the-id']/s:title"), "a < b & \"c\"");
     EXPECT_EQ(document.Count("//*[@id='the-id']/s:desc"), 1);
@@ -177,17 +187,17 @@ TYPED_TEST(SvgOfEvery, ElementIsHandledEvenWithNothingSet) {
 
 TEST(Svg, PageIsTheViewport) {
     Page page;
-    const Document document(page.Text());
+    const Document document = page.Read();
     EXPECT_EQ(document.String("/s:svg/@width"), "100cm");
     EXPECT_EQ(document.String("/s:svg/@viewBox"), "-5 -60 100 50");
     EXPECT_EQ(document.String("/s:svg/s:g/@transform"), "scale(1,-1)");
-    page.image->SetMatrix(VEKMath2x2Matrix(1, 2, 3, 4));
-    EXPECT_EQ(Document(page.Text()).String("/s:svg/s:g/@transform"), "scale(1,-1) matrix(1 3 2 4 0 0)");
-    page.image->SetMatrix(VEKMath2x2Matrix(6e-17, 1, -1, 6e-17));
-    EXPECT_EQ(Document(page.Text()).String("/s:svg/s:g/@transform"), "scale(1,-1) matrix(0 -1 1 0 0 0)");
+    page.image->SetMatrix(Matrix(1, 2, 3, 4));
+    EXPECT_EQ(page.String("/s:svg/s:g/@transform"), "scale(1,-1) matrix(1 3 2 4 0 0)");
+    page.image->SetMatrix(Matrix(6e-17, 1, -1, 6e-17));
+    EXPECT_EQ(page.String("/s:svg/s:g/@transform"), "scale(1,-1) matrix(0 -1 1 0 0 0)");
     EXPECT_EQ(page.warnings, "");
     page.image->SetUnits(static_cast<VEKPrtImageUnits>(7));
-    EXPECT_EQ(Document(page.Text()).String("/s:svg/@width"), "100mm");
+    EXPECT_EQ(page.String("/s:svg/@width"), "100mm");
     EXPECT_EQ(page.WarningCount(), 1);
 }
 
@@ -227,24 +237,23 @@ TEST(Svg, AttributesAreTheRecords) {
     const int counts[] = {3, 3};
     polygons->SetPoints(points, counts, 2);
     polygons->SetDrawStyle(VEKPrtDrawBoth);
-    VEKPrtStrokeAttributes stroke;
-    const float dashes[] = {1.5F, 2};
-    stroke.SetStrokeTypePattern(dashes, 2);
+    Stroke stroke;
+    SetDashes(stroke, {1.5F, 2});
     stroke.SetStrokeCap(VEKPrintLineCapRound);
     stroke.SetStrokeJoin(VEKPrintLineJoinBevel);
     stroke.SetStrokeColourTransparency(51);
     polygons->SetStrokeAttributes(stroke);
-    VEKPrtFillAttributes fill;
+    Fill fill;
     fill.SetFillColourIndex(1);
     polygons->SetFillAttributes(fill);
-    VEKPrtTransformAttributes transform;
+    Transform transform;
     transform.AddRotation(30.0F);
     transform.AddTransform(VEKPrintTransformSkewX); // without a value
-    transform.AddTranslation(VEKMathVector2D(1, -2));
+    transform.AddTranslation(Vector(1, -2));
     transform.AddScaleY(3.0);
     polygons->SetTransformAttributes(transform);
 
-    const Document document(page.Text());
+    const Document document = page.Read();
     const auto of = [&](const char* iName) { return document.String(std::string("//s:path/@") + iName); };
     EXPECT_EQ(of("d"), "M0,0l0.1,0 -0.1,0ZM5,5l1,0 -1,1Z");
     EXPECT_EQ(of("stroke") + of("fill"), "#12abef#ff0007");
@@ -269,7 +278,7 @@ TEST(Svg, SurvivesACycle) {
     for (int i = 0; i < 2; ++i)
         inner->AddChild(outer.Get());
     inner->AddChild(page.image.Get());
-    const Document document(page.Text());
+    const Document document = page.Read();
     EXPECT_EQ(document.Count("//s:g"), 3) << "the page, the outer group and the inner one";
     EXPECT_EQ(document.Count("//s:g/s:g/s:use"), 1) << "the inner one again";
     EXPECT_EQ(page.WarningCount(), 3);
@@ -292,8 +301,8 @@ TEST(Svg, IdentifiersAreNamesAndStandOnce) {
         link.SetLinkURI(target);
         page.Add<VEKPrtGroupElt>()->SetGroupAttributes(link);
     }
-    page.Add<VEKPrtSymbolElt>(VEKMathPoint2D(), 1.0, 1.0);
-    const Document document(page.Text());
+    page.Add<VEKPrtSymbolElt>(Point(), 1.0, 1.0);
+    const Document document = page.Read();
     for (const auto& [id, name] : names)
         EXPECT_EQ(document.Count("//*[@id='" + std::string(name) + "']"), 1) << id;
     EXPECT_EQ(page.WarningCount(), 3) << page.warnings;
@@ -303,7 +312,7 @@ TEST(Svg, IdentifiersAreNamesAndStandOnce) {
     // The second to have it is named; the same element at a second place is none.
     page.Add<VEKPrtGroupElt>()->SetID("svg-clip-1");
     page.image->AddChild(page.Add<VEKPrtLineElt>().Get());
-    EXPECT_EQ(Document(page.Text()).Count("//*[@id='svg-clip-1']"), 1);
+    EXPECT_EQ(page.Read().Count("//*[@id='svg-clip-1']"), 1);
     EXPECT_EQ(page.WarningCount(), 4) << page.warnings;
 }
 
@@ -315,14 +324,14 @@ TEST(Svg, LinksRunNoPrograms) {
          {"javascript:alert(1)", " \x01JavaScript:x", "java\nscript:x", "vbscript:x", "data:text/html,x"}) {
         link.SetLinkURI(uri);
         group->SetGroupAttributes(link);
-        EXPECT_EQ(Document(page.Text()).Count("//s:a | //@x:href"), 0) << uri;
+        EXPECT_EQ(page.Read().Count("//s:a | //@x:href"), 0) << uri;
         EXPECT_EQ(page.WarningCount(), 1) << uri;
     }
     for (const char* const uri :
          {"https://example.org/?a=1&q=javascript:x", "javascript.html", "mailto:a@example.org"}) {
         link.SetLinkURI(uri);
         group->SetGroupAttributes(link);
-        EXPECT_EQ(Document(page.Text()).String("//s:a/@x:href"), uri);
+        EXPECT_EQ(page.String("//s:a/@x:href"), uri);
         EXPECT_EQ(page.warnings, "");
     }
 }
@@ -338,7 +347,7 @@ TEST(Svg, WritesOnceWhatIsHeldOften) {
         inner = outer;
     }
     page.image->AddChild(inner.Get());
-    const Document document(page.Text());
+    const Document document = page.Read();
     EXPECT_EQ(document.Count("//s:use[substring(@x:href, 2) = //s:g/@id]"), 20);
     EXPECT_EQ(document.Count("//s:line"), 1);
     EXPECT_EQ(page.warnings, "");
@@ -349,19 +358,14 @@ TEST(Svg, WritesOnceWhatIsHeldOften) {
     const auto region = Make<VEKPrtClosedFigureRegionElt>();
     region->AddChild(inner.Get());
     outline.Add<VEKPrtClosedFigureElt>()->AddChild(region.Get());
-    VEKRef<VEKPrtGraphicPrimitiveElt> pair[2] = {Make<VEKPrtPatternElt>(VEKMathPoint2D(), 1.0, 1.0),
+    VEKRef<VEKPrtGraphicPrimitiveElt> pair[2] = {Make<VEKPrtPatternElt>(Point(), 1.0, 1.0),
                                                  Make<VEKPrtLineElt>()};
-    VEKPrtTransformAttributes skews[2];
-    skews[0].AddSkewX(1.0F);
-    skews[1].AddSkewY(1.0F);
     for (int level = 0; level < 20; ++level) {
-        const VEKRef<VEKPrtGroupElt> groups[] = {Make<VEKPrtGroupElt>(), Make<VEKPrtGroupElt>()};
+        const VEKRef<VEKPrtGroupElt> groups[] = {TransformedGroup({{VEKPrintTransformSkewX, 1.0}}),
+                                                 TransformedGroup({{VEKPrintTransformSkewY, 1.0}})};
         for (int i = 0; i < 4; ++i)
             groups[i / 2]->AddChild(pair[i % 2].Get());
-        for (int i = 0; i < 2; ++i) {
-            groups[i]->SetTransformAttributes(skews[i]);
-            pair[i] = groups[i];
-        }
+        std::copy_n(groups, 2, pair);
     }
     patterns.image->AddChild(pair[0].Get());
     for (Page* const limited : {&outline, &patterns}) {
@@ -379,43 +383,42 @@ TEST(Svg, WritesAgainWhatDependsOnThePlace) {
             iOther->AddChild(&ioElement);
             page.image->AddChild(&ioElement);
         }
-        const Document document(page.Text());
+        const Document document = page.Read();
         EXPECT_EQ(page.warnings, "");
         const std::set<std::string> values = document.All(iPath);
         EXPECT_EQ(document.Count(iPath), static_cast<int>(values.size())) << iPath;
         return values;
     };
-    const auto coloured = [](unsigned char iBlue) {
+    const auto coloured = [](int iBlue) {
         auto image = Make<VEKPrtImageElt>();
-        auto* const table = new VEKPrtColourTable;
-        unsigned index = 0;
-        table->AddColour(0, 0, iBlue, index);
-        image->SetColourTable(table);
+        image->SetColourTable(Table({iBlue}));
         return image;
     };
     using Texts = std::set<std::string>;
     const double third[] = {0, 0, 1.0 / 3, 0};
     const auto line = Make<VEKPrtLineElt>(), fixed = Make<VEKPrtLineElt>();
     const auto polyline = Make<VEKPrtPolylineElt>(third, 2);
-    const auto pattern = Make<VEKPrtPatternElt>(VEKMathPoint2D(), 1.0, 1.0);
-    const auto symbol = Make<VEKPrtSymbolElt>(VEKMathPoint2D(), 7.0, 7.0);
+    const auto pattern = Make<VEKPrtPatternElt>(Point(), 1.0, 1.0);
+    const auto symbol = Make<VEKPrtSymbolElt>(Point(), 7.0, 7.0);
     const auto image = coloured(9);
     symbol->AddChild(pattern.Get());
     image->AddChild(line.Get());
-    VEKPrtStrokeAttributes stroke;
+    Stroke stroke;
     stroke.SetStrokeStyle(VEKPrintLineStyleFixed);
     fixed->SetStrokeAttributes(stroke);
     fixed->SetID("fixed");
     EXPECT_EQ(variants(*line, coloured(8), "//s:line/@stroke"), (Texts{"#12abef", "#000008"}));
     EXPECT_EQ(variants(*image, coloured(8), "//s:line/@stroke"), (Texts{"#000009"}));
-    EXPECT_EQ(variants(*line, ScaledGroup(0.25), "//s:line/@stroke-width"), (Texts{"0.1"}));
-    EXPECT_EQ(variants(*fixed, ScaledGroup(0.25), "//s:line/@stroke-width"), (Texts{"0.1", "0.4"}));
-    EXPECT_EQ(variants(*polyline, ScaledGroup(0.001), "//s:path/@d"), (Texts{"M0,0l0.3,0", "M0,0l0.3333,0"}));
-    EXPECT_EQ(variants(*pattern, ScaledGroup(0.25), "//s:rect/@width"), (Texts{"100", "400"}));
-    EXPECT_EQ(variants(*symbol, ScaledGroup(0.25), "//s:g/s:rect/@width"), (Texts{"7"}));
+    EXPECT_EQ(variants(*line, ScaledGroup(0.25, 0.25), "//s:line/@stroke-width"), (Texts{"0.1"}));
+    EXPECT_EQ(variants(*fixed, ScaledGroup(0.25, 0.25), "//s:line/@stroke-width"), (Texts{"0.1", "0.4"}));
+    EXPECT_EQ(variants(*polyline, ScaledGroup(0.001, 0.001), "//s:path/@d"),
+              (Texts{"M0,0l0.3,0", "M0,0l0.3333,0"}));
+    EXPECT_EQ(variants(*pattern, ScaledGroup(0.25, 0.25), "//s:rect/@width"), (Texts{"100", "400"}));
+    EXPECT_EQ(variants(*symbol, ScaledGroup(0.25, 0.25), "//s:g/s:rect/@width"), (Texts{"7"}));
 
     // What depends on the place passes it on: before another shared element, and by reference.
-    const auto group = Make<VEKPrtGroupElt>(), outer = Make<VEKPrtGroupElt>(), other = ScaledGroup(0.25);
+    const auto group = Make<VEKPrtGroupElt>(), outer = Make<VEKPrtGroupElt>(),
+               other = ScaledGroup(0.25, 0.25);
     group->AddChild(fixed.Get());
     for (int i = 0; i < 2; ++i)
         group->AddChild(symbol.Get());
@@ -426,44 +429,43 @@ TEST(Svg, WritesAgainWhatDependsOnThePlace) {
 
 TEST(Svg, ImageFillsStandOnceAndUpright) {
     Page page;
-    VEKPrtFillAttributes fill;
+    Fill fill;
     fill.SetFillStyle(VEKPrtFillPattern);
-    fill.SetPattern(Make<VEKPixelImage>(2, 2).Get(), VEKMathVector2D(4, 0), VEKMathVector2D(0, 4));
+    fill.SetPattern(Make<VEKPixelImage>(2, 2).Get(), Vector(4, 0), Vector(0, 4));
     const auto show = [&](const auto& iElement) {
         iElement->SetDrawStyle(VEKPrtDrawInterior);
         iElement->SetFillAttributes(fill);
     };
     for (int i = 0; i < 2; ++i)
         show(page.Add<VEKPrtCircleElt>());
-    show(page.Add<VEKPrtTextElt>(VEKMathPoint2D(1, 2), VEKUnicodeString("x")));
-    EXPECT_EQ(Document(page.Text()).All("//@patternTransform"),
+    show(page.Add<VEKPrtTextElt>(Point(1, 2), VEKUnicodeString("x")));
+    EXPECT_EQ(page.Read().All("//@patternTransform"),
               (std::set<std::string>{"matrix(4 0 0 4 0 0)", "matrix(4 0 0 -4 -1 2)"}));
-    EXPECT_EQ(Document(page.Text()).Count("//s:pattern"), 2);
+    EXPECT_EQ(page.Read().Count("//s:pattern"), 2);
 }
 
 TEST(Svg, TextKeepsItsOwnWhiteSpaceOnly) {
     Page page;
-    const auto text = page.Add<VEKPrtTextElt>(VEKMathPoint2D(1, 2), VEKUnicodeString(" a  b "));
+    const auto text = page.Add<VEKPrtTextElt>(Point(1, 2), VEKUnicodeString(" a  b "));
     text->SetTitle("title");
-    VEKPrtTextAttributes attributes;
-    attributes.SetAnchor(VEKPrintTextAnchorMiddleCentre);
-    text->SetTextAttributes(attributes);
-    EXPECT_EQ(Document(page.Text()).String("//s:text"), "title a  b ");
-    EXPECT_NEAR(std::stod(Document(page.Text()).String("//s:text/@y")), 3.6, 1e-9);
-    attributes.SetExtraSpacing(2.0);
-    text->SetTextAttributes(attributes);
-    const Document spaced(page.Text());
+    const auto read = [&](VEKPrintTextAttribute iAnchor, double iSpacing, VEKPrtTextWritingMode iMode) {
+        VEKPrtTextAttributes attributes;
+        attributes.SetAnchor(iAnchor);
+        attributes.SetExtraSpacing(iSpacing);
+        attributes.SetWritingMode(iMode);
+        text->SetTextAttributes(attributes);
+        return page.Read();
+    };
+    const Document plain = read(VEKPrintTextAnchorMiddleCentre, 0.0, VEKPrtTextHorizontal);
+    EXPECT_EQ(plain.String("//s:text"), "title a  b ");
+    EXPECT_NEAR(std::stod(plain.String("//s:text/@y")), 3.6, 1e-9);
+    const Document spaced = read(VEKPrintTextAnchorMiddleCentre, 2.0, VEKPrtTextHorizontal);
     EXPECT_EQ(spaced.String("//s:text[@letter-spacing = '2']"), "title a  b \u200E");
     EXPECT_EQ(spaced.String("//s:text/@x"), "1") << "half of what stands after the last letter";
-    attributes.SetAnchor(VEKPrintTextAnchorBaselineLeft);
-    text->SetTextAttributes(attributes);
-    EXPECT_EQ(Document(page.Text()).String("//s:text[@letter-spacing = '2' and not(@x)]"), "title a  b ");
-    attributes.SetAnchor(VEKPrintTextAnchorMiddleCentre);
-    attributes.SetExtraSpacing(0.0);
-    attributes.SetWritingMode(VEKPrtTextVertical);
-    text->SetTextAttributes(attributes);
+    const Document left = read(VEKPrintTextAnchorBaselineLeft, 2.0, VEKPrtTextHorizontal);
+    EXPECT_EQ(left.String("//s:text[@letter-spacing = '2' and not(@x)]"), "title a  b ");
     text->SetText("Ae\u0301");
-    const Document vertical(page.Text());
+    const Document vertical = read(VEKPrintTextAnchorMiddleCentre, 0.0, VEKPrtTextVertical);
     EXPECT_EQ(vertical.Count("//s:tspan"), 2) << "an accent stays with its letter";
     EXPECT_EQ(vertical.String("//s:text"), "titleAe\u0301");
     EXPECT_NEAR(std::stod(vertical.String("//s:text/@y")), -1.4, 1e-9) << "the middle of the column";
@@ -471,12 +473,9 @@ TEST(Svg, TextKeepsItsOwnWhiteSpaceOnly) {
 
 TEST(Svg, FixedWidthsWithstandTransforms) {
     Page page;
-    const auto group = page.Add<VEKPrtGroupElt>();
-    VEKPrtTransformAttributes transform;
-    transform.AddScaleX(8.0);
-    transform.AddScaleY(2.0);
-    group->SetTransformAttributes(transform);
-    VEKPrtStrokeAttributes stroke;
+    const auto group = ScaledGroup(8.0, 2.0);
+    page.image->AddChild(group.Get());
+    Stroke stroke;
     stroke.SetStrokeWidth(2.0);
     stroke.SetStrokeType(VEKPrintLineTypeDotted);
     for (const auto style : {VEKPrintLineStyleScaled, VEKPrintLineStyleFixed}) {
@@ -485,7 +484,7 @@ TEST(Svg, FixedWidthsWithstandTransforms) {
         line->SetStrokeAttributes(stroke);
         group->AddChild(line.Get());
     }
-    const Document document(page.Text());
+    const Document document = page.Read();
     EXPECT_EQ(document.String("//s:line[1]/@stroke-width"), "2");
     EXPECT_EQ(document.String("//s:line[2]/@stroke-width"), "0.5");
     EXPECT_EQ(document.String("//s:line[2]/@stroke-dasharray"), "0.5 1");
@@ -496,36 +495,31 @@ TEST(Svg, FiguresTurnPrimitivesThatRunTheOtherWay) {
     const auto region = Make<VEKPrtClosedFigureRegionElt>();
     const double quadratic[] = {6, 0, 5, 5, 4, 0};
     // Along the x axis; the second line and the curve are given from right to left.
-    region->AddChild(Make<VEKPrtLineElt>(VEKMathPoint2D(0, 0), VEKMathPoint2D(2, 0)).Get());
-    region->AddChild(Make<VEKPrtLineElt>(VEKMathPoint2D(4, 0), VEKMathPoint2D(2, 0)).Get());
+    region->AddChild(Make<VEKPrtLineElt>(Point(0, 0), Point(2, 0)).Get());
+    region->AddChild(Make<VEKPrtLineElt>(Point(4, 0), Point(2, 0)).Get());
     region->AddChild(Make<VEKPrtPolyQuadraticBezierElt>(quadratic, 3).Get());
-    region->AddChild(Make<VEKPrtLineElt>(VEKMathPoint2D(8, 1), VEKMathPoint2D(9, 1)).Get());
-    VEKPrtTransformAttributes transform;
+    region->AddChild(Make<VEKPrtLineElt>(Point(8, 1), Point(9, 1)).Get());
+    Transform transform;
     transform.AddScaleX(10.0);
     region->SetTransformAttributes(transform);
     page.Add<VEKPrtClosedFigureElt>()->AddChild(region.Get());
-    EXPECT_EQ(Document(page.Text()).String("//s:path/@d"), "M0,0l20,0 20,0q10,5 20,0l20,1 10,0Z");
+    EXPECT_EQ(page.String("//s:path/@d"), "M0,0l20,0 20,0q10,5 20,0l20,1 10,0Z");
 }
 
 TEST(Svg, LeavesOutWhatCannotBeDrawn) {
     Page page;
     const double bad[] = {0, 0, NAN, 1}, good[] = {0, 0, 1, 1};
     const int counts[] = {2};
-    const VEKMathPoint2D nowhere(INFINITY, 0);
-    const VEKRef<VEKPrtGraphicPrimitiveElt> elements[] = {
-        VEKRef<VEKPrtGraphicPrimitiveElt>::Adopt(new VEKPrtPolylineElt(bad, 2)),
-        VEKRef<VEKPrtGraphicPrimitiveElt>::Adopt(new VEKPrtPolyPolygonElt(bad, counts, 1)),
-        VEKRef<VEKPrtGraphicPrimitiveElt>::Adopt(new VEKPrtLineElt(nowhere, nowhere)),
-        VEKRef<VEKPrtGraphicPrimitiveElt>::Adopt(new VEKPrtCircularArcElt(nowhere, 1.0, 0.0F, NAN)),
-        VEKRef<VEKPrtGraphicPrimitiveElt>::Adopt(new VEKPrtTextElt(nowhere, VEKUnicodeString("x"))),
-        VEKRef<VEKPrtGraphicPrimitiveElt>::Adopt(new VEKPrtRectangleElt(nowhere, nowhere)),
-        VEKRef<VEKPrtGraphicPrimitiveElt>::Adopt(new VEKPrtPolylineElt(good, 2)),
-    };
-    for (const auto& element : elements)
-        page.image->AddChild(element.Get());
-    const Document document(page.Text());
-    EXPECT_EQ(document.Count("//s:g/*"), 1);
-    EXPECT_EQ(std::count(page.warnings.begin(), page.warnings.end(), '\n'), 6) << page.warnings;
+    const Point nowhere(INFINITY, 0);
+    page.Add<VEKPrtPolylineElt>(bad, 2);
+    page.Add<VEKPrtPolyPolygonElt>(bad, counts, 1);
+    page.Add<VEKPrtLineElt>(nowhere, nowhere);
+    page.Add<VEKPrtCircularArcElt>(nowhere, 1.0, 0.0F, NAN);
+    page.Add<VEKPrtTextElt>(nowhere, VEKUnicodeString("x"));
+    page.Add<VEKPrtRectangleElt>(nowhere, nowhere);
+    page.Add<VEKPrtPolylineElt>(good, 2);
+    EXPECT_EQ(page.Read().Count("//s:g/*"), 1);
+    EXPECT_EQ(page.WarningCount(), 6) << page.warnings;
 }
 
 TEST(Svg, RoundsCoordinatesToTheGridOfThePage) {
@@ -536,12 +530,12 @@ TEST(Svg, RoundsCoordinatesToTheGridOfThePage) {
     const auto polyline = Make<VEKPrtPolylineElt>(points, 1000);
     const auto check = [&](double iScale, double iWidth, double iStep) {
         Page page;
-        const auto group = ScaledGroup(iScale);
+        const auto group = ScaledGroup(iScale, iScale);
         group->AddChild(polyline.Get());
         page.image->AddChild(group.Get());
         page.image->SetSize(iWidth, iWidth);
-        const std::string data = Document(page.Text()).String("//s:path/@d");
-        const std::vector<VEKMathPoint2D> read = PathPoints(data);
+        const std::string data = page.String("//s:path/@d");
+        const std::vector<Point> read = PathPoints(data);
         ASSERT_EQ(read.size(), 1000U);
         for (std::size_t i = 0; i < read.size(); ++i) {
             EXPECT_NEAR(read[i].GetX(), points[2 * i], 0.501 * iStep);
