@@ -234,13 +234,9 @@ NurbsData DataOf(const VEKPrtNURBSElt& iCurve) {
 void ExpectNurbs(const VEKPrtNURBSElt& iCurve, const Values& iPoints, const Values& iKnots,
                  const Values& iWeights, int iOrder, int iCount, float iFirst, float iSecond) {
     const NurbsData d = DataOf(iCurve);
-    EXPECT_EQ(Read(d.points, 2LL * d.count), iPoints);
-    EXPECT_EQ(Read(d.knots, d.order + d.count), iKnots);
-    EXPECT_EQ(Read(d.weights, d.count), iWeights);
-    EXPECT_EQ(d.order, iOrder);
-    EXPECT_EQ(d.count, iCount);
-    EXPECT_EQ(d.first, iFirst);
-    EXPECT_EQ(d.second, iSecond);
+    EXPECT_EQ(std::tuple(Read(d.points, 2LL * d.count), Read(d.knots, d.order + d.count),
+                         Read(d.weights, d.count), d.order, d.count, d.first, d.second),
+              std::tuple(iPoints, iKnots, iWeights, iOrder, iCount, iFirst, iSecond));
 }
 
 const double g_points[] = {1, 2, 3, 4};
@@ -266,23 +262,20 @@ TEST(NURBS, SetParametersReadsFromTheSecondElement) {
 
 TEST(NURBS, NeedsAllArraysAndAPositiveCount) {
     using N = VEKPrtNURBSElt;
-    const double* const none = nullptr;
-    for (const auto& curve : {Make<N>(3, 0, g_points, g_knots, 0.5F, 2.0F, g_weights),
-                              Make<N>(3, 2, none, g_knots, 0.5F, 2.0F, g_weights),
-                              Make<N>(3, 2, g_points, none, 0.5F, 2.0F, g_weights),
-                              Make<N>(3, 2, g_points, g_knots, 0.5F, 2.0F, none)}) {
-        EXPECT_EQ(DataOf(*curve).points, nullptr);
-        EXPECT_EQ(DataOf(*curve).second, 2.0F);
-        curve->SetParameters(3, 2, g_points, g_knots, 0.5F, 2.0F, g_weights);
-        EXPECT_NE(DataOf(*curve).knots, nullptr);
-        for (int missing = 0; missing < 3; ++missing) {
-            curve->SetParameters(3, 2, missing == 0 ? none : g_points, missing == 1 ? none : g_knots, 0.5F,
-                                 2.0F, missing == 2 ? none : g_weights);
-            ExpectNurbs(*curve, g_null, g_null, g_null, 3, 2, 0.5F, 2.0F);
-        }
-        curve->SetParameters(4, -2, g_points, g_knots, 0.5F, 3.0F, g_weights);
-        ExpectNurbs(*curve, g_null, g_null, g_null, 4, -2, 0.5F, 3.0F);
+    for (int missing = 0; missing < 3; ++missing) {
+        const double* arrays[] = {g_points, g_knots, g_weights};
+        arrays[missing] = nullptr;
+        const auto curve = Make<N>(3, 2, arrays[0], arrays[1], 0.5F, 2.0F, arrays[2]);
+        ExpectNurbs(*curve, g_null, g_null, g_null, 3, 2, 0.5F, 2.0F);
+        curve->SetParameters(3, 2, g_points, g_knots, 0.0F, 1.0F, g_weights);
+        curve->SetParameters(3, 2, arrays[0], arrays[1], 0.5F, 2.0F, arrays[2]);
+        ExpectNurbs(*curve, g_null, g_null, g_null, 3, 2, 0.5F, 2.0F);
     }
+    const auto curve = Make<N>(3, 0, g_points, g_knots, 0.5F, 2.0F, g_weights);
+    ExpectNurbs(*curve, g_null, g_null, g_null, 3, 0, 0.5F, 2.0F);
+    curve->SetParameters(3, 2, g_points, g_knots, 0.0F, 1.0F, g_weights);
+    curve->SetParameters(4, -2, g_points, g_knots, 0.5F, 3.0F, g_weights);
+    ExpectNurbs(*curve, g_null, g_null, g_null, 4, -2, 0.5F, 3.0F);
 }
 
 TEST(NURBS, CopiesResetTheBounds) {

@@ -426,7 +426,7 @@ private:
     // One of the client's own records.
     void ChangeRecord() {
         const float dashes[] = {1.0F * static_cast<float>(Any(100)), 2};
-        const int aspect = Any(7), length = Any(3), kind = Any(7), value = Any(100);
+        const int aspect = Any(8), length = Any(3), kind = Any(7), value = Any(100);
         Node* const image = Any(3) == 0 ? nullptr : AnyHeld(IsPixels);
         if (aspect == 0) return RenewTransform();
         int status = 0;
@@ -435,14 +435,16 @@ private:
             if (aspect == 2) _stroke.SetStrokeColourIndex(static_cast<unsigned>(length));
             if (aspect == 3)
                 _fill.SetPattern(image ? static_cast<VEKPixelImage*>(image->real) : nullptr, {0, 0}, {0, 0});
-            if (aspect > 3) status = g_kinds[kind].add(_transform, value);
+            if (aspect == 4) status = _transform.AddTransform(Value<VEKPrintTransformType>(kind));
+            if (aspect > 4) status = g_kinds[kind].add(_transform, value);
         };
         Both("client's record", change, [&] {
             if (aspect == 1) _record.dashes.Set(length, {dashes, dashes + length});
             if (aspect == 2) _record.colour = static_cast<unsigned>(length);
             if (aspect == 3) _plain.Hold(_record.image, image);
             if (aspect <= 3) return;
-            const bool appended = _record.values[kind].Append(value) && _record.kinds.Append(kind);
+            const bool hasValue = aspect == 4 || _record.values[kind].Append(value);
+            const bool appended = hasValue && _record.kinds.Append(kind);
             EXPECT_EQ(status, appended ? 1 : -1);
         });
     }

@@ -37,21 +37,6 @@ TYPED_TEST(EveryRecord, KeepsComparesAndCopiesItsFields) {
     });
 }
 
-TEST(Transform, RecordsAKindWithoutAValue) {
-    Transform transform;
-    const TransformKind& scale = g_kinds[3];
-    EXPECT_EQ(transform.AddTransform(Value<VEKPrintTransformType>(3)), 1);
-    EXPECT_EQ(scale.get(transform, 0), std::nullopt);
-    transform.AddScaleX(5.0);
-    EXPECT_EQ(scale.get(transform, 0), 5.0);
-    EXPECT_EQ(scale.get(transform, 1), std::nullopt) << "the second of its kind has no value";
-    unsigned count = 0;
-    VEKPrintTransformType* kinds = nullptr;
-    transform.GetTransformTab(count, kinds);
-    transform.AddTransform(kinds[0]);
-    EXPECT_EQ(Kinds(transform).back(), 3) << "the argument may be an entry of the list that is replaced";
-}
-
 // Pairs of array and count, in the order of the kinds' fields: what debuggers and other compilers rely on.
 TEST(Transform, KeepsItsLayout) {
     const Transform transform = OneOfEach();
@@ -71,11 +56,17 @@ TEST(Transform, KeepsItsLayout) {
     EXPECT_EQ(static_cast<float*>(layout.pairs[6].values)[0], 16.0F);
 }
 
-TEST(Transform, IsCopiedEvenFromItself) {
+TEST(Transform, TakesItselfAndItsEntries) {
     Transform transform = OneOfEach();
     EXPECT_EQ(&(transform = *&transform), &transform);
     EXPECT_TRUE(transform == OneOfEach());
     EXPECT_EQ(Kinds(Transform(transform)), g_anyOrder);
+    unsigned count = 0;
+    VEKPrintTransformType* kinds = nullptr;
+    transform.GetTransformTab(count, kinds);
+    transform.AddTransform(kinds[0]);
+    EXPECT_EQ(Kinds(transform).back(), g_anyOrder[0])
+        << "the argument is an entry of the list that is replaced";
     WithSelfCopy<Transform>([](const Transform& iCopy) { EXPECT_TRUE(Kinds(iCopy).empty()); });
 }
 

@@ -94,6 +94,12 @@ struct Page {
     auto WarningCount() const { return std::count(warnings.begin(), warnings.end(), '\n'); }
 };
 
+template <class Container>
+void AddTwice(Container& ioContainer, VEKPrtGraphicPrimitiveElt* iChild) {
+    for (int i = 0; i < 2; ++i)
+        ioContainer.AddChild(iChild);
+}
+
 // A group in which each of these kinds of transform stands with its value.
 VEKRef<VEKPrtGroupElt> TransformedGroup(std::initializer_list<std::pair<int, double>> iTransforms) {
     const auto group = Make<VEKPrtGroupElt>();
@@ -273,10 +279,8 @@ TEST(Svg, AttributesAreTheRecords) {
 TEST(Svg, SurvivesACycle) {
     Page page;
     const auto outer = page.Add<VEKPrtGroupElt>(), inner = Make<VEKPrtGroupElt>();
-    for (int i = 0; i < 2; ++i)
-        outer->AddChild(inner.Get());
-    for (int i = 0; i < 2; ++i)
-        inner->AddChild(outer.Get());
+    AddTwice(*outer, inner.Get());
+    AddTwice(*inner, outer.Get());
     inner->AddChild(page.image.Get());
     const Document document = page.Read();
     EXPECT_EQ(document.Count("//s:g"), 3) << "the page, the outer group and the inner one";
@@ -320,19 +324,16 @@ TEST(Svg, LinksRunNoPrograms) {
     Page page;
     VEKPrtGroupAttributes link;
     const auto group = page.Add<VEKPrtGroupElt>();
-    for (const char* const uri :
-         {"javascript:alert(1)", " \x01JavaScript:x", "java\nscript:x", "vbscript:x", "data:text/html,x"}) {
+    const std::pair<const char*, bool> uris[] = {
+        {"javascript:alert(1)", false}, {" \x01JavaScript:x", false},
+        {"java\nscript:x", false},      {"vbscript:x", false},
+        {"data:text/html,x", false},    {"https://example.org/?a=1&q=javascript:x", true},
+        {"javascript.html", true},      {"mailto:a@example.org", true}};
+    for (const auto& [uri, kept] : uris) {
         link.SetLinkURI(uri);
         group->SetGroupAttributes(link);
-        EXPECT_EQ(page.Read().Count("//s:a | //@x:href"), 0) << uri;
-        EXPECT_EQ(page.WarningCount(), 1) << uri;
-    }
-    for (const char* const uri :
-         {"https://example.org/?a=1&q=javascript:x", "javascript.html", "mailto:a@example.org"}) {
-        link.SetLinkURI(uri);
-        group->SetGroupAttributes(link);
-        EXPECT_EQ(page.String("//s:a/@x:href"), uri);
-        EXPECT_EQ(page.warnings, "");
+        EXPECT_EQ(page.String("//@x:href"), kept ? uri : "");
+        EXPECT_EQ(page.WarningCount(), kept ? 0 : 1) << uri;
     }
 }
 
@@ -342,8 +343,7 @@ TEST(Svg, WritesOnceWhatIsHeldOften) {
     inner->AddChild(Make<VEKPrtLineElt>().Get());
     for (int level = 0; level < 20; ++level) {
         const auto outer = Make<VEKPrtGroupElt>();
-        for (int i = 0; i < 2; ++i)
-            outer->AddChild(inner.Get());
+        AddTwice(*outer, inner.Get());
         inner = outer;
     }
     page.image->AddChild(inner.Get());
@@ -379,10 +379,8 @@ TEST(Svg, WritesAgainWhatDependsOnThePlace) {
     const auto variants = [](VEKPrtGraphicPrimitiveElt& ioElement, const auto& iOther, const char* iPath) {
         Page page;
         page.image->AddChild(iOther.Get());
-        for (int i = 0; i < 2; ++i) {
-            iOther->AddChild(&ioElement);
-            page.image->AddChild(&ioElement);
-        }
+        AddTwice(*iOther, &ioElement);
+        AddTwice(*page.image, &ioElement);
         const Document document = page.Read();
         EXPECT_EQ(page.warnings, "");
         const std::set<std::string> values = document.All(iPath);
@@ -405,23 +403,24 @@ TEST(Svg, WritesAgainWhatDependsOnThePlace) {
     image->AddChild(line.Get());
     Stroke stroke;
     stroke.SetStrokeStyle(VEKPrintLineStyleFixed);
+    stroke.SetStrokeType(VEKPrintLineTypeDotted);
     fixed->SetStrokeAttributes(stroke);
     fixed->SetID("fixed");
+    const auto scaled = [] { return ScaledGroup(0.5, 0.125); }; // 0.25 in the mean
     EXPECT_EQ(variants(*line, coloured(8), "//s:line/@stroke"), (Texts{"#12abef", "#000008"}));
     EXPECT_EQ(variants(*image, coloured(8), "//s:line/@stroke"), (Texts{"#000009"}));
-    EXPECT_EQ(variants(*line, ScaledGroup(0.25, 0.25), "//s:line/@stroke-width"), (Texts{"0.1"}));
-    EXPECT_EQ(variants(*fixed, ScaledGroup(0.25, 0.25), "//s:line/@stroke-width"), (Texts{"0.1", "0.4"}));
+    EXPECT_EQ(variants(*line, scaled(), "//s:line/@stroke-width"), (Texts{"0.1"}));
+    EXPECT_EQ(variants(*fixed, scaled(), "//s:line/@stroke-width"), (Texts{"0.1", "0.4"}));
+    EXPECT_EQ(variants(*fixed, scaled(), "//s:line/@stroke-dasharray"), (Texts{"0.1 0.2", "0.4 0.8"}));
     EXPECT_EQ(variants(*polyline, ScaledGroup(0.001, 0.001), "//s:path/@d"),
               (Texts{"M0,0l0.3,0", "M0,0l0.3333,0"}));
-    EXPECT_EQ(variants(*pattern, ScaledGroup(0.25, 0.25), "//s:rect/@width"), (Texts{"100", "400"}));
-    EXPECT_EQ(variants(*symbol, ScaledGroup(0.25, 0.25), "//s:g/s:rect/@width"), (Texts{"7"}));
+    EXPECT_EQ(variants(*pattern, scaled(), "//s:rect/@width"), (Texts{"100", "200"}));
+    EXPECT_EQ(variants(*symbol, scaled(), "//s:g/s:rect/@width"), (Texts{"7"}));
 
     // What depends on the place passes it on: before another shared element, and by reference.
-    const auto group = Make<VEKPrtGroupElt>(), outer = Make<VEKPrtGroupElt>(),
-               other = ScaledGroup(0.25, 0.25);
+    const auto group = Make<VEKPrtGroupElt>(), outer = Make<VEKPrtGroupElt>(), other = scaled();
     group->AddChild(fixed.Get());
-    for (int i = 0; i < 2; ++i)
-        group->AddChild(symbol.Get());
+    AddTwice(*group, symbol.Get());
     outer->AddChild(group.Get());
     other->AddChild(group.Get());
     EXPECT_EQ(variants(*outer, other, "//s:line/@stroke-width"), (Texts{"0.1", "0.4"}));
@@ -471,28 +470,10 @@ TEST(Svg, TextKeepsItsOwnWhiteSpaceOnly) {
     EXPECT_NEAR(std::stod(vertical.String("//s:text/@y")), -1.4, 1e-9) << "the middle of the column";
 }
 
-TEST(Svg, FixedWidthsWithstandTransforms) {
-    Page page;
-    const auto group = ScaledGroup(8.0, 2.0);
-    page.image->AddChild(group.Get());
-    Stroke stroke;
-    stroke.SetStrokeWidth(2.0);
-    stroke.SetStrokeType(VEKPrintLineTypeDotted);
-    for (const auto style : {VEKPrintLineStyleScaled, VEKPrintLineStyleFixed}) {
-        const auto line = Make<VEKPrtLineElt>();
-        stroke.SetStrokeStyle(style);
-        line->SetStrokeAttributes(stroke);
-        group->AddChild(line.Get());
-    }
-    const Document document = page.Read();
-    EXPECT_EQ(document.String("//s:line[1]/@stroke-width"), "2");
-    EXPECT_EQ(document.String("//s:line[2]/@stroke-width"), "0.5");
-    EXPECT_EQ(document.String("//s:line[2]/@stroke-dasharray"), "0.5 1");
-}
-
 TEST(Svg, FiguresTurnPrimitivesThatRunTheOtherWay) {
     Page page;
     const auto region = Make<VEKPrtClosedFigureRegionElt>();
+    page.Add<VEKPrtClosedFigureElt>()->AddChild(region.Get());
     const double quadratic[] = {6, 0, 5, 5, 4, 0};
     // Along the x axis; the second line and the curve are given from right to left.
     region->AddChild(Make<VEKPrtLineElt>(Point(0, 0), Point(2, 0)).Get());
@@ -502,7 +483,6 @@ TEST(Svg, FiguresTurnPrimitivesThatRunTheOtherWay) {
     Transform transform;
     transform.AddScaleX(10.0);
     region->SetTransformAttributes(transform);
-    page.Add<VEKPrtClosedFigureElt>()->AddChild(region.Get());
     EXPECT_EQ(page.String("//s:path/@d"), "M0,0l20,0 20,0q10,5 20,0l20,1 10,0Z");
 }
 
