@@ -63,6 +63,12 @@ using Stroked =
 using PlacedOnly = testing::Types<VEKPrtBitmapImageElt, VEKPrtGroupElt, VEKPrtPatternElt, VEKPrtSymbolElt,
                                   VEKPrtClosedFigureRegionElt>;
 
+/// A suite of typed tests.
+#define SUITE_OF(Name, Types)                                                                                \
+    template <class>                                                                                         \
+    class Name : public testing::Test {};                                                                    \
+    TYPED_TEST_SUITE(Name, Types, )
+
 template <class T, class List>
 constexpr bool In = false;
 template <class T, class... Ts>

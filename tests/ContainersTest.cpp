@@ -7,16 +7,9 @@ namespace {
 
 using Child = VEKPrtGraphicPrimitiveElt;
 
-template <class Container>
-class EveryContainer : public testing::Test {};
-TYPED_TEST_SUITE(EveryContainer, Containers, );
-template <class Container>
-class ContainerAssign : public testing::Test {};
-TYPED_TEST_SUITE(ContainerAssign, Containers, );
+SUITE_OF(EveryContainer, Containers);
 // All that hold members by count.
-template <class Holder>
-class EveryHolder : public testing::Test {};
-TYPED_TEST_SUITE(EveryHolder, Holders, );
+SUITE_OF(EveryHolder, Holders);
 
 template <class Element = Child>
 VEKRef<Element> Named(const char* iId) {
@@ -26,13 +19,15 @@ VEKRef<Element> Named(const char* iId) {
 }
 
 // The identifiers of the members, joined; "null" without a list.
-template <class List>
-std::string Ids(const List* iList) {
-    if (!iList) return "null";
-    std::string ids;
-    for (int position = 1; position <= iList->Size(); ++position)
+std::string Ids(const VEKRawCollPV* iList) {
+    std::string ids = iList ? "" : "null";
+    for (int position = 1; iList && position <= iList->Size(); ++position)
         ids += Id(*static_cast<Child*>((*iList)[position]));
     return ids;
+}
+template <class Holder>
+std::string IdsIn(Holder& ioHolder) {
+    return Ids(ListOf(ioHolder));
 }
 
 // A client's class that does something while it is destroyed.
@@ -44,43 +39,11 @@ struct Dying : Base {
     }
 };
 
-} // namespace
-
-TYPED_TEST(EveryContainer, PassesOverNullAndStartsAnewFromItself) {
-    const auto a = Named("a");
-    const auto source = Make<TypeParam>();
-    source->AddChild(a.Get());
-    ListOf(*source)->Append(nullptr);
-    source->AddChild(a.Get());
-    EXPECT_EQ(Ids(ListOf(*Make<TypeParam>(*source))), "aa");
-    const auto copy = Duplicated(*source);
-    EXPECT_EQ(Ids(ListOf(*copy)), "aa");
-    EXPECT_NE((*ListOf(*copy))[1], (*ListOf(*copy))[2]) << "a child held twice becomes two";
-    const auto assigned = Make<TypeParam>();
-    *assigned = *source;
-    EXPECT_EQ(Ids(ListOf(*assigned)), "aa");
-    WithSelfCopy<TypeParam>([](TypeParam& ioCopy) { EXPECT_EQ(Ids(ListOf(ioCopy)), "null"); });
-    ListOf(*copy)->Append(copy.Get());
-    copy->RemoveChild(copy.Get());
-    EXPECT_EQ(ListOf(*copy)->Size(), 3) << "its own member by another way: ignored";
-    ListOf(*copy)->RemovePosition(3);
-}
-
-TYPED_TEST(ContainerAssign, LeavesTheLastReference) {
-    const auto a = Named("a"), b = Named("b");
-    const auto target = Make<TypeParam>(), source = Make<TypeParam>();
-    *target = *source;
-    EXPECT_EQ(Ids(ListOf(*target)), "null") << "both without a list: left alone";
-    target->AddChild(a.Get());
-    target->AddChild(b.Get());
-    *target = *source;
-    EXPECT_EQ(Ids(ListOf(*target)), "") << "a list, although the source has none";
-    EXPECT_EQ(Count(a), 1UL);
-    EXPECT_EQ(Count(b), 2UL) << "the walk from 0 to count - 1 misses the last";
-    b->Release();
-}
-
-namespace {
+// A client's class that is duplicated in its own way.
+struct Duplicating : VEKPrtLineElt {
+    std::function<void(Child*&)> duplicate;
+    void Duplicate(Child*& oCopy) override { duplicate(oCopy); }
+};
 
 // Gives a holder two members: one that it alone holds and that does something as it goes, and one that the
 // release walk may miss.
@@ -99,6 +62,40 @@ void ReleaseMissed(const VEKRef<Element>& iElement) {
 
 } // namespace
 
+TYPED_TEST(EveryContainer, PassesOverNullAndStartsAnewFromItself) {
+    const auto a = Named("a");
+    const auto source = Make<TypeParam>();
+    source->AddChild(a.Get());
+    ListOf(*source)->Append(nullptr);
+    source->AddChild(a.Get());
+    EXPECT_EQ(IdsIn(*Make<TypeParam>(*source)), "aa");
+    const auto copy = Duplicated(*source);
+    EXPECT_EQ(IdsIn(*copy), "aa");
+    EXPECT_NE((*ListOf(*copy))[1], (*ListOf(*copy))[2]) << "a child held twice becomes two";
+    const auto assigned = Make<TypeParam>();
+    *assigned = *source;
+    EXPECT_EQ(IdsIn(*assigned), "aa");
+    WithSelfCopy<TypeParam>([](TypeParam& ioCopy) { EXPECT_EQ(IdsIn(ioCopy), "null"); });
+    ListOf(*copy)->Append(copy.Get());
+    copy->RemoveChild(copy.Get());
+    EXPECT_EQ(ListOf(*copy)->Size(), 3) << "its own member by another way: ignored";
+    ListOf(*copy)->RemovePosition(3);
+}
+
+TYPED_TEST(EveryContainer, LeavesTheLastReference) {
+    const auto a = Named("a"), b = Named("b");
+    const auto target = Make<TypeParam>(), source = Make<TypeParam>();
+    *target = *source;
+    EXPECT_EQ(IdsIn(*target), "null") << "both without a list: left alone";
+    target->AddChild(a.Get());
+    target->AddChild(b.Get());
+    *target = *source;
+    EXPECT_EQ(IdsIn(*target), "") << "a list, although the source has none";
+    EXPECT_EQ(Count(a), 1UL);
+    EXPECT_EQ(Count(b), 2UL) << "the walk from 0 to count - 1 misses the last";
+    b->Release();
+}
+
 TYPED_TEST(EveryHolder, SurvivesReleasingItsSource) {
     using Member = MemberOf<TypeParam>;
     const auto target = Make<TypeParam>();
@@ -110,7 +107,7 @@ TYPED_TEST(EveryHolder, SurvivesReleasingItsSource) {
     const TypeParam& soleOwned = *source;
     source = VEKRef<TypeParam>();
     *target = soleOwned;
-    EXPECT_EQ(Ids(ListOf(*target)), "a");
+    EXPECT_EQ(IdsIn(*target), "a");
     EXPECT_EQ(target->GetImpl(), &source);
     ReleaseMissed<TypeParam>(second);
 }
@@ -130,7 +127,7 @@ TYPED_TEST(EveryHolder, CanBeCopiedWhileItIsDestroyed) {
     };
     source = VEKRef<Dying<TypeParam>>();
     EXPECT_EQ(destroyed, 1);
-    EXPECT_EQ(Ids(ListOf(*keep)), "b");
+    EXPECT_EQ(IdsIn(*keep), "b");
     EXPECT_EQ(Count(b), 2UL);
     ReleaseMissed<TypeParam>(a);
 }
@@ -141,51 +138,43 @@ TYPED_TEST(EveryHolder, LooksAtTheSourcesListWhenTheOldMembersAreGone) {
     const auto a = Named<Member>("a"), b = Named<Member>("b"), second = Named<Member>("second");
     AddDying(*target, *second, [&] { AddTo(*source, a.Get()); });
     *target = *source;
-    EXPECT_EQ(Ids(ListOf(*target)), "a") << "a list that was made meanwhile";
+    EXPECT_EQ(IdsIn(*target), "a") << "a list that was made meanwhile";
     AddTo(*other, b.Get());
     const auto again = Make<TypeParam>();
     AddDying(*again, *second, [&] { *source = *other; });
     *again = *source;
-    EXPECT_EQ(Ids(ListOf(*again)), "b") << "a list that was replaced meanwhile";
+    EXPECT_EQ(IdsIn(*again), "b") << "a list that was replaced meanwhile";
     ReleaseMissed<TypeParam>(a);
     ReleaseMissed<TypeParam>(second);
     ReleaseMissed<TypeParam>(second);
 }
 
 TYPED_TEST(EveryContainer, DuplicateIsStoredBeforeItsChildren) {
-    static VEKPrtGraphicPrimitiveElt *copy, *seen;
-    copy = seen = nullptr;
-    struct Witness : VEKPrtLineElt {
-        void Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) override {
-            seen = copy;
-            oCopy = nullptr;
-        }
-    };
     const auto container = Make<TypeParam>();
-    container->AddChild(Make<Witness>().Get());
+    const auto witness = Make<Duplicating>();
+    container->AddChild(witness.Get());
+    VEKPrtGraphicPrimitiveElt *copy = nullptr, *seen = nullptr;
+    witness->duplicate = [&](Child*& oCopy) {
+        seen = copy;
+        oCopy = nullptr;
+    };
     static_cast<Child&>(*container).Duplicate(copy);
     EXPECT_EQ(seen, copy);
-    EXPECT_EQ(Ids(ListOf(static_cast<TypeParam&>(*copy))), "") << "what yields null is left out";
+    EXPECT_EQ(IdsIn(static_cast<TypeParam&>(*copy)), "") << "what yields null is left out";
     copy->Release();
 }
 
-// A member's Duplicate takes the list away that is being duplicated.
 TYPED_TEST(EveryContainer, SurvivesLosingItsListWhileItIsDuplicated) {
-    static TypeParam* container;
-    struct Thief : VEKPrtLineElt {
-        void Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) override {
-            AddRef(); // the container gives its reference back
-            *container = *Make<TypeParam>();
-            VEKPrtLineElt::Duplicate(oCopy);
-            Release();
-        }
-    };
-    const auto owner = Make<TypeParam>();
+    const auto container = Make<TypeParam>();
+    const auto thief = Make<Duplicating>();
     const auto last = Named("last");
-    container = owner.Get();
-    owner->AddChild(Make<Thief>().Get());
-    owner->AddChild(last.Get());
-    EXPECT_EQ(ListOf(*Duplicated(*owner))->Size(), 1);
+    container->AddChild(thief.Get());
+    container->AddChild(last.Get());
+    thief->duplicate = [&](Child*& oCopy) {
+        *container = *Make<TypeParam>();
+        thief->VEKPrtLineElt::Duplicate(oCopy);
+    };
+    EXPECT_EQ(ListOf(*Duplicated(*container))->Size(), 1);
     last->Release();
 }
 
@@ -219,15 +208,13 @@ TEST(ClosedFigure, DuplicatesThroughTheRegionsOwnSlot) {
     EXPECT_EQ(typed, 1) << "neither slot calls the other";
     EXPECT_TRUE(VEKRef<VEKPrtGraphicPrimitiveElt>::Adopt(element));
     auto* const copiedRegion = static_cast<VEKPrtClosedFigureRegionElt*>((*ListOf(*copy))[1]);
-    EXPECT_EQ(Ids(ListOf(*copiedRegion)), "a");
+    EXPECT_EQ(IdsIn(*copiedRegion), "a");
     EXPECT_NE((*ListOf(*copiedRegion))[1], (*ListOf(*region))[1]);
 }
 
-template <class List>
-class EveryList : public testing::Test {};
 using Lists = testing::Types<VEKListPtrVEKPrtGraphicPrimitiveElt, VEKListPtrVEKPrtImageElt,
                              VEKListPtrVEKPrtClosedFigureRegionElt>;
-TYPED_TEST_SUITE(EveryList, Lists, );
+SUITE_OF(EveryList, Lists);
 
 TYPED_TEST(EveryList, CopiesPointersOnly) {
     const auto a = Named("a");

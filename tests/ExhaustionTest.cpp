@@ -5,9 +5,7 @@
 
 namespace {
 
-template <class Element>
-class EveryAllocation : public testing::Test {};
-TYPED_TEST_SUITE(EveryAllocation, AllElements, );
+SUITE_OF(EveryAllocation, AllElements);
 
 template <class Element>
 void SetAll(Element& ioElement) {

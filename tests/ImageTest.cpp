@@ -36,6 +36,12 @@ VEKPrtColourTable* TableOf(VEKPrtImageElt& ioImage) {
     return table;
 }
 
+VEKPixelImage* PixelsOf(const VEKPrtBitmapImageElt& iBitmap) {
+    VEKPixelImage* image = nullptr;
+    iBitmap.GetPixelImage(image);
+    return image;
+}
+
 } // namespace
 
 TEST(ColourTable, AppendsAndFindsTheLowest) {
@@ -100,29 +106,26 @@ TEST(ColourTableFailure, CapacityStaysRaised) {
         VEKPrtColourTable table;
         for (int i = 0; i < 255; ++i)
             Add(table, i);
-        long before = LiveBlocks();
+        const long before = LiveBlocks();
         WithFault(nth, [&] { EXPECT_EQ(Add(table, 255), -1); });
         EXPECT_EQ(LiveBlocks(), before + nth) << "arrays that came before the failing one are not freed";
-        EXPECT_EQ(RedAt(table, 254), 254);
         EXPECT_EQ(CountOf(table), 255);
         EXPECT_EQ(Add(table, 255), 1) << "the free slot of the old arrays";
-        before = LiveBlocks();
-        const long allocations = Allocations();
+        long allocations = Allocations();
         for (int i = 0; i < 2; ++i)
             WithFault(nth, [&] { EXPECT_EQ(Add(table, 0), -1) << "as long as memory is short"; });
-        EXPECT_EQ(LiveBlocks(), before + 2 * nth);
+        EXPECT_EQ(LiveBlocks(), before + 3 * nth);
         EXPECT_EQ(Allocations(), allocations + 2 * (nth + 1));
-        EXPECT_EQ(ColourAt(table, 255), 0xFF0203);
         VEKPrtColourTable copy(table);
         EXPECT_EQ(Add(copy, 7), 1);
         EXPECT_EQ(RedAt(copy, 256), 7) << "a copy has arrays of the raised capacity";
 
+        allocations = Allocations();
         for (int i = 256; i < 511; ++i)
             ASSERT_EQ(Add(table, i % 256), 1) << i;
-        EXPECT_EQ(Allocations(), allocations + 2 * (nth + 1) + 6)
-            << "three for the copy, three of 512 entries";
+        EXPECT_EQ(Allocations(), allocations + 3) << "arrays of 512 entries";
         EXPECT_EQ(Add(table, 255), 1);
-        EXPECT_EQ(Allocations(), allocations + 2 * (nth + 1) + 9) << "then it grows as ever";
+        EXPECT_EQ(Allocations(), allocations + 6) << "then it grows as ever";
         for (unsigned i = 0; i < 512; ++i)
             ASSERT_EQ(RedAt(table, i), static_cast<int>(i % 256)) << i;
     }
@@ -182,29 +185,18 @@ TEST(Image, OwnsItsColourTable) {
     EXPECT_EQ(TableOf(*assigned), nullptr) << "a source without a table takes the target's away";
 }
 
-namespace {
-
-VEKPixelImage* PixelsOf(const VEKPrtBitmapImageElt& iBitmap) {
-    VEKPixelImage* image = nullptr;
-    iBitmap.GetPixelImage(image);
-    return image;
-}
-
-} // namespace
-
 TEST(BitmapImage, SetParametersKeepsTheOldImage) {
     const auto first = Make<VEKPixelImage>(1, 1), second = Make<VEKPixelImage>(1, 1);
     const auto bitmap = Make<VEKPrtBitmapImageElt>(VEKMathPoint2D(1, 2), 3.0, 4.0, 0.1, first.Get());
     EXPECT_EQ(Count(first), 2UL);
+    // The orientation was narrowed when it was constructed, and is never set.
     const auto expect = [&](VEKPixelImage* iImage, const VEKMathPoint2D& iOrigin, double iSize) {
-        double wide = 0, width = 0, height = 0;
+        double orientation = 0, width = 0, height = 0;
         VEKMathPoint2D origin(9, 9);
         VEKPixelImage* image = nullptr;
-        bitmap->GetParameters(origin, width, height, wide, image);
-        EXPECT_EQ(wide, static_cast<double>(0.1F)) << "narrowed when it was constructed, then never set";
-        EXPECT_EQ(origin, iOrigin);
-        EXPECT_EQ(width * 10 + height, iSize);
-        EXPECT_EQ(image, iImage);
+        bitmap->GetParameters(origin, width, height, orientation, image);
+        EXPECT_EQ(std::tuple(image, origin, width * 10 + height, orientation),
+                  std::tuple(iImage, iOrigin, iSize, static_cast<double>(0.1F)));
     };
     expect(first.Get(), VEKMathPoint2D(1, 2), 34.0);
     bitmap->SetParameters(VEKMathPoint2D(0, 0), 5.0, 6.0, 45.0, first.Get());
@@ -217,15 +209,10 @@ TEST(BitmapImage, SetParametersKeepsTheOldImage) {
     EXPECT_EQ(Count(second), 2UL);
     first->Release();
     second->Release();
-}
-
-TEST(BitmapImage, HoldsTheOnlyReference) {
-    const auto bitmap = Make<VEKPrtBitmapImageElt>();
     bitmap->SetPixelImage(Make<VEKPixelImage>(1, 1).Get());
     bitmap->SetParameters(VEKMathPoint2D(0, 0), 0, 0, 0, PixelsOf(*bitmap));
-    EXPECT_EQ(Count(PixelsOf(*bitmap)), 1UL) << "passed back to itself it survives";
     bitmap->SetPixelImage(PixelsOf(*bitmap));
-    EXPECT_EQ(Count(PixelsOf(*bitmap)), 1UL) << "by its own setter, too";
+    EXPECT_EQ(Count(PixelsOf(*bitmap)), 1UL) << "passed back to itself it survives";
     bitmap->SetPixelImage(nullptr);
 }
 

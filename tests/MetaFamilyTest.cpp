@@ -3,9 +3,6 @@
 
 #include "TestSupport.h"
 #include "VEKMetaClass.h"
-#include "VEKPrtGroupAttributes.h"
-#include "VEKPrtMarkerAttributes.h"
-#include "VEKPrtTextAttributes.h"
 
 namespace {
 
@@ -49,9 +46,7 @@ const Row& RowOf(const std::type_info& iType) {
     return g_rows[0];
 }
 
-template <class Element>
-class EveryElement : public testing::Test {};
-TYPED_TEST_SUITE(EveryElement, AllElements, );
+SUITE_OF(EveryElement, AllElements);
 
 } // namespace
 

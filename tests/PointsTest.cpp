@@ -28,19 +28,13 @@ constexpr bool isDisjoint = std::is_same_v<Element, VEKPrtDisjointPolylineElt>;
 template <class Element>
 constexpr bool readsFromZero = isDisjoint<Element> || std::is_same_v<Element, VEKPrtPolygonElt>;
 
-template <class Element>
-class EveryPointArray : public testing::Test {};
-TYPED_TEST_SUITE(EveryPointArray, PointArrays, );
-
-template <class Element>
-class PointArrayList : public testing::Test {};
-TYPED_TEST_SUITE(PointArrayList, PointArrays, );
+SUITE_OF(EveryPointArray, PointArrays);
 
 const double g_five[] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10};
 
 } // namespace
 
-TYPED_TEST(PointArrayList, FirstPosition) {
+TYPED_TEST(EveryPointArray, ConstructsFromLists) {
     VEKMathPoint2D a(1, 2), b(3, 4), c(5, 6);
     VEKListPtrVEKMathPoint2D list(0);
     ExpectPoints(TypeParam(list), 0, g_null);
@@ -100,18 +94,15 @@ TYPED_TEST(EveryPointArray, ReplacesAsGiven) {
 
 TYPED_TEST(EveryPointArray, CopiesItsArray) {
     const auto source = Make<TypeParam>(g_five, 4), target = Make<TypeParam>();
-    const Values four(g_five, g_five + 8);
     target->SetPoints(g_five, -7);
     *target = *Make<TypeParam>();
     ExpectPoints(*target, -7, g_null, "neither has an array: the count stays");
     *target = *source;
-    const auto copy = Make<TypeParam>(*source);
-    const auto duplicate = Duplicated(*source);
-    source->SetPoints(nullptr, 1);
-    for (const auto* const element : {&target, &copy, &duplicate})
-        ExpectPoints(**element, 4, four);
     *target = *std::as_const(target).Get();
-    ExpectPoints(*target, 4, four, "assigned to itself");
+    const auto copy = Make<TypeParam>(*source), duplicate = Duplicated(*source);
+    source->SetPoints(nullptr, 1);
+    for (const auto& element : {target, copy, duplicate})
+        ExpectPoints(*element, 4, Values(g_five, g_five + 8));
     *target = *Make<TypeParam>(g_five, 0);
     ExpectPoints(*target, 0, g_null, "an array of no length is not copied");
     *copy = *Make<TypeParam>(g_five, -3);

@@ -4,11 +4,24 @@
 
 namespace {
 
-template <class Record>
-class EveryRecord : public testing::Test {};
 using Records =
     testing::Types<Stroke, Fill, VEKPrtTextAttributes, VEKPrtMarkerAttributes, VEKPrtGroupAttributes>;
-TYPED_TEST_SUITE(EveryRecord, Records, );
+SUITE_OF(EveryRecord, Records);
+
+// An image that notes what is in a copy when it is asked for a reference or for a copy of itself.
+struct Witness : VEKPixelImage {
+    Witness() : VEKPixelImage(1, 1) {}
+    std::function<double()> look;
+    mutable std::vector<double> seen;
+    unsigned long AddRef() override {
+        if (look) seen.push_back(look());
+        return VEKPixelImage::AddRef();
+    }
+    VEKPixelImage* Clone() const override {
+        seen.push_back(look());
+        return VEKPixelImage::Clone();
+    }
+};
 
 } // namespace
 
@@ -216,51 +229,28 @@ TEST(Fill, SharesItsImageByCount) {
     EXPECT_EQ(Count(image), 2UL);
 }
 
-namespace {
-
-// An image that notes what is in a copy when it is asked for a reference or for a copy of itself.
-struct Witness : VEKPixelImage {
-    Witness() : VEKPixelImage(1, 1) {}
-    std::function<double()> look;
-    mutable std::vector<double> seen;
-    unsigned long AddRef() override {
-        if (look) seen.push_back(look());
-        return VEKPixelImage::AddRef();
-    }
-    VEKPixelImage* Clone() const override {
-        seen.push_back(look());
-        return VEKPixelImage::Clone();
-    }
-};
-
-} // namespace
-
 TEST(Fill, TakesItsImageBetweenColourAndVectors) {
-    using F = Fill;
     const auto image = Make<Witness>();
-    F source, assigned, duplicate;
+    Fill source, assigned, duplicate;
     source.SetFillColourIndex(7);
     source.SetPattern(image.Get(), Vector(1, 0), Vector(0, 1));
-    const auto looking = [&](const F& iTarget) {
-        image->look = [&iTarget] {
-            unsigned colour = 0;
-            VEKPixelImage* held = nullptr;
-            Vector first, second;
-            iTarget.GetFillColourIndex(colour);
-            const_cast<F&>(iTarget).GetPattern(held, first, second);
-            return colour + first.GetX() + second.GetY();
-        };
+    alignas(Fill) unsigned char memory[sizeof(Fill)];
+    Fill *const copy = reinterpret_cast<Fill*>(memory), *target = copy;
+    image->look = [&target] {
+        unsigned colour = 0;
+        VEKPixelImage* held = nullptr;
+        Vector first, second;
+        target->GetFillColourIndex(colour);
+        target->GetPattern(held, first, second);
+        return colour + first.GetX() + second.GetY();
     };
-    alignas(F) unsigned char memory[sizeof(F)];
-    F* const copy = reinterpret_cast<F*>(memory);
-    looking(*copy);
-    ::new (memory) F(source);
-    looking(assigned);
+    ::new (memory) Fill(source);
+    target = &assigned;
     assigned = source;
-    looking(duplicate);
+    target = &duplicate;
     source.Duplicate(duplicate);
     EXPECT_EQ(image->seen, (std::vector<double>{7, 7, 7})) << "the colour is there, the vectors are not";
-    copy->~F();
+    copy->~Fill();
     image->look = nullptr;
 }
 

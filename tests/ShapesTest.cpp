@@ -5,21 +5,23 @@
 
 namespace {
 
-template <class Element>
-class ElementFields : public testing::Test {};
-TYPED_TEST_SUITE(ElementFields, AllElements, );
-template <class Element>
-class EveryStroked : public testing::Test {};
-TYPED_TEST_SUITE(EveryStroked, Stroked, );
-template <class Shape>
-class DuplicateFill : public testing::Test {};
-TYPED_TEST_SUITE(DuplicateFill, Filled, );
+SUITE_OF(ElementFields, AllElements);
+SUITE_OF(EveryStroked, Stroked);
+SUITE_OF(DuplicateFill, Filled);
 
 template <class Element>
 void ExpectValues(Element& ioElement, const Fields<Element>& iFields, std::size_t iValue, const char* iWhat) {
     for (const auto& field : iFields)
         EXPECT_TRUE(field.has(ioElement, iValue))
             << Element::ClassName() << ' ' << iWhat << ' ' << field.name;
+}
+
+// Constructed from the second values of its fields, with new records.
+template <class Element, class... Arguments>
+void ExpectConstructed(Arguments... iArguments) {
+    const auto element = Make<Element>(iArguments...);
+    ExpectValues(*element, FieldsOf<Element>(), 1, "constructed");
+    ExpectValues(*element, RecordsOf<Element>(), 0, "constructed");
 }
 
 } // namespace
@@ -46,18 +48,6 @@ TYPED_TEST(ElementFields, AreKeptAndCopied) {
     WithSelfCopy<TypeParam>(
         [&](TypeParam& ioCopy) { ExpectValues(ioCopy, fields, 0, "copied from itself"); });
 }
-
-namespace {
-
-// Constructed from the second values of its fields, with new records.
-template <class Element, class... Arguments>
-void ExpectConstructed(Arguments... iArguments) {
-    const auto element = Make<Element>(iArguments...);
-    ExpectValues(*element, FieldsOf<Element>(), 1, "constructed");
-    ExpectValues(*element, RecordsOf<Element>(), 0, "constructed");
-}
-
-} // namespace
 
 TEST(Elements, AreConstructedFromTheirParameters) {
     const Point a(1, 2), b(-3, 1);

@@ -156,11 +156,8 @@ void ExpectWholePage(const VEKPrtModel& iModel, int iPage, std::size_t iClasses)
 
     VEKPrtColourTable* table = nullptr;
     page.GetColourTable(table);
-    int colourCount = 0;
-    table->GetColourCount(colourCount);
-    for (int i = 0; i < colourCount; ++i) {
-        unsigned char rgb[3];
-        table->GetColour(static_cast<unsigned>(i), rgb[0], rgb[1], rgb[2]);
+    unsigned char rgb[3];
+    for (unsigned i = 0; table->GetColour(i, rgb[0], rgb[1], rgb[2]) == 1; ++i) {
         char name[8];
         std::snprintf(name, sizeof name, "#%02x%02x%02x", rgb[0], rgb[1], rgb[2]);
         colours.insert(name);
@@ -173,9 +170,7 @@ void ExpectWholePage(const VEKPrtModel& iModel, int iPage, std::size_t iClasses)
             << reference;
 }
 
-template <class Element>
-class SvgOfEvery : public testing::Test {};
-TYPED_TEST_SUITE(SvgOfEvery, AllElements, );
+SUITE_OF(SvgOfEvery, AllElements);
 
 } // namespace
 
@@ -544,10 +539,10 @@ TEST(Nurbs, DrawsACircleAndHonoursTheBounds) {
     const auto circle = sample(0.0F, 1.0F);
     ASSERT_GT(circle.size(), 30U);
     for (std::size_t i = 1; i < circle.size(); ++i) {
-        EXPECT_NEAR(std::hypot(circle[i].GetX(), circle[i].GetY()), 1.0, 1e-12);
-        const double mx = (circle[i].GetX() + circle[i - 1].GetX()) / 2,
-                     my = (circle[i].GetY() + circle[i - 1].GetY()) / 2;
-        EXPECT_NEAR(std::hypot(mx, my), 1.0, 2e-5) << "no corner is seen";
+        const Point &from = circle[i - 1], &to = circle[i];
+        EXPECT_NEAR(std::hypot(to.GetX(), to.GetY()), 1.0, 1e-12);
+        EXPECT_NEAR(std::hypot(from.GetX() + to.GetX(), from.GetY() + to.GetY()), 2.0, 4e-5)
+            << "no corner is seen";
     }
     EXPECT_NEAR(circle.back().GetX(), 1.0, 1e-12);
     const auto half = sample(0.25F, 0.75F);
@@ -576,13 +571,9 @@ TEST(Nurbs, RefusesNonsense) {
     }
 }
 
-TEST(SpecimenSheet, IsPlottedWhole) {
-    const Specimen specimen = BuildSpecimen();
+TEST(Examples, ArePlottedWhole) {
     // All classes but the base, the page and the figure's regions.
-    ExpectWholePage(*specimen.model, 1, 20);
-}
-
-TEST(AtlasPages, ArePlottedWhole) {
+    ExpectWholePage(*BuildSpecimen().model, 1, 20);
     std::ifstream file(EXAMPLE_DATA "/countries-110m.json");
     std::ostringstream text;
     text << file.rdbuf();
@@ -591,7 +582,7 @@ TEST(AtlasPages, ArePlottedWhole) {
         ExpectWholePage(atlas.Model(), page, 6);
 }
 
-TEST(SpecimenSheet, DuplicateDrawsTheSame) {
+TEST(Examples, DuplicateDrawsTheSame) {
     // The two shapes with a pattern image leave their references on it behind.
     const DemandedLeak leak(1, 2);
     const Specimen specimen = BuildSpecimen();

@@ -13,7 +13,7 @@ namespace vekprt {
 //
 // Containers walk positions 0 to count - 1: position 0 yields null, and the member at the last position keeps
 // its reference and outlives the list.  Clients see that count, so it stays
-// (ContainerAssign.LeavesTheLastReference).
+// (EveryContainer.LeavesTheLastReference).
 constexpr int containerWalkStart = 0;
 // The closed figure and the model release every member.
 constexpr int completeWalkStart = 1;

@@ -21,7 +21,7 @@ double* NewPoints(const Coordinate* iPoints, int iCount) {
 ///
 /// From position 1 that is the whole list; from 0 the first point is (0, 0), for the null there, and the last
 /// is left out.  The classes differ in it, and clients see which points they get, so each keeps its own
-/// (PointArrayList.FirstPosition).
+/// (EveryPointArray.ConstructsFromLists).
 inline double* NewPointsFromList(const VEKListPtrVEKMathPoint2D& iList, int iCount, int iFirst) {
     double* const points = iCount > 0 ? NewArray<double>(2 * std::int64_t{iCount}) : nullptr;
     double* coordinate = points;
