@@ -39,10 +39,9 @@ struct Drawing {
         line->SetID("the \"line\"");
         model->AddImage(page.Get());
         page->AddChild(group.Get());
-        for (const VEKRef<VEKPrtGraphicPrimitiveElt>& child :
-             {VEKRef<VEKPrtGraphicPrimitiveElt>(pattern), VEKRef<VEKPrtGraphicPrimitiveElt>(symbol),
-              VEKRef<VEKPrtGraphicPrimitiveElt>(figure)})
-            group->AddChild(child.Get());
+        group->AddChild(pattern.Get());
+        group->AddChild(symbol.Get());
+        group->AddChild(figure.Get());
         pattern->AddChild(line.Get());
         symbol->AddChild(line.Get());
         figure->AddChild(region.Get());

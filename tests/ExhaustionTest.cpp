@@ -41,16 +41,13 @@ TYPED_TEST(EveryAllocation, CanFail) {
     source->SetTitle("title");
     SetAll(*source);
 
-    struct Operation {
-        const char* name;
-        std::function<void()> run;
-    };
-    const Operation operations[] = {{"duplicated", [&] { Duplicated(*source); }},
-                                    {"copied", [&] { VEKRef<TypeParam>::Adopt(new TypeParam(*source)); }},
-                                    {"assigned", [&] {
-                                         const auto target = VEKRef<TypeParam>::Adopt(new TypeParam);
-                                         if (target) *target = *source;
-                                     }}};
+    const std::pair<const char*, std::function<void()>> operations[] = {
+        {"duplicated", [&] { Duplicated(*source); }},
+        {"copied", [&] { VEKRef<TypeParam>::Adopt(new TypeParam(*source)); }},
+        {"assigned", [&] {
+             const auto target = VEKRef<TypeParam>::Adopt(new TypeParam);
+             if (target) *target = *source;
+         }}};
     for (const auto& [name, run] : operations) {
         for (const bool sticky : {false, true}) {
             const long before = Allocations();

@@ -134,21 +134,16 @@ TEST(PolyPolygon, HoldsPointsAndCounts) {
     using P = VEKPrtPolyPolygonElt;
     const int cancelling[] = {2, -2}, lowering[] = {3, -2}, huge[] = {INT_MAX, INT_MAX};
     const Polygons two = {{1, 2, 3, 4}, {2}, 1}, one = {{1, 2}, {3, -2}, 2}, none = {g_null, g_noCounts, -1};
-    struct Row {
-        const double* points;
-        const int* counts;
-        int count;
-        Polygons set, constructed;
-    };
-    // A constructor makes no array for no points.
-    const Row rows[] = {{g_five, g_counts, 2, g_three, g_three},
-                        {g_five, g_counts, 1, two, two},
-                        {g_five, g_counts, 0, {{}, {}, 0}, {g_null, {}, 0}},
-                        {g_five, g_counts, -1, none, none},
-                        {g_five, cancelling, 2, {{}, {2, -2}, 2}, {g_null, {2, -2}, 2}},
-                        {g_five, lowering, 2, one, one},
-                        {g_five, nullptr, 2, {{}, {0, 0}, 2}, {g_null, {0, 0}, 2}},
-                        {nullptr, g_counts, 2, {Values(6), {2, 1}, 2}, {Values(6), {2, 1}, 2}}};
+    // What is given, and what a setter and a constructor make of it: the latter no array for no points.
+    const std::tuple<const double*, const int*, int, Polygons, Polygons> rows[] = {
+        {g_five, g_counts, 2, g_three, g_three},
+        {g_five, g_counts, 1, two, two},
+        {g_five, g_counts, 0, {{}, {}, 0}, {g_null, {}, 0}},
+        {g_five, g_counts, -1, none, none},
+        {g_five, cancelling, 2, {{}, {2, -2}, 2}, {g_null, {2, -2}, 2}},
+        {g_five, lowering, 2, one, one},
+        {g_five, nullptr, 2, {{}, {0, 0}, 2}, {g_null, {0, 0}, 2}},
+        {nullptr, g_counts, 2, {Values(6), {2, 1}, 2}, {Values(6), {2, 1}, 2}}};
     for (const auto& [points, counts, count, set, constructed] : rows) {
         const auto element = Make<P>();
         element->SetPoints(points, counts, count);

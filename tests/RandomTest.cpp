@@ -22,7 +22,6 @@ struct Heap {
         blocks += fails ? 0 : 1;
         return !fails;
     }
-    bool TakeThree() { return Take() && Take() && Take(); }
     void Free(int iBlocks) { blocks -= iBlocks; }
 } g_heap;
 
@@ -228,7 +227,7 @@ private:
         ioPage.capacity = ioPage.allocated = ioPage.colours = 0;
     }
     static bool Reallocate(Node& ioPage) {
-        if (!g_heap.TakeThree()) return false; // those that came are lost
+        if (!g_heap.Take() || !g_heap.Take() || !g_heap.Take()) return false; // those that came are lost
         g_heap.Free(ioPage.allocated > 0 ? 3 : 0);
         ioPage.allocated = ioPage.capacity;
         return true;
@@ -614,8 +613,8 @@ private:
                 iReal.GetPoints(points, count);
                 ASSERT_EQ(count, iNode.points.count);
                 ASSERT_EQ(points != nullptr, iNode.points.there);
-                for (int i = 0; points && i < 2 * count; ++i)
-                    EXPECT_EQ(points[i], iNode.points.values[static_cast<std::size_t>(i)]);
+                const std::vector<double> found(points, points ? points + 2 * count : points);
+                EXPECT_EQ(found, points ? iNode.points.values : found);
             } else if constexpr (std::is_same_v<T, VEKPrtImageElt>) {
                 VEKPrtColourTable* table = nullptr;
                 int colours = 0;

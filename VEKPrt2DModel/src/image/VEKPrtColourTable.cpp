@@ -41,7 +41,7 @@ VEKPrtColourTable& VEKPrtColourTable::operator=(const VEKPrtColourTable& iOther)
 }
 
 // Where one of the arrays cannot be allocated, or the source has none, the copy is empty; arrays that were
-// allocated are not freed (ColourTableFailure.CopyIsEmpty).
+// allocated are not freed (Random.AgreesWithAPlainModel).
 void VEKPrtColourTable::CopyOwn(const VEKPrtColourTable& iOther) {
     _capacity = _count = _allocated = 0;
     if (iOther._capacity == 0) return;
