@@ -79,10 +79,9 @@ using Lends = void (Class::*)(VEKListPtrVEKPrtGraphicPrimitiveElt*&);
 using LendsRegions = void (VEKPrtClosedFigureElt::*)(VEKListPtrVEKPrtClosedFigureRegionElt*&);
 using ImageLends = void (VEKPrtImageElt::*)(VEKListPtrVEKPrtGraphicPrimitiveElt*&) const;
 using ModelLends = void (VEKPrtModel::*)(VEKListPtrVEKPrtImageElt*&) const;
-static_assert(Is<Lends<VEKPrtGroupElt>>(&VEKPrtGroupElt::GetChildren));
-static_assert(Is<Lends<VEKPrtPatternElt>>(&VEKPrtPatternElt::GetChildren));
-static_assert(Is<Lends<VEKPrtSymbolElt>>(&VEKPrtSymbolElt::GetChildren));
-static_assert(Is<Lends<VEKPrtClosedFigureRegionElt>>(&VEKPrtClosedFigureRegionElt::GetChildren));
+template <class... Classes>
+constexpr bool lend = (Is<Lends<Classes>>(&Classes::GetChildren) && ...);
+static_assert(lend<VEKPrtGroupElt, VEKPrtPatternElt, VEKPrtSymbolElt, VEKPrtClosedFigureRegionElt>);
 static_assert(Is<LendsRegions>(&VEKPrtClosedFigureElt::GetChildren));
 static_assert(Is<ImageLends>(&VEKPrtImageElt::GetChildren) && Is<ModelLends>(&VEKPrtModel::GetImages));
 using S = VEKPrtStrokeAttributes;

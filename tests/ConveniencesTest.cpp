@@ -80,7 +80,12 @@ TEST(Walk, KnowsAllHoldersAndEndsInACycle) {
         ++visits;
         return true;
     };
-    Walk(*drawing.model, visit);
+    const auto count = [&] {
+        visits = 0;
+        Walk(*drawing.model, visit);
+        return visits;
+    };
+    EXPECT_EQ(count(), 9) << "the line once for each that holds it";
     EXPECT_EQ(depths, (std::map<std::string, int>{{"VEKPrtImageElt", 0},
                                                   {"VEKPrtGroupElt", 1},
                                                   {"VEKPrtPatternElt", 2},
@@ -88,11 +93,8 @@ TEST(Walk, KnowsAllHoldersAndEndsInACycle) {
                                                   {"VEKPrtClosedFigureElt", 2},
                                                   {"VEKPrtClosedFigureRegionElt", 3},
                                                   {"VEKPrtLineElt", 4}}));
-    EXPECT_EQ(visits, 9) << "the line once for each that holds it";
     drawing.group->AddChild(drawing.page.Get());
-    visits = 0;
-    Walk(*drawing.model, visit);
-    EXPECT_EQ(visits, 9);
+    EXPECT_EQ(count(), 9);
     drawing.group->RemoveChild(drawing.page.Get());
     visits = 0;
     Walk(*drawing.page, [&](VEKPrtGraphicPrimitiveElt&, int iDepth) { return ++visits, iDepth < 1; });

@@ -38,7 +38,6 @@ TYPED_TEST(EveryAllocation, CanFail) {
     if (mayLose<TypeParam>) leak.emplace(0, 0);
     const auto source = Make<TypeParam>();
     source->SetID("id");
-    source->SetTitle("title");
     SetAll(*source);
 
     const std::pair<const char*, std::function<void()>> operations[] = {

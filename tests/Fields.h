@@ -5,6 +5,7 @@
 #include <cfloat>
 #include <cmath>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <tuple>
 #include <vector>

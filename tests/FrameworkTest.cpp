@@ -2,7 +2,6 @@
 #include <cstdlib>
 
 #include "TestSupport.h"
-#include "VEKFont.h"
 #include "VEKListPtrVEKMathPoint2D.h"
 #include "VEKMath2x2Matrix.h"
 #include "VEKMathPoint2D.h"
@@ -50,8 +49,6 @@ TEST(BaseUnknown, OffersNoInterface) {
     EXPECT_EQ(thing->GetTypeInfo(0, 0, nullptr), VEKBaseUnknown::NotImplemented);
     EXPECT_EQ(thing->QueryInterface(name), nullptr);
     thing->ChangeComponentState(1, 2);
-    thing->SetImpl(&count);
-    EXPECT_EQ(thing->GetImpl(), &count);
 }
 
 TEST(BaseUnknown, NewYieldsNullWhenAllocationFails) {

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cstring>
 #include <typeinfo>
 
@@ -37,37 +38,32 @@ const Row g_rows[] = {
     {"VEKPrtTextElt", &meta_object__13VEKPrtTextElt},
 };
 
-// The compiler's own name of a class: its length, then the name.
-const Row& RowOf(const std::type_info& iType) {
-    const char* const name = iType.name() + std::strspn(iType.name(), "0123456789");
-    for (const Row& row : g_rows)
-        if (std::strcmp(row.name, name) == 0) return row;
-    ADD_FAILURE() << name << " has no row";
-    return g_rows[0];
-}
-
 SUITE_OF(EveryElement, AllElements);
 
 } // namespace
 
 TYPED_TEST(EveryElement, HasItsOwnMetaObject) {
-    const Row& row = RowOf(typeid(TypeParam));
-    const bool isBase = std::strcmp(row.name, "VEKPrtGraphicPrimitiveElt") == 0;
+    // The compiler's own name of a class: its length, then the name.
+    const char* const name = typeid(TypeParam).name() + std::strspn(typeid(TypeParam).name(), "0123456789");
+    const auto* const row = std::find_if(std::begin(g_rows), std::end(g_rows),
+                                         [&](const Row& iRow) { return std::strcmp(iRow.name, name) == 0; });
+    ASSERT_NE(row, std::end(g_rows)) << name << " has no row";
+    constexpr bool isBase = std::is_same_v<TypeParam, VEKPrtGraphicPrimitiveElt>;
     EXPECT_EQ(TypeParam::CreateItself(), nullptr);
     VEKMetaClass* const meta = TypeParam::MetaObject();
     ASSERT_NE(meta, nullptr);
-    EXPECT_EQ(*row.cache, meta);
-    EXPECT_STREQ(meta->GetName(), row.name);
+    EXPECT_EQ(*row->cache, meta);
+    EXPECT_STREQ(meta->GetName(), row->name);
     EXPECT_EQ(meta->GetSize(), static_cast<long>(sizeof(TypeParam)));
     EXPECT_EQ(meta->GetBase(),
               isBase ? VEKBaseUnknown::MetaObject() : VEKPrtGraphicPrimitiveElt::MetaObject());
     EXPECT_EQ(TypeParam::ClassName(), meta->GetName());
     EXPECT_EQ(TypeParam::ClassId(), meta->GetId());
-    EXPECT_EQ(TypeParam::ClassId(), "PrintBase." + std::string(row.name));
+    EXPECT_EQ(TypeParam::ClassId(), "PrintBase." + std::string(row->name));
     const auto element = Make<TypeParam>();
     EXPECT_EQ(element->GetMetaObject(), meta);
     EXPECT_EQ(element->IsA(), meta->GetName());
-    for (const char* const kind : {row.name, "VEKPrtGraphicPrimitiveElt"})
+    for (const char* const kind : {row->name, "VEKPrtGraphicPrimitiveElt"})
         EXPECT_EQ(element->IsAKindOf(kind), 1) << kind;
     EXPECT_EQ(element->IsAKindOf("VEKBaseUnknown"), VEKBaseUnknown::MetaObject() ? 1 : 0)
         << "the host's root";
@@ -77,11 +73,11 @@ TYPED_TEST(EveryElement, HasItsOwnMetaObject) {
         VEKMetaClass* GetMetaObject() const override { return nullptr; }
     };
     EXPECT_EQ(Make<Derived>()->IsA(), meta->GetName()) << "the class that the query stands in";
-    EXPECT_EQ(Make<Derived>()->IsAKindOf(row.name), 1);
+    EXPECT_EQ(Make<Derived>()->IsAKindOf(row->name), 1);
     VEKMetaClass* const other = isBase ? VEKPrtLineElt::MetaObject() : meta->GetBase();
-    *row.cache = other;
+    *row->cache = other;
     EXPECT_EQ(TypeParam::MetaObject(), other) << "what the cache holds is not looked up again";
-    *row.cache = meta;
+    *row->cache = meta;
 }
 
 TYPED_TEST(EveryElement, CarriesIdentityOnlyWhereItShould) {

@@ -23,6 +23,14 @@ void ExpectPoints(const Element& iElement, int iCount, const Values& iPoints, co
     EXPECT_EQ(count, iCount) << iElement.IsA() << ' ' << iWhat;
 }
 
+template <class Replace>
+void ExpectRoomReused(Replace iReplace) {
+    ResetPeak();
+    const long blocks = LiveBlocks();
+    iReplace();
+    EXPECT_EQ(PeakBlocks(), blocks) << "the old arrays go before the new ones come";
+}
+
 template <class Element>
 constexpr bool isDisjoint = std::is_same_v<Element, VEKPrtDisjointPolylineElt>;
 template <class Element>
@@ -71,10 +79,7 @@ TYPED_TEST(EveryPointArray, ReplacesAsGiven) {
     const auto element = Make<TypeParam>();
     element->SetPoints(g_five, 5);
     ExpectPoints(*element, 5, Values(g_five, g_five + 10), "SetPoints rounds nothing");
-    ResetPeak();
-    const long blocks = LiveBlocks();
-    element->SetPoints(g_five, 5);
-    EXPECT_EQ(PeakBlocks(), blocks) << "the old array goes before the new one comes";
+    ExpectRoomReused([&] { element->SetPoints(g_five, 5); });
     double* own = nullptr;
     int count = 0;
     element->GetPoints(own, count);
@@ -85,8 +90,6 @@ TYPED_TEST(EveryPointArray, ReplacesAsGiven) {
     element->GetPoints(own, count);
     element->SetPoints(own, 2);
     ExpectPoints(*element, 2, {0, 0, 0, 0}, "nothing to read in an own array of no length");
-    element->SetPoints(g_five, INT_MIN);
-    ExpectPoints(*element, INT_MIN, g_null);
     WithFault(0, [&] { element->SetPoints(g_five, 4); });
     ExpectPoints(*element, 4, g_null, "no array: the count is kept");
     ExpectPoints(*Make<TypeParam>(*element), 0, g_null, "copied from an element without an array");
@@ -159,12 +162,8 @@ TEST(PolyPolygon, HoldsPointsAndCounts) {
 TEST(PolyPolygon, FreesBeforeItAllocates) {
     const auto element = Make<VEKPrtPolyPolygonElt>(g_five, g_counts, 2);
     const auto curve = Make<VEKPrtNURBSElt>(2, 2, g_five, g_five, 0.0F, 1.0F, g_five);
-    ResetPeak();
-    const long blocks = LiveBlocks();
-    element->SetPoints(g_five, g_counts, 2);
-    EXPECT_EQ(PeakBlocks(), blocks);
-    curve->SetParameters(2, 2, g_five, g_five, 0.0F, 1.0F, g_five);
-    EXPECT_EQ(PeakBlocks(), blocks) << "the curve";
+    ExpectRoomReused([&] { element->SetPoints(g_five, g_counts, 2); });
+    ExpectRoomReused([&] { curve->SetParameters(2, 2, g_five, g_five, 0.0F, 1.0F, g_five); });
 }
 
 TEST(PolyPolygon, CopiesWhatIsThere) {

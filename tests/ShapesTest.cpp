@@ -1,6 +1,4 @@
 // The fields of all elements, the recipes of their duplication, and the images of their fills.
-#include <set>
-
 #include "Fields.h"
 
 namespace {
@@ -23,6 +21,11 @@ void ExpectConstructed(Arguments... iArguments) {
     ExpectValues(*element, FieldsOf<Element>(), 1, "constructed");
     ExpectValues(*element, RecordsOf<Element>(), 0, "constructed");
 }
+
+// Those that are duplicated by copying, then assignment; the others are constructed by default first.
+using CopiedFirst =
+    testing::Types<VEKPrtRectangleElt, VEKPrtPolylineElt, VEKPrtPolygonElt, VEKPrtPolyCubicBezierElt,
+                   VEKPrtPolyQuadraticBezierElt, VEKPrtPolyPolygonElt, VEKPrtNURBSElt>;
 
 } // namespace
 
@@ -67,14 +70,7 @@ TEST(Elements, AreConstructedFromTheirParameters) {
 }
 
 TYPED_TEST(EveryStroked, DuplicatesByItsRecipe) {
-    const std::set<std::string> copyFirst = {"VEKPrtRectangleElt",
-                                             "VEKPrtPolylineElt",
-                                             "VEKPrtPolygonElt",
-                                             "VEKPrtPolyCubicBezierElt",
-                                             "VEKPrtPolyQuadraticBezierElt",
-                                             "VEKPrtPolyPolygonElt",
-                                             "VEKPrtNURBSElt"};
-    const bool copiesFirst = copyFirst.count(TypeParam::ClassName()) > 0;
+    constexpr bool copiesFirst = In<TypeParam, CopiedFirst>;
     const auto source = Make<TypeParam>();
     source->SetStrokeAttributes(Dashed({1, 2}));
     const long before = Allocations();

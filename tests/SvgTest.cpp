@@ -16,8 +16,6 @@
 #include "SvgWriter.h"
 #include "VEKPrtWalk.h"
 
-using vekprt::svg::SampleNurbs;
-
 namespace {
 
 // A parsed page; XPath with the prefix s for SVG.
@@ -184,10 +182,9 @@ TYPED_TEST(SvgOfEvery, ElementIsHandledEvenWithNothingSet) {
 
 TEST(Svg, PageIsTheViewport) {
     Page page;
-    const Document document = page.Read();
-    EXPECT_EQ(document.String("/s:svg/@width"), "100cm");
-    EXPECT_EQ(document.String("/s:svg/@viewBox"), "-5 -60 100 50");
-    EXPECT_EQ(document.String("/s:svg/s:g/@transform"), "scale(1,-1)");
+    EXPECT_EQ(page.String("/s:svg/@width"), "100cm");
+    EXPECT_EQ(page.String("/s:svg/@viewBox"), "-5 -60 100 50");
+    EXPECT_EQ(page.String("/s:svg/s:g/@transform"), "scale(1,-1)");
     page.image->SetMatrix(Matrix(1, 2, 3, 4));
     EXPECT_EQ(page.String("/s:svg/s:g/@transform"), "scale(1,-1) matrix(1 3 2 4 0 0)");
     page.image->SetMatrix(Matrix(6e-17, 1, -1, 6e-17));
@@ -469,9 +466,9 @@ TEST(Svg, FiguresTurnPrimitivesThatRunTheOtherWay) {
     region->AddChild(Make<VEKPrtLineElt>(Point(4, 0), Point(2, 0)).Get());
     region->AddChild(Make<VEKPrtPolyQuadraticBezierElt>(quadratic, 3).Get());
     region->AddChild(Make<VEKPrtLineElt>(Point(8, 1), Point(9, 1)).Get());
-    Transform transform;
-    transform.AddScaleX(10.0);
-    region->SetTransformAttributes(transform);
+    Transform tenfold;
+    tenfold.AddScaleX(10.0);
+    region->SetTransformAttributes(tenfold);
     EXPECT_EQ(page.String("//s:path/@d"), "M0,0l20,0 20,0q10,5 20,0l20,1 10,0Z");
 }
 
@@ -527,8 +524,8 @@ TEST(Nurbs, DrawsACircleAndHonoursTheBounds) {
     const double weights[] = {1, s, 1, s, 1, s, 1, s, 1};
     std::string problem;
     const auto sample = [&](float iFirst, float iSecond) {
-        return SampleNurbs(*Make<VEKPrtNURBSElt>(3, 9, points, knots, iFirst, iSecond, weights), 1e-5,
-                           problem);
+        return vekprt::svg::SampleNurbs(*Make<VEKPrtNURBSElt>(3, 9, points, knots, iFirst, iSecond, weights),
+                                        1e-5, problem);
     };
     const auto circle = sample(0.0F, 1.0F);
     ASSERT_GT(circle.size(), 30U);
@@ -553,14 +550,14 @@ TEST(Nurbs, RefusesNonsense) {
     using N = VEKPrtNURBSElt;
     const float b = 1.0F;
     std::string problem;
-    EXPECT_FALSE(SampleNurbs(N(3, 3, points, knots, 0, b, ones), 0.1, problem).empty());
+    EXPECT_FALSE(vekprt::svg::SampleNurbs(N(3, 3, points, knots, 0, b, ones), 0.1, problem).empty());
     for (const auto& curve :
          {Make<N>(), Make<N>(4, 3, points, knots, 0.0F, b, ones),
           Make<N>(-3, 3, points, knots, 0.0F, b, ones), Make<N>(3, 3, points, decreasing, 0.0F, b, ones),
           Make<N>(3, 3, points, knots, 0.0F, b, zero), Make<N>(3, 3, infinite, knots, 0.0F, b, ones),
           Make<N>(3, 3, points, knots, b, 0.0F, ones)}) {
         problem.clear();
-        EXPECT_TRUE(SampleNurbs(*curve, 0.1, problem).empty());
+        EXPECT_TRUE(vekprt::svg::SampleNurbs(*curve, 0.1, problem).empty());
         EXPECT_NE(problem, "");
     }
 }
