@@ -149,6 +149,32 @@ TYPED_TEST(EveryHolder, LooksAtTheSourcesListWhenTheOldMembersAreGone) {
     ReleaseMissed<TypeParam>(second);
 }
 
+TYPED_TEST(EveryHolder, LooksAtItsOwnListAfterEachMember) {
+    using Member = MemberOf<TypeParam>;
+    struct Joining : Member {
+        TypeParam* holder = nullptr;
+        unsigned long AddRef() override {
+            if (holder) *holder = *Make<TypeParam>();
+            return Member::AddRef();
+        }
+    };
+    const auto a = Named<Member>("a");
+    auto dying = Make<TypeParam>();
+    AddDying(*dying, *a, [&a, &holder = *dying] { AddTo(holder, a.Get()); });
+    dying = VEKRef<TypeParam>();
+    EXPECT_EQ(Count(a), 1UL) << "what was added meanwhile is given back";
+
+    const auto holder = Make<TypeParam>();
+    AddTo(*holder, a.Get());
+    const auto joining = Make<Joining>();
+    joining->SetID("joining");
+    joining->holder = holder.Get();
+    AddTo(*holder, joining.Get());
+    joining->holder = nullptr;
+    EXPECT_EQ(IdsIn(*holder), "joining") << "added to the list that replaced the old one";
+    ReleaseMissed<TypeParam>(a);
+}
+
 TYPED_TEST(EveryContainer, DuplicateIsStoredBeforeItsChildren) {
     const auto container = Make<TypeParam>();
     const auto witness = Make<Duplicating>();
