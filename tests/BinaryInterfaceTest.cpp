@@ -1,4 +1,4 @@
-// What other binaries rely on, with the reference framework: sizes, slots of virtual functions, signatures.
+// What other binaries are compiled against, with the reference framework: sizes, slots, signatures.
 #include <cstring>
 
 #include "TestSupport.h"

@@ -50,7 +50,7 @@ TYPED_TEST(EveryRecord, KeepsComparesAndCopiesItsFields) {
     });
 }
 
-// Pairs of array and count, in the order of the kinds' fields: what debuggers and other compilers rely on.
+// Pairs of array and count in the order of the kinds' fields, as debuggers and other compilers see them.
 TEST(Transform, KeepsItsLayout) {
     const Transform transform = OneOfEach();
     struct Pair {

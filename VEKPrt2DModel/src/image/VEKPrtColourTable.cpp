@@ -65,8 +65,8 @@ int VEKPrtColourTable::GetColourCount(int& oCount) const {
 }
 
 // One slot always stays free: the arrays grow when a single one is left, the last is used only after a growth
-// has failed (ColourTableFailure.CapacityStaysRaised).  Where a failed growth has left the capacity above what
-// the arrays hold, the next addition that does not fit takes arrays of the capacity as it stands.
+// has failed (ColourTableFailure.CapacityStaysRaised).  Where a failed growth has left the capacity above
+// what the arrays hold, the next addition that does not fit takes arrays of the capacity as it stands.
 int VEKPrtColourTable::AddColour(unsigned char iRed, unsigned char iGreen, unsigned char iBlue,
                                  unsigned int& oIndex) {
     if (_count + 1 >= _capacity) {
