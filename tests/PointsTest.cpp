@@ -173,7 +173,8 @@ TEST(PolyPolygon, CopiesWhatIsThere) {
     *target = *std::as_const(target).Get();
     for (const auto& copy : {target, Make<P>(*source), Duplicated(*source)})
         EXPECT_EQ(PolygonsOf(*copy), g_three);
-    const int zero[] = {0}, cancelling[] = {2, -2};
+    const int zero[] = {0}, one[] = {1}, cancelling[] = {2, -2};
+    EXPECT_EQ(PolygonsOf(P(P(g_five, one, 1))), (Polygons{{1, 2}, {1}, 1}));
     *target = *Make<P>(g_five, zero, 1);
     EXPECT_EQ(PolygonsOf(*target), (Polygons{g_null, g_noCounts, 0})) << "a source without a point array";
     const auto other = Make<P>();
