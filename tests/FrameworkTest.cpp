@@ -146,22 +146,31 @@ TEST(Values, CompareExactly) {
 
 TEST(PixelImage, ClonesOrYieldsNull) {
     const auto image = Make<VEKPixelImage>(3, 2);
-    image->SetPixel(2, 1, 1, 2, 3, 4);
-    image->SetPixel(3, 1, 9, 9, 9);
+    image->SetPixel(0, 0, 1, 2, 3);
+    image->SetPixel(2, 1, 4, 5, 6, 7);
+    for (const int outside : {-1, 3})
+        image->SetPixel(outside, 1, 9, 9, 9);
     const auto copy = VEKRef<VEKPixelImage>::Adopt(image->Clone());
-    EXPECT_EQ(copy->GetRow(1)[11], 4);
-    for (const int outside : {-1, 2}) {
-        image->SetPixel(outside * 2, 0, 9, 9, 9);
-        EXPECT_EQ(copy->GetRow(outside), nullptr) << outside;
-        EXPECT_EQ(std::as_const(*copy).GetRow(outside), nullptr) << outside;
+    std::vector<unsigned char> pixels = {1, 2, 3, 255};
+    pixels.resize(5 * 4);
+    pixels.insert(pixels.end(), {4, 5, 6, 7});
+    for (const auto& held : {image, copy}) {
+        const unsigned char* const first = std::as_const(*held).GetRow(0);
+        EXPECT_EQ(std::vector<unsigned char>(first, first + 24), pixels);
+        EXPECT_EQ(held->GetRow(1), first + 12);
+        for (const int outside : {-1, 2}) {
+            EXPECT_EQ(held->GetRow(outside), nullptr) << outside;
+            EXPECT_EQ(std::as_const(*held).GetRow(outside), nullptr) << outside;
+        }
     }
-    EXPECT_EQ(std::as_const(*copy).GetRow(1), copy->GetRow(1));
-    const auto none = Make<VEKPixelImage>(0, 0);
-    EXPECT_EQ(VEKRef<VEKPixelImage>::Adopt(none->Clone())->GetWidth(), 0);
     for (const long nth : {0L, 1L})
         WithFault(nth, [&] { EXPECT_EQ(image->Clone(), nullptr); });
-    EXPECT_EQ(Make<VEKPixelImage>(INT_MAX, INT_MAX)->GetWidth(), 0);
-    EXPECT_EQ(Make<VEKPixelImage>(5, -1)->GetHeight(), 0);
+    for (const auto& [width, height] :
+         {std::pair(0, 0), std::pair(0, 5), std::pair(5, 0), std::pair(5, -1), std::pair(INT_MAX, INT_MAX)}) {
+        const auto none = VEKRef<VEKPixelImage>::Adopt(Make<VEKPixelImage>(width, height)->Clone());
+        EXPECT_EQ(none->GetWidth() + none->GetHeight(), 0) << width;
+    }
+    WithFault(1, [] { EXPECT_EQ(Make<VEKPixelImage>(3, 2)->GetWidth(), 0); });
 }
 
 // In a process of its own, in which no class is registered yet.

@@ -296,11 +296,11 @@ TEST(NURBS, CopiesResetTheBounds) {
 // Each argument is judged by the first element that is read.  The new points come to lie where the old knots
 // were.
 TEST(NURBS, ReadsOwnArraysBeforeTheyGo) {
-    const auto curve = Make<VEKPrtNURBSElt>(2, 2, g_points, g_knots, 0.0F, 1.0F, g_weights);
+    const auto curve = Make<VEKPrtNURBSElt>(3, 2, g_points, g_knots, 0.0F, 1.0F, g_weights);
     const NurbsData old = DataOf(*curve);
     const double points[] = {5, 6, 7, 8};
-    curve->SetParameters(2, 2, points, old.knots - 1, 0.0F, 1.0F, old.weights - 1);
-    ExpectNurbs(*curve, {5, 6, 7, 8}, {10, 11, 12, 13}, {20, 21}, 2, 2, 0.0F, 1.0F);
+    curve->SetParameters(3, 2, points, old.knots - 1, 0.0F, 1.0F, old.weights - 1);
+    ExpectNurbs(*curve, {5, 6, 7, 8}, {10, 11, 12, 13, 14}, {20, 21}, 3, 2, 0.0F, 1.0F);
     // An array of one knot holds nothing from its second element on.
     const auto least = Make<VEKPrtNURBSElt>(0, 1, g_points, g_knots, 0.0F, 1.0F, g_weights);
     const std::unique_ptr<double[]> knots(DataOf(*least).knots);

@@ -1,5 +1,7 @@
 #include "TestSupport.h"
 
+#include <malloc.h>
+
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
@@ -48,6 +50,7 @@ bool MustFail() {
 void* Allocate(std::size_t iSize) noexcept {
     ++g_allocations;
     void* const block = MustFail() ? nullptr : std::malloc(iSize ? iSize : 1);
+    if (block) std::memset(block, 0xA5, iSize); // what is read too early shows
     g_blocks += block ? 1 : 0;
     g_peak = std::max(g_peak, g_blocks);
     return block;
@@ -55,6 +58,7 @@ void* Allocate(std::size_t iSize) noexcept {
 
 void Deallocate(void* iBlock) noexcept {
     g_blocks -= iBlock ? 1 : 0;
+    if (iBlock) std::memset(iBlock, 0x5A, malloc_usable_size(iBlock)); // what is read too late, too
     std::free(iBlock);
 }
 

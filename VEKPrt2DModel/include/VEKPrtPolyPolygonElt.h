@@ -69,7 +69,7 @@ private:
     VEKPrtStrokeAttributes _stroke;
     VEKPrtFillAttributes _fill;
     VEKPrtTransformAttributes _transform;
-    // How many points the array holds: the counts are open to the client.
+    // How many points the array holds, if there is one: the counts are open to the client.
     long long _pointsHeld = 0;
 };
 

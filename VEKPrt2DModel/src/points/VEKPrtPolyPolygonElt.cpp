@@ -48,13 +48,12 @@ long long VEKPrtPolyPolygonElt::MakeCounts(const int* iCounts, long long iReadab
 template <class Coordinate>
 void VEKPrtPolyPolygonElt::MakePoints(long long iTotal, const Coordinate* iPoints, long long iReadable) {
     _points = vekprt::NewCopy<double>(2 * iTotal, iPoints, iReadable);
-    _pointsHeld = _points ? iTotal : 0;
+    _pointsHeld = iTotal;
 }
 
 void VEKPrtPolyPolygonElt::CopyOwn(const VEKPrtPolyPolygonElt& iOther) {
     vekprt::DeleteArray(_points);
     vekprt::DeleteArray(_counts);
-    _pointsHeld = 0;
     _polygonCount = iOther._points && iOther._counts ? iOther._polygonCount : 0;
     if (_polygonCount > 0) {
         const std::int64_t total = MakeCounts(iOther._counts, _polygonCount);
@@ -78,7 +77,6 @@ void VEKPrtPolyPolygonElt::SetPoints(const double* iPoints, const int* iCounts, 
     vekprt::OutgoingArray<int> oldCounts(_counts, _polygonCount);
     if (!oldPoints.Holds(iPoints)) oldPoints.Free();
     if (!oldCounts.Holds(iCounts)) oldCounts.Free();
-    _pointsHeld = 0;
     _polygonCount = iPolygonCount;
     const std::int64_t total = MakeCounts(iCounts, oldCounts.CountReadable(iCounts, iPolygonCount));
     MakePoints(total, iPoints, oldPoints.CountReadable(iPoints, 2 * total));
