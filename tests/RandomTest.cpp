@@ -612,7 +612,7 @@ private:
                 ASSERT_EQ(count, iNode.points.count);
                 ASSERT_EQ(points != nullptr, iNode.points.there);
                 if (!points) return;
-                EXPECT_EQ(std::vector<double>(points, points + 2 * count), iNode.points.values);
+                EXPECT_EQ(std::vector<double>(points, points + 2LL * count), iNode.points.values);
             } else if constexpr (std::is_same_v<T, VEKPrtImageElt>) {
                 VEKPrtColourTable* table = nullptr;
                 int colours = 0;

@@ -215,10 +215,9 @@ TEST(Fill, SharesItsImageByCount) {
     assigned = fill;
     assigned = fill;
     EXPECT_EQ(Count(image), 3UL);
-    {
-        const Fill copy(fill);
-        EXPECT_EQ(Count(image), 4UL);
-    }
+    auto copy = std::make_unique<Fill>(fill);
+    EXPECT_EQ(Count(image), 4UL);
+    copy.reset();
     fill.SetPattern(Make<VEKPixelImage>(1, 1).Get(), a, b);
     fill.SetPattern(ImageOf(fill), a, b);
     EXPECT_EQ(Count(ImageOf(fill)), 1UL) << "the sole reference survives";

@@ -85,7 +85,7 @@ struct Page {
     std::string String(const std::string& iPath) { return Read().String(iPath); }
     template <class Element, class... Arguments>
     VEKRef<Element> Add(Arguments&&... iArguments) {
-        const auto element = Make<Element>(std::forward<Arguments>(iArguments)...);
+        auto element = Make<Element>(std::forward<Arguments>(iArguments)...);
         image->AddChild(element.Get());
         return element;
     }
@@ -100,7 +100,7 @@ void AddTwice(Container& ioContainer, VEKPrtGraphicPrimitiveElt* iChild) {
 
 // A group in which each of these kinds of transform stands with its value.
 VEKRef<VEKPrtGroupElt> TransformedGroup(std::initializer_list<std::pair<int, double>> iTransforms) {
-    const auto group = Make<VEKPrtGroupElt>();
+    auto group = Make<VEKPrtGroupElt>();
     Transform transform;
     for (const auto& [kind, value] : iTransforms)
         g_kinds[kind].add(transform, value);
@@ -369,7 +369,7 @@ TEST(Svg, WritesAgainWhatDependsOnThePlace) {
         AddTwice(*page.image, &ioElement);
         const Document document = page.Read();
         EXPECT_EQ(page.warnings, "");
-        const std::set<std::string> values = document.All(iPath);
+        std::set<std::string> values = document.All(iPath);
         EXPECT_EQ(document.Count(iPath), static_cast<int>(values.size())) << iPath;
         return values;
     };
