@@ -156,6 +156,7 @@ TEST(PolyPolygon, HoldsPointsAndCounts) {
     EXPECT_EQ(PolygonsOf(P()), (Polygons{g_null, g_noCounts, 0}));
     const float narrow[] = {1, 2, 3, 4, 5, 6};
     EXPECT_EQ(PolygonsOf(P(narrow, g_counts, 2)), g_three);
+    EXPECT_EQ(PolygonsOf(P(narrow, cancelling, 2)), (Polygons{g_null, {2, -2}, 2}));
     WithFault(1, [&] { EXPECT_EQ(std::get<1>(PolygonsOf(P(g_five, huge, 2)))[1], INT_MAX); });
 }
 
@@ -174,7 +175,7 @@ TEST(PolyPolygon, CopiesWhatIsThere) {
     for (const auto& copy : {target, Make<P>(*source), Duplicated(*source)})
         EXPECT_EQ(PolygonsOf(*copy), g_three);
     const int zero[] = {0}, one[] = {1}, cancelling[] = {2, -2};
-    EXPECT_EQ(PolygonsOf(P(P(g_five, one, 1))), (Polygons{{1, 2}, {1}, 1}));
+    EXPECT_EQ(PolygonsOf(*Make<P>(*Make<P>(g_five, one, 1))), (Polygons{{1, 2}, {1}, 1}));
     *target = *Make<P>(g_five, zero, 1);
     EXPECT_EQ(PolygonsOf(*target), (Polygons{g_null, g_noCounts, 0})) << "a source without a point array";
     const auto other = Make<P>();
@@ -278,7 +279,8 @@ TEST(NURBS, CopiesResetTheBounds) {
         const NurbsData data = DataOf(*target);
         EXPECT_EQ(data.count, 2);
         EXPECT_EQ(!data.points + 2 * !data.knots + 4 * !data.weights, 1 << nth) << "the others stay";
-        EXPECT_EQ((data.points ? data.points[0] : 0) + (data.knots ? data.knots[0] : 0), 0.0) << "uncopied";
+        for (const double* const array : {data.points, data.knots, data.weights})
+            EXPECT_EQ(array ? array[0] : 0.0, 0.0) << "uncopied";
         ExpectNurbs(*Make<N>(*target), g_null, g_null, g_null, 3, 0, 0.0F, 1.0F);
         WithFault(nth, [&] { target->SetParameters(3, 2, g_points, g_knots, 0.0F, 1.0F, g_weights); });
         const double* const got = nth == 0 ? DataOf(*target).knots : DataOf(*target).points;
