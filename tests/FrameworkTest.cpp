@@ -148,8 +148,8 @@ TEST(PixelImage, ClonesOrYieldsNull) {
     const auto image = Make<VEKPixelImage>(3, 2);
     image->SetPixel(0, 0, 1, 2, 3);
     image->SetPixel(2, 1, 4, 5, 6, 7);
-    for (const int outside : {-1, 3})
-        image->SetPixel(outside, 1, 9, 9, 9);
+    image->SetPixel(-1, 1, 9, 9, 9);
+    image->SetPixel(3, 0, 9, 9, 9);
     const auto copy = VEKRef<VEKPixelImage>::Adopt(image->Clone());
     std::vector<unsigned char> pixels = {1, 2, 3, 255};
     pixels.resize(5 * 4);
@@ -158,6 +158,7 @@ TEST(PixelImage, ClonesOrYieldsNull) {
         const unsigned char* const first = std::as_const(*held).GetRow(0);
         EXPECT_EQ(std::vector<unsigned char>(first, first + 24), pixels);
         EXPECT_EQ(held->GetRow(1), first + 12);
+        EXPECT_EQ(std::as_const(*held).GetRow(1), first + 12);
         for (const int outside : {-1, 2}) {
             EXPECT_EQ(held->GetRow(outside), nullptr) << outside;
             EXPECT_EQ(std::as_const(*held).GetRow(outside), nullptr) << outside;
