@@ -57,6 +57,10 @@ TEST(BaseUnknown, NewYieldsNullWhenAllocationFails) {
     WithFault(0, [&] { other = new (std::nothrow) VEKPrtLineElt; });
     EXPECT_EQ(line, nullptr);
     EXPECT_EQ(other, nullptr);
+    struct Throwing : VEKBaseUnknown {
+        Throwing() { throw 1; }
+    };
+    EXPECT_THROW(new (std::nothrow) Throwing, int) << "and leaves no block behind";
 }
 
 TEST(Registration, OfOneClassHappensOnce) {
@@ -88,6 +92,7 @@ TEST(RawColl, PositionsCountFromOneAndGapsClose) {
     EXPECT_EQ(collection.Locate(values, 2), 6);
     EXPECT_EQ(collection.Locate(&collection), 0);
     EXPECT_EQ(collection.Locate(values, -7), 1);
+    EXPECT_EQ(collection.Locate(values, 99), 0);
     for (const int position : {0, 7, 2})
         collection.RemovePosition(position);
     EXPECT_EQ(collection.Size(), 5);
