@@ -151,7 +151,7 @@ TEST(Values, CompareExactly) {
 
 TEST(PixelImage, ClonesOrYieldsNull) {
     std::vector<unsigned char> pixels = {1, 2, 3, 255};
-    pixels.resize(5 * 4);
+    pixels.resize(20);
     pixels.insert(pixels.end(), {4, 5, 6, 7});
     const auto image = Make<VEKPixelImage>(3, 2), upright = Make<VEKPixelImage>(2, 3);
     for (const auto& original : {image, upright}) {
