@@ -204,6 +204,20 @@ TYPED_TEST(EveryContainer, SurvivesLosingItsListWhileItIsDuplicated) {
     last->Release();
 }
 
+TEST(Image, HasNoColourTableWhileItsChildrenGo) {
+    auto page = Make<VEKPrtImageElt>();
+    page->SetColourTable(new VEKPrtColourTable);
+    auto child = Make<Dying<VEKPrtLineElt>>();
+    child->last = [&holder = *page](auto&) {
+        VEKPrtColourTable* table = nullptr;
+        holder.GetColourTable(table);
+        EXPECT_EQ(table, nullptr);
+    };
+    page->AddChild(child.Get());
+    child = VEKRef<Dying<VEKPrtLineElt>>();
+    page = VEKRef<VEKPrtImageElt>();
+}
+
 TEST(Model, CopiesTheDataWordsByAssignmentOnly) {
     const auto model = Make<VEKPrtModel>(), assigned = Make<VEKPrtModel>();
     model->SetImpl(&*model);

@@ -57,6 +57,9 @@ TYPED_TEST(EveryPointArray, ConstructsFromLists) {
                  : readsFromZero<TypeParam> ? Values{0, 0, 1, 2, 0, 0}
                                             : Values{1, 2, 0, 0, 3, 4});
     WithFault(0, [&] { ExpectPoints(TypeParam(list), rounds ? 2 : 3, g_null, "no array"); });
+    for (const int position : {3, 2})
+        list.RemovePosition(position);
+    if (!rounds) ExpectPoints(TypeParam(list), 1, readsFromZero<TypeParam> ? Values{0, 0} : Values{1, 2});
     static_assert(std::is_convertible<const VEKListPtrVEKMathPoint2D&, TypeParam>::value, "clients convert");
 }
 

@@ -160,6 +160,17 @@ TEST(Transform, ReplaysFromPresets) {
     EXPECT_TRUE(target == expected);
 }
 
+// A first addition that failed leaves a count, which copies take along: it shows once a kind is added.
+TEST(Transform, CopiesTheCountOfLostValues) {
+    for (const int kind : g_anyOrder) {
+        Transform source, target;
+        WithFault(0, [&] { EXPECT_EQ(g_kinds[kind].add(source, 1.0), -1); });
+        target = source;
+        EXPECT_EQ(target.AddTransform(static_cast<VEKPrintTransformType>(kind)), 1);
+        EXPECT_TRUE(g_kinds[kind].get(target, 0)) << g_kinds[kind].name << ", a blank one";
+    }
+}
+
 TEST(Transform, ReplaysNothingWithoutItsListOfKinds) {
     const DemandedLeak leak(0, 1);
     Transform transform, target;
