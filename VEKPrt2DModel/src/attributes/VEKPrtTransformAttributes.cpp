@@ -16,8 +16,8 @@ VEKMathVector2D Blank() {
     return VEKMathVector2D(0.0, 0.0);
 }
 
-// Appends to ioTarget the transform at iIndex of iSource.  A derived record's Get may leave
-// the preset untouched; it is then what is appended.
+// Appends to ioTarget the transform at iIndex of iSource.  A derived record's Get may leave the preset
+// untouched; it is then what is appended.
 template <class Value, class Parameter>
 int Replay(const VEKPrtTransformAttributes& iSource, unsigned int iIndex, VEKPrtTransformAttributes& ioTarget,
            int (VEKPrtTransformAttributes::*iGet)(unsigned int, Value&) const,
