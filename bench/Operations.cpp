@@ -11,6 +11,9 @@
 #include "VEKPrtPolylineElt.h"
 #include "VEKRef.h"
 
+using vekprt::Make;
+using vekprt::VEKRef;
+
 namespace {
 
 template <class T>

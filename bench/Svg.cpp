@@ -13,6 +13,9 @@
 #include "VEKPrtSymbolElt.h"
 #include "VEKRef.h"
 
+using vekprt::Make;
+using vekprt::VEKRef;
+
 namespace {
 
 VEKRef<VEKPrtModel> NewModel(VEKRef<VEKPrtImageElt>& oPage) {
@@ -39,7 +42,7 @@ void Write(benchmark::State& ioState, const VEKPrtModel& iModel, double iParts) 
     for (auto _ : ioState) {
         std::ostringstream stream;
         const double seconds = Seconds([&] {
-            if (!WriteSvg(iModel, 1, stream)) ioState.SkipWithError("the page is not written");
+            if (!vekprt::WriteSvg(iModel, 1, stream)) ioState.SkipWithError("the page is not written");
         });
         nanoseconds.push_back(seconds * 1e9 / iParts);
         bytes = stream.str().size();

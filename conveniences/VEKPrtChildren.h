@@ -1,27 +1,26 @@
-// The members of a list, for range-based loops.
+// The members of lists, for range-based loops, and where they are inserted.
 #ifndef VEKPrtChildren_H
 #define VEKPrtChildren_H
 
 #include <cstddef>
 #include <iterator>
-#include <utility>
 
 #include "VEKListPtrVEKPrtClosedFigureRegionElt.h"
 #include "VEKListPtrVEKPrtGraphicPrimitiveElt.h"
 #include "VEKListPtrVEKPrtImageElt.h"
-#include "VEKPrtClosedFigureElt.h"
-#include "VEKPrtClosedFigureRegionElt.h"
-#include "VEKPrtImageElt.h"
+#include "VEKPrtElements.h"
 #include "VEKPrtModel.h"
+
+namespace vekprt {
 
 /// The members of a list that are not null, in order.  Null, for a holder that has no list, is no members.
 ///
-/// Borrows the list, and adds no references.  Members appended while a loop runs are not seen by it; after
-/// one was removed, the next may be passed over.
+/// Borrows the list, and adds no references.  A loop does not see members that are appended while it runs;
+/// after one was removed, it may pass over the next.
 template <class Member>
 class VEKPrtMembers {
 public:
-    /// A forward iterator; equal to end() behind the last member.
+    /// A forward iterator.
     class Iterator {
     public:
         using iterator_category = std::forward_iterator_tag;
@@ -46,22 +45,23 @@ public:
             ++*this;
             return before;
         }
-        bool operator==(const Iterator& iOther) const {
-            return _member == iOther._member && (!_member || _position == iOther._position);
-        }
+        bool operator==(const Iterator& iOther) const { return _position == iOther._position; }
         bool operator!=(const Iterator& iOther) const { return !(*this == iOther); }
 
     private:
-        // A list that has become shorter yields null for the positions that it lost.
+        // Goes on to the next member from the position on.  A list that has become shorter yields null for
+        // the positions that it lost.
         void FindMember() {
-            for (_member = nullptr; !_member && _position < _end; _position += _member ? 0 : 1)
+            for (; _position < _end; ++_position) {
                 _member = static_cast<Member*>((*_list)[_position]);
+                if (_member) return;
+            }
         }
 
         const VEKRawCollPV* _list;
         int _position;
         int _end;
-        Member* _member = nullptr; // null at the end
+        Member* _member = nullptr;
     };
 
     explicit VEKPrtMembers(const VEKRawCollPV* iList) : _list(iList), _end(iList ? iList->Size() + 1 : 1) {}
@@ -74,41 +74,68 @@ private:
     int _end;
 };
 
-/// The elements of a list.
+/// \name The list of a holder
+///
+/// Lent, and null where there is none.  A holder may be const although its getter is not.
+/// @{
+template <class Container>
+typename std::enable_if<HasChildren<Container>::value, VEKListPtrVEKPrtGraphicPrimitiveElt*>::type
+ListOf(const Container& iContainer) {
+    VEKListPtrVEKPrtGraphicPrimitiveElt* children = nullptr;
+    const_cast<Container&>(iContainer).GetChildren(children);
+    return children;
+}
+inline VEKListPtrVEKPrtClosedFigureRegionElt* ListOf(const VEKPrtClosedFigureElt& iFigure) {
+    VEKListPtrVEKPrtClosedFigureRegionElt* regions = nullptr;
+    const_cast<VEKPrtClosedFigureElt&>(iFigure).GetChildren(regions);
+    return regions;
+}
+inline VEKListPtrVEKPrtImageElt* ListOf(const VEKPrtModel& iModel) {
+    VEKListPtrVEKPrtImageElt* images = nullptr;
+    iModel.GetImages(images);
+    return images;
+}
+/// @}
+
+/// \name What a list holds
+/// @{
 inline VEKPrtMembers<VEKPrtGraphicPrimitiveElt> MembersOf(const VEKListPtrVEKPrtGraphicPrimitiveElt* iList) {
     return VEKPrtMembers<VEKPrtGraphicPrimitiveElt>(iList);
 }
-/// The regions of a list.
 inline VEKPrtMembers<VEKPrtClosedFigureRegionElt>
 MembersOf(const VEKListPtrVEKPrtClosedFigureRegionElt* iList) {
     return VEKPrtMembers<VEKPrtClosedFigureRegionElt>(iList);
 }
-/// The pages of a list.
 inline VEKPrtMembers<VEKPrtImageElt> MembersOf(const VEKListPtrVEKPrtImageElt* iList) {
     return VEKPrtMembers<VEKPrtImageElt>(iList);
 }
+/// @}
 
-/// The children of a group, page, pattern, symbol or region.  The container is not const because most of
-/// their getters of children are not.
-template <class Container>
-auto ChildrenOf(Container& ioContainer)
-    -> decltype(ioContainer.GetChildren(std::declval<VEKListPtrVEKPrtGraphicPrimitiveElt*&>()),
-                VEKPrtMembers<VEKPrtGraphicPrimitiveElt>(nullptr)) {
-    VEKListPtrVEKPrtGraphicPrimitiveElt* children = nullptr;
-    ioContainer.GetChildren(children);
-    return MembersOf(children);
+/// The children of a container, the regions of a closed figure, the pages of a model.
+template <class Holder>
+auto ChildrenOf(const Holder& iHolder) -> decltype(MembersOf(ListOf(iHolder))) {
+    return MembersOf(ListOf(iHolder));
 }
-/// The regions of a closed figure.
-inline VEKPrtMembers<VEKPrtClosedFigureRegionElt> ChildrenOf(VEKPrtClosedFigureElt& ioFigure) {
-    VEKListPtrVEKPrtClosedFigureRegionElt* regions = nullptr;
-    ioFigure.GetChildren(regions);
-    return MembersOf(regions);
+
+/// Adds \p iChild at position \p iPosition, from 1; the children from there on move up by one.
+///
+/// References are those of AddChild.  A position past the end appends; what AddChild does not add moves
+/// nothing.
+template <class Holder, class Child>
+void InsertChild(Holder& ioHolder, Child* iChild, int iPosition) {
+    const auto* const before = ListOf(ioHolder);
+    const int count = before ? before->Size() : 0;
+    ioHolder.AddChild(iChild);
+    auto* const list = ListOf(ioHolder);
+    if (!list || list->Size() == count) return;
+    // Removing a position makes room for appending: no allocation can fail here.
+    for (int moved = iPosition; moved <= count; ++moved) {
+        void* const member = (*list)[iPosition];
+        list->RemovePosition(iPosition);
+        list->Append(member);
+    }
 }
-/// The pages of a model.
-inline VEKPrtMembers<VEKPrtImageElt> ChildrenOf(const VEKPrtModel& iModel) {
-    VEKListPtrVEKPrtImageElt* images = nullptr;
-    iModel.GetImages(images);
-    return MembersOf(images);
-}
+
+} // namespace vekprt
 
 #endif

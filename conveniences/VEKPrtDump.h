@@ -4,28 +4,17 @@
 
 #include <ostream>
 
-#include "VEKPrtBitmapImageElt.h"
-#include "VEKPrtCircleElt.h"
-#include "VEKPrtCircularArcElt.h"
+#include "VEKFont.h"
+#include "VEKPixelImage.h"
 #include "VEKPrtColourTable.h"
-#include "VEKPrtDisjointPolylineElt.h"
-#include "VEKPrtEllipseElt.h"
-#include "VEKPrtEllipticalArcElt.h"
-#include "VEKPrtLineElt.h"
-#include "VEKPrtMarkerElt.h"
-#include "VEKPrtNURBSElt.h"
-#include "VEKPrtPolyCubicBezierElt.h"
-#include "VEKPrtPolyPolygonElt.h"
-#include "VEKPrtPolyQuadraticBezierElt.h"
-#include "VEKPrtPolygonElt.h"
-#include "VEKPrtPolylineElt.h"
-#include "VEKPrtRectangleElt.h"
-#include "VEKPrtTextElt.h"
+#include "VEKPrtValues.h"
 #include "VEKPrtWalk.h"
 
 namespace vekprt {
 
-/// Writes " name=value" to the line of an element.
+namespace detail {
+
+// Appends " name=value" to the line of an element.
 class DumpLine {
 public:
     explicit DumpLine(std::ostream& ioStream) : _stream(ioStream) {}
@@ -35,42 +24,62 @@ public:
         _stream << ' ' << iName << '=';
         Write(iValue);
     }
-    /// What a getter yields.
+    // What a getter yields.
     template <class Class, class Value>
     void Get(const char* iName, const Class& iObject, void (Class::*iGet)(Value&) const) {
         Value value;
         (iObject.*iGet)(value);
         Put(iName, value);
     }
-    /// The same, but nothing for what a new object has.
+    // The same, but nothing for what a new object has.
     template <class Class, class Value>
     void Changed(const char* iName, const Class& iObject, void (Class::*iGet)(Value&) const) {
         Value value, initial;
         (iObject.*iGet)(value);
         (Class().*iGet)(initial);
-        if (value != initial) Put(iName, value);
+        if (!(value == initial)) Put(iName, value);
     }
+    // For the getters that are not const.
     template <class Class, class Value>
     void Changed(const char* iName, Class& ioObject, void (Class::*iGet)(Value&)) {
         Value value, initial;
         Class plain;
         (ioObject.*iGet)(value);
         (plain.*iGet)(initial);
-        if (value != initial) Put(iName, value);
+        if (!(value == initial)) Put(iName, value);
     }
-    /// The first values of an array.
-    void Array(const char* iName, const double* iValues, long long iCount) {
-        constexpr long long most = 8;
+    // The first values of an array, and how many there are where that is more.
+    template <class Value>
+    void Array(const char* iName, const Value* iValues, long long iCount) {
+        constexpr long long shown = 8;
         _stream << ' ' << iName << '=' << (iValues ? "" : "none");
-        for (long long i = 0; iValues && i < iCount && i < most; ++i)
+        if (!iValues) return;
+        for (long long i = 0; i < iCount && i < shown; ++i)
             _stream << (i ? "," : "") << iValues[i];
-        if (iValues && iCount > most) _stream << ",...";
+        if (iCount > shown) _stream << ",...(" << iCount << ')';
+    }
+    // " #rrggbb"
+    void Colour(const unsigned char (&iComponents)[3]) {
+        _stream << " #";
+        for (const unsigned component : iComponents)
+            _stream << "0123456789abcdef"[component / 16] << "0123456789abcdef"[component % 16];
+    }
+    void References(const char* iName, VEKBaseUnknown& ioObject) {
+        ioObject.AddRef();
+        Put(iName, ioObject.Release());
     }
 
 private:
     template <class Value>
-    void Write(const Value& iValue) {
+    typename std::enable_if<!std::is_enum<Value>::value>::type Write(const Value& iValue) {
         _stream << iValue;
+    }
+    template <class Value>
+    typename std::enable_if<std::is_enum<Value>::value>::type Write(Value iValue) {
+        if (const char* const name = NameOf(iValue))
+            _stream << name;
+        else
+            _stream << static_cast<int>(iValue);
     }
     void Write(unsigned char iValue) { _stream << static_cast<unsigned>(iValue); }
     void Write(const VEKMathPoint2D& iPoint) { _stream << iPoint.GetX() << ',' << iPoint.GetY(); }
@@ -101,7 +110,7 @@ inline void DumpRecord(DumpLine& ioLine, VEKPrtStrokeAttributes& ioStroke) {
     float* dashes = nullptr;
     unsigned char count = 0;
     ioStroke.GetStrokeTypePattern(dashes, count);
-    if (count > 0) ioLine.Put("stroke.dashes", count);
+    if (count > 0) ioLine.Array("stroke.dashes", dashes, count);
     delete[] dashes;
     ioLine.Changed("stroke.width", ioStroke, &S::GetStrokeWidth);
     ioLine.Changed("stroke.style", ioStroke, &S::GetStrokeStyle);
@@ -115,16 +124,18 @@ inline void DumpRecord(DumpLine& ioLine, VEKPrtFillAttributes& ioFill) {
     ioLine.Changed("fill.colour", ioFill, &F::GetFillColourIndex);
     ioLine.Changed("fill.transparency", ioFill, &F::GetFillColourTransparency);
     VEKPixelImage* image = nullptr;
-    VEKMathVector2D first, second;
+    VEKMathVector2D first, second, none(0.0, 0.0);
     ioFill.GetPattern(image, first, second);
-    if (!image) return;
-    ioLine.Put("fill.first", first);
-    ioLine.Put("fill.second", second);
-    ioLine.Get("fill.reference", ioFill, &F::GetPatternRefPoint);
+    if (image) ioLine.References("fill.image.references", *image);
+    if (!(first == none)) ioLine.Put("fill.first", first);
+    if (!(second == none)) ioLine.Put("fill.second", second);
+    ioLine.Changed("fill.reference", ioFill, &F::GetPatternRefPoint);
 }
 inline void DumpRecord(DumpLine& ioLine, VEKPrtTextAttributes& ioText) {
     using T = VEKPrtTextAttributes;
-    ioLine.Changed("text.font", ioText, &T::GetFont);
+    VEKFont* font = nullptr;
+    ioText.GetFont(font);
+    if (font) ioLine.Put("text.font", VEKUnicodeString(font->GetFamily()));
     ioLine.Changed("text.weight", ioText, &T::GetWeight);
     ioLine.Changed("text.height", ioText, &T::GetHeight);
     ioLine.Changed("text.anchor", ioText, &T::GetAnchor);
@@ -142,10 +153,11 @@ inline void DumpRecord(DumpLine& ioLine, VEKPrtGroupAttributes& ioGroup) {
 }
 // One transform, read back by its position.
 template <class Value>
-void DumpTransform(DumpLine& ioLine, const char* iName, const VEKPrtTransformAttributes& iTransforms,
-                   unsigned iIndex, int (VEKPrtTransformAttributes::*iGet)(unsigned, Value&) const) {
+void DumpTransform(DumpLine& ioLine, const VEKPrtTransformAttributes& iTransforms,
+                   VEKPrintTransformType iKind, unsigned iIndex,
+                   int (VEKPrtTransformAttributes::*iGet)(unsigned, Value&) const) {
     Value value;
-    if ((iTransforms.*iGet)(iIndex, value) == 1) ioLine.Put(iName, value);
+    if ((iTransforms.*iGet)(iIndex, value) == 1) ioLine.Put(NameOf(iKind), value);
 }
 inline void DumpRecord(DumpLine& ioLine, VEKPrtTransformAttributes& ioTransforms) {
     using T = VEKPrtTransformAttributes;
@@ -153,15 +165,16 @@ inline void DumpRecord(DumpLine& ioLine, VEKPrtTransformAttributes& ioTransforms
     VEKPrintTransformType* kinds = nullptr;
     ioTransforms.GetTransformTab(count, kinds);
     for (unsigned i = 0; kinds && i < count; ++i) {
-        // By number: the names of the kinds are the host framework's.
-        switch (static_cast<int>(kinds[i])) {
-        case 0: DumpTransform(ioLine, "matrix", ioTransforms, i, &T::GetMatrix); break;
-        case 1: DumpTransform(ioLine, "translation", ioTransforms, i, &T::GetTranslation); break;
-        case 2: DumpTransform(ioLine, "rotation", ioTransforms, i, &T::GetRotation); break;
-        case 3: DumpTransform(ioLine, "scale-x", ioTransforms, i, &T::GetScaleX); break;
-        case 4: DumpTransform(ioLine, "scale-y", ioTransforms, i, &T::GetScaleY); break;
-        case 5: DumpTransform(ioLine, "skew-x", ioTransforms, i, &T::GetSkewX); break;
-        case 6: DumpTransform(ioLine, "skew-y", ioTransforms, i, &T::GetSkewY); break;
+        switch (kinds[i]) {
+        case transformMatrix: DumpTransform(ioLine, ioTransforms, kinds[i], i, &T::GetMatrix); break;
+        case transformTranslation:
+            DumpTransform(ioLine, ioTransforms, kinds[i], i, &T::GetTranslation);
+            break;
+        case transformRotation: DumpTransform(ioLine, ioTransforms, kinds[i], i, &T::GetRotation); break;
+        case transformScaleX: DumpTransform(ioLine, ioTransforms, kinds[i], i, &T::GetScaleX); break;
+        case transformScaleY: DumpTransform(ioLine, ioTransforms, kinds[i], i, &T::GetScaleY); break;
+        case transformSkewX: DumpTransform(ioLine, ioTransforms, kinds[i], i, &T::GetSkewX); break;
+        case transformSkewY: DumpTransform(ioLine, ioTransforms, kinds[i], i, &T::GetSkewY); break;
         default: ioLine.Put("kind", static_cast<int>(kinds[i]));
         }
     }
@@ -173,197 +186,203 @@ void DumpRecordOf(DumpLine& ioLine, const Element& iElement, void (Element::*iGe
     DumpRecord(ioLine, record);
 }
 
-// Those records that a class may have; each second overload is for the classes without it.
-template <class Element>
-auto DumpStroke(DumpLine& ioLine, const Element& iElement, int)
-    -> decltype(DumpRecordOf(ioLine, iElement, &Element::GetStrokeAttributes)) {
-    DumpRecordOf(ioLine, iElement, &Element::GetStrokeAttributes);
-}
-template <class Element>
-auto DumpFill(DumpLine& ioLine, const Element& iElement, int)
-    -> decltype(DumpRecordOf(ioLine, iElement, &Element::GetFillAttributes)) {
-    ioLine.Changed("draw", iElement, &Element::GetDrawStyle);
-    DumpRecordOf(ioLine, iElement, &Element::GetFillAttributes);
-}
-template <class Element>
-auto DumpTransforms(DumpLine& ioLine, const Element& iElement, int)
-    -> decltype(DumpRecordOf(ioLine, iElement, &Element::GetTransformAttributes)) {
-    DumpRecordOf(ioLine, iElement, &Element::GetTransformAttributes);
-}
-template <class Element>
-void DumpStroke(DumpLine&, const Element&, long) {}
-template <class Element>
-void DumpFill(DumpLine&, const Element&, long) {}
-template <class Element>
-void DumpTransforms(DumpLine&, const Element&, long) {}
+// The geometry of each class, and the records that it alone has; by what a class calls its own functions.
+struct DumpOwn {
+    DumpLine& line;
 
-// What each class has besides: its geometry.
-inline void DumpOwn(DumpLine& ioLine, VEKPrtLineElt& ioElement) {
-    ioLine.Get("start", ioElement, &VEKPrtLineElt::GetStartPoint);
-    ioLine.Get("end", ioElement, &VEKPrtLineElt::GetEndPoint);
-}
-inline void DumpOwn(DumpLine& ioLine, VEKPrtRectangleElt& ioElement) {
-    VEKMathPoint2D first, second;
-    ioElement.GetPoints(first, second);
-    ioLine.Put("first", first);
-    ioLine.Put("second", second);
-}
-inline void DumpOwn(DumpLine& ioLine, VEKPrtCircleElt& ioElement) {
-    ioLine.Get("centre", ioElement, &VEKPrtCircleElt::GetCenter);
-    ioLine.Get("radius", ioElement, &VEKPrtCircleElt::GetRadius);
-}
-inline void DumpOwn(DumpLine& ioLine, VEKPrtCircularArcElt& ioElement) {
-    ioLine.Get("centre", ioElement, &VEKPrtCircularArcElt::GetCenter);
-    ioLine.Get("radius", ioElement, &VEKPrtCircularArcElt::GetRadius);
-    ioLine.Get("start", ioElement, &VEKPrtCircularArcElt::GetStartAngle);
-    ioLine.Get("end", ioElement, &VEKPrtCircularArcElt::GetEndAngle);
-}
-inline void DumpOwn(DumpLine& ioLine, VEKPrtEllipseElt& ioElement) {
-    ioLine.Get("centre", ioElement, &VEKPrtEllipseElt::GetCenter);
-    ioLine.Get("horz", ioElement, &VEKPrtEllipseElt::GetHorzRadius);
-    ioLine.Get("vert", ioElement, &VEKPrtEllipseElt::GetVertRadius);
-    ioLine.Get("slope", ioElement, &VEKPrtEllipseElt::GetSlope);
-}
-inline void DumpOwn(DumpLine& ioLine, VEKPrtEllipticalArcElt& ioElement) {
-    ioLine.Get("centre", ioElement, &VEKPrtEllipticalArcElt::GetCenter);
-    ioLine.Get("horz", ioElement, &VEKPrtEllipticalArcElt::GetHorzRadius);
-    ioLine.Get("vert", ioElement, &VEKPrtEllipticalArcElt::GetVertRadius);
-    ioLine.Get("start", ioElement, &VEKPrtEllipticalArcElt::GetStartAngle);
-    ioLine.Get("end", ioElement, &VEKPrtEllipticalArcElt::GetEndAngle);
-    ioLine.Get("slope", ioElement, &VEKPrtEllipticalArcElt::GetSlope);
-}
-inline void DumpOwn(DumpLine& ioLine, VEKPrtMarkerElt& ioElement) {
-    ioLine.Get("point", ioElement, &VEKPrtMarkerElt::GetPoint);
-    ioLine.Get("size", ioElement, &VEKPrtMarkerElt::GetSize);
-    DumpRecordOf(ioLine, ioElement, &VEKPrtMarkerElt::GetMarkerAttributes);
-}
-inline void DumpOwn(DumpLine& ioLine, VEKPrtTextElt& ioElement) {
-    ioLine.Get("position", ioElement, &VEKPrtTextElt::GetPosition);
-    ioLine.Get("text", ioElement, &VEKPrtTextElt::GetText);
-    DumpRecordOf(ioLine, ioElement, &VEKPrtTextElt::GetTextAttributes);
-}
-inline void DumpOwn(DumpLine& ioLine, VEKPrtBitmapImageElt& ioElement) {
-    double width = 0, height = 0;
-    ioElement.GetSize(width, height);
-    ioLine.Get("origin", ioElement, &VEKPrtBitmapImageElt::GetOrigin);
-    ioLine.Put("width", width);
-    ioLine.Put("height", height);
-    ioLine.Get("orientation", ioElement, &VEKPrtBitmapImageElt::GetOrientation);
-}
-inline void DumpOwn(DumpLine& ioLine, VEKPrtPolyPolygonElt& ioElement) {
-    double* points = nullptr;
-    int *counts = nullptr, polygons = 0;
-    ioElement.GetPoints(points, counts, polygons);
-    long long total = 0;
-    for (int i = 0; counts && i < polygons; ++i)
-        total += counts[i];
-    ioLine.Put("polygons", polygons);
-    ioLine.Array("points", points, 2 * total);
-}
-inline void DumpOwn(DumpLine& ioLine, VEKPrtNURBSElt& ioElement) {
-    int order = 0, count = 0;
-    double *points = nullptr, *knots = nullptr, *weights = nullptr;
-    float first = 0, second = 0;
-    ioElement.GetParameters(order, count, points, knots, first, second, weights);
-    ioLine.Put("order", order);
-    ioLine.Put("count", count);
-    ioLine.Put("first", first);
-    ioLine.Put("second", second);
-    ioLine.Array("points", points, 2LL * count);
-}
-template <class Element>
-void DumpPoints(DumpLine& ioLine, const Element& iElement) {
-    double* points = nullptr;
-    int count = 0;
-    iElement.GetPoints(points, count);
-    ioLine.Put("count", count);
-    ioLine.Array("points", points, 2LL * count);
-}
-inline void DumpOwn(DumpLine& ioLine, VEKPrtPolylineElt& ioElement) { DumpPoints(ioLine, ioElement); }
-inline void DumpOwn(DumpLine& ioLine, VEKPrtPolygonElt& ioElement) { DumpPoints(ioLine, ioElement); }
-inline void DumpOwn(DumpLine& ioLine, VEKPrtDisjointPolylineElt& ioElement) { DumpPoints(ioLine, ioElement); }
-inline void DumpOwn(DumpLine& ioLine, VEKPrtPolyCubicBezierElt& ioElement) { DumpPoints(ioLine, ioElement); }
-inline void DumpOwn(DumpLine& ioLine, VEKPrtPolyQuadraticBezierElt& ioElement) {
-    DumpPoints(ioLine, ioElement);
-}
-inline void DumpOwn(DumpLine& ioLine, VEKPrtGroupElt& ioElement) {
-    DumpRecordOf(ioLine, ioElement, &VEKPrtGroupElt::GetGroupAttributes);
-}
-template <class Element>
-void DumpBox(DumpLine& ioLine, const Element& iElement) {
-    double width = 0, height = 0;
-    iElement.GetSize(width, height);
-    ioLine.Get("origin", iElement, &Element::GetOrigin);
-    ioLine.Put("width", width);
-    ioLine.Put("height", height);
-}
-inline void DumpOwn(DumpLine& ioLine, VEKPrtPatternElt& ioElement) { DumpBox(ioLine, ioElement); }
-inline void DumpOwn(DumpLine& ioLine, VEKPrtSymbolElt& ioElement) { DumpBox(ioLine, ioElement); }
-inline void DumpOwn(DumpLine& ioLine, VEKPrtImageElt& ioElement) {
-    DumpBox(ioLine, ioElement);
-    ioLine.Changed("units", ioElement, &VEKPrtImageElt::GetUnits);
-    ioLine.Changed("matrix", ioElement, &VEKPrtImageElt::GetMatrix);
-    VEKPrtColourTable* table = nullptr;
-    ioElement.GetColourTable(table);
-    int colours = 0;
-    if (table) table->GetColourCount(colours);
-    ioLine.Put("colours", colours);
-}
-inline void DumpOwn(DumpLine&, VEKPrtClosedFigureElt&) {}
-inline void DumpOwn(DumpLine&, VEKPrtClosedFigureRegionElt&) {}
+    void operator()(const VEKPrtLineElt& iElement) const {
+        line.Get("start", iElement, &VEKPrtLineElt::GetStartPoint);
+        line.Get("end", iElement, &VEKPrtLineElt::GetEndPoint);
+    }
+    void operator()(const VEKPrtRectangleElt& iElement) const {
+        VEKMathPoint2D first, second;
+        iElement.GetPoints(first, second);
+        line.Put("first", first);
+        line.Put("second", second);
+    }
+    void operator()(const VEKPrtCircleElt& iElement) const {
+        line.Get("centre", iElement, &VEKPrtCircleElt::GetCenter);
+        line.Get("radius", iElement, &VEKPrtCircleElt::GetRadius);
+    }
+    void operator()(const VEKPrtCircularArcElt& iElement) const {
+        line.Get("centre", iElement, &VEKPrtCircularArcElt::GetCenter);
+        line.Get("radius", iElement, &VEKPrtCircularArcElt::GetRadius);
+        line.Get("start", iElement, &VEKPrtCircularArcElt::GetStartAngle);
+        line.Get("end", iElement, &VEKPrtCircularArcElt::GetEndAngle);
+    }
+    void operator()(const VEKPrtEllipseElt& iElement) const {
+        line.Get("centre", iElement, &VEKPrtEllipseElt::GetCenter);
+        line.Get("horz", iElement, &VEKPrtEllipseElt::GetHorzRadius);
+        line.Get("vert", iElement, &VEKPrtEllipseElt::GetVertRadius);
+        line.Get("slope", iElement, &VEKPrtEllipseElt::GetSlope);
+    }
+    void operator()(const VEKPrtEllipticalArcElt& iElement) const {
+        line.Get("centre", iElement, &VEKPrtEllipticalArcElt::GetCenter);
+        line.Get("horz", iElement, &VEKPrtEllipticalArcElt::GetHorzRadius);
+        line.Get("vert", iElement, &VEKPrtEllipticalArcElt::GetVertRadius);
+        line.Get("start", iElement, &VEKPrtEllipticalArcElt::GetStartAngle);
+        line.Get("end", iElement, &VEKPrtEllipticalArcElt::GetEndAngle);
+        line.Get("slope", iElement, &VEKPrtEllipticalArcElt::GetSlope);
+    }
+    void operator()(const VEKPrtMarkerElt& iElement) const {
+        line.Get("point", iElement, &VEKPrtMarkerElt::GetPoint);
+        line.Get("size", iElement, &VEKPrtMarkerElt::GetSize);
+        DumpRecordOf(line, iElement, &VEKPrtMarkerElt::GetMarkerAttributes);
+    }
+    void operator()(const VEKPrtTextElt& iElement) const {
+        line.Get("position", iElement, &VEKPrtTextElt::GetPosition);
+        line.Get("text", iElement, &VEKPrtTextElt::GetText);
+        DumpRecordOf(line, iElement, &VEKPrtTextElt::GetTextAttributes);
+    }
+    void operator()(const VEKPrtBitmapImageElt& iElement) const {
+        Box(iElement);
+        line.Get("orientation", iElement, &VEKPrtBitmapImageElt::GetOrientation);
+        VEKPixelImage* image = nullptr;
+        iElement.GetPixelImage(image);
+        if (image) line.References("image.references", *image);
+    }
+    void operator()(const VEKPrtPolylineElt& iElement) const { Points(iElement); }
+    void operator()(const VEKPrtPolygonElt& iElement) const { Points(iElement); }
+    void operator()(const VEKPrtDisjointPolylineElt& iElement) const { Points(iElement); }
+    void operator()(const VEKPrtPolyCubicBezierElt& iElement) const { Points(iElement); }
+    void operator()(const VEKPrtPolyQuadraticBezierElt& iElement) const { Points(iElement); }
+    void operator()(const VEKPrtPolyPolygonElt& iElement) const {
+        double* points = nullptr;
+        int *counts = nullptr, polygons = 0;
+        iElement.GetPoints(points, counts, polygons);
+        long long total = 0;
+        for (int i = 0; counts && i < polygons; ++i)
+            total += counts[i];
+        line.Put("polygons", polygons);
+        line.Array("counts", counts, polygons);
+        line.Array("points", points, 2 * total);
+    }
+    // The arrays go with order and count only where all three are there.
+    void operator()(const VEKPrtNURBSElt& iElement) const {
+        int order = 0, count = 0;
+        double *points = nullptr, *knots = nullptr, *weights = nullptr;
+        float first = 0, second = 0;
+        iElement.GetParameters(order, count, points, knots, first, second, weights);
+        const bool whole = points && knots && weights;
+        line.Put("order", order);
+        line.Put("count", count);
+        line.Put("first", first);
+        line.Put("second", second);
+        line.Array("points", whole ? points : nullptr, 2LL * count);
+        line.Array("knots", whole ? knots : nullptr, static_cast<long long>(order) + count);
+        line.Array("weights", whole ? weights : nullptr, count);
+    }
+    void operator()(const VEKPrtGroupElt& iElement) const {
+        DumpRecordOf(line, iElement, &VEKPrtGroupElt::GetGroupAttributes);
+    }
+    void operator()(const VEKPrtPatternElt& iElement) const { Box(iElement); }
+    void operator()(const VEKPrtSymbolElt& iElement) const { Box(iElement); }
+    void operator()(const VEKPrtImageElt& iElement) const {
+        Box(iElement);
+        line.Changed("units", iElement, &VEKPrtImageElt::GetUnits);
+        line.Changed("matrix", iElement, &VEKPrtImageElt::GetMatrix);
+        VEKPrtColourTable* table = nullptr;
+        const_cast<VEKPrtImageElt&>(iElement).GetColourTable(table);
+        int count = 0;
+        if (table) table->GetColourCount(count);
+        line.Put("colours", count);
+        for (unsigned i = 0; table && i < static_cast<unsigned>(count); ++i) {
+            unsigned char rgb[3] = {};
+            table->GetColour(i, rgb[0], rgb[1], rgb[2]);
+            line.Colour(rgb);
+        }
+    }
+    void operator()(const VEKPrtClosedFigureElt&) const {}
+    void operator()(const VEKPrtClosedFigureRegionElt&) const {}
 
-// True if the element is of that class.
-template <class Element>
-bool DumpAs(DumpLine& ioLine, VEKPrtGraphicPrimitiveElt& ioElement) {
-    if (!ioElement.IsAKindOf(Element::ClassName())) return false;
-    auto& element = static_cast<Element&>(ioElement);
-    DumpOwn(ioLine, element);
-    DumpStroke(ioLine, element, 0);
-    DumpFill(ioLine, element, 0);
-    DumpTransforms(ioLine, element, 0);
-    return true;
-}
-// True as soon as one of the classes fits; none has to.
-template <class... Elements>
-bool DumpAsOneOf(DumpLine& ioLine, VEKPrtGraphicPrimitiveElt& ioElement) {
-    bool done = false;
-    const bool each[] = {(done = done || DumpAs<Elements>(ioLine, ioElement))...};
-    return each[0] || done;
-}
+private:
+    template <class Element>
+    void Points(const Element& iElement) const {
+        double* points = nullptr;
+        int count = 0;
+        iElement.GetPoints(points, count);
+        line.Put("count", count);
+        line.Array("points", points, 2LL * count);
+    }
+    template <class Element>
+    void Box(const Element& iElement) const {
+        double width = 0, height = 0;
+        iElement.GetSize(width, height);
+        line.Get("origin", iElement, &Element::GetOrigin);
+        line.Put("width", width);
+        line.Put("height", height);
+    }
+};
+
+// The records that a class may have, by what it has; each second overload is for the classes without.
+struct DumpShared {
+    DumpLine& line;
+
+    template <class Element>
+    void operator()(const Element& iElement) const {
+        Stroke(iElement, HasStroke<Element>());
+        Fill(iElement, HasFill<Element>());
+        Transforms(iElement, HasTransform<Element>());
+    }
+
+private:
+    template <class Element>
+    void Stroke(const Element& iElement, std::true_type) const {
+        DumpRecordOf(line, iElement, &Element::GetStrokeAttributes);
+    }
+    template <class Element>
+    void Fill(const Element& iElement, std::true_type) const {
+        line.Changed("draw", iElement, &Element::GetDrawStyle);
+        DumpRecordOf(line, iElement, &Element::GetFillAttributes);
+    }
+    template <class Element>
+    void Transforms(const Element& iElement, std::true_type) const {
+        DumpRecordOf(line, iElement, &Element::GetTransformAttributes);
+    }
+    template <class Element>
+    void Stroke(const Element&, std::false_type) const {}
+    template <class Element>
+    void Fill(const Element&, std::false_type) const {}
+    template <class Element>
+    void Transforms(const Element&, std::false_type) const {}
+};
 
 inline void DumpElement(std::ostream& ioStream, VEKPrtGraphicPrimitiveElt& ioElement, int iDepth) {
     for (int i = 0; i < iDepth; ++i)
         ioStream << "  ";
-    const char* const name = ioElement.IsA();
+    const VEKPrtGraphicPrimitiveElt& element = ioElement;
+    const char* const name = element.IsA();
     ioStream << (name ? name : "?");
     DumpLine line(ioStream);
-    line.Changed("id", ioElement, &VEKPrtGraphicPrimitiveElt::GetID);
-    ioElement.AddRef();
-    line.Put("references", ioElement.Release());
-    line.Changed("title", ioElement, &VEKPrtGraphicPrimitiveElt::GetTitle);
-    line.Changed("description", ioElement, &VEKPrtGraphicPrimitiveElt::GetDescription);
-    DumpAsOneOf<VEKPrtLineElt, VEKPrtPolylineElt, VEKPrtTextElt, VEKPrtRectangleElt, VEKPrtGroupElt,
-                VEKPrtPolygonElt, VEKPrtPolyPolygonElt, VEKPrtCircleElt, VEKPrtCircularArcElt,
-                VEKPrtEllipseElt, VEKPrtEllipticalArcElt, VEKPrtMarkerElt, VEKPrtBitmapImageElt,
-                VEKPrtDisjointPolylineElt, VEKPrtPolyCubicBezierElt, VEKPrtPolyQuadraticBezierElt,
-                VEKPrtNURBSElt, VEKPrtPatternElt, VEKPrtSymbolElt, VEKPrtClosedFigureElt,
-                VEKPrtClosedFigureRegionElt, VEKPrtImageElt>(line, ioElement);
+    line.Changed("id", element, &VEKPrtGraphicPrimitiveElt::GetID);
+    line.References("references", ioElement);
+    line.Changed("title", element, &VEKPrtGraphicPrimitiveElt::GetTitle);
+    line.Changed("description", element, &VEKPrtGraphicPrimitiveElt::GetDescription);
+    Visit(element, DumpOwn{line});
+    Visit(element, DumpShared{line});
     ioStream << '\n';
 }
 
-} // namespace vekprt
+} // namespace detail
 
-/// Writes a line for each element of \p ioDrawing, a model or an element, indented by depth: class,
+/// Writes a line for each element of \p iDrawing, a model or an element, indented by depth: class,
 /// identifier, reference count, geometry, and of the records what differs from a new one.
 ///
-/// Numbers are formatted as the stream says, enumerations by their values, long arrays by their first
-/// values.  Asks of a framework's strings and links for ToUtf8 and GetURI, too.
-template <class Drawing>
-void Dump(std::ostream& ioStream, Drawing& ioDrawing) {
-    Walk(ioDrawing, [&](VEKPrtGraphicPrimitiveElt& ioElement, int iDepth) {
-        vekprt::DumpElement(ioStream, ioElement, iDepth);
-        return true;
-    });
+/// Numbers are formatted as the stream says, enumerations by their names where they have one, arrays by their
+/// first eight values.  Pixel images are shown by their reference counts, not by their pixels.  Asks of a
+/// framework's classes what docs/framework.md says.
+inline void Dump(std::ostream& ioStream, const VEKPrtGraphicPrimitiveElt& iDrawing) {
+    Walk(const_cast<VEKPrtGraphicPrimitiveElt&>(iDrawing),
+         [&](VEKPrtGraphicPrimitiveElt& ioElement, int iDepth) {
+             detail::DumpElement(ioStream, ioElement, iDepth);
+             return true;
+         });
 }
+inline void Dump(std::ostream& ioStream, const VEKPrtModel& iModel) {
+    for (const VEKPrtImageElt& page : ChildrenOf(iModel))
+        Dump(ioStream, page);
+}
+
+} // namespace vekprt
 
 #endif

@@ -7,13 +7,15 @@
 #include <type_traits>
 #include <utility>
 
+namespace vekprt {
+
 /// Holds one reference on a T and gives it back at the end.
 ///
 /// There are two ways in, and they say which reference it is: Adopt takes over the one that the
 /// caller has (`new`, Duplicate, Clone); Share adds one of its own (a pointer that somebody lent).
 template <class T>
 class VEKRef {
-    /// There for the U whose pointers are pointers to T, too: T itself and what is derived from it.
+    /// Enabled when U* converts to T*.
     template <class U>
     using IfUpcast = typename std::enable_if<std::is_convertible<U*, T*>::value>::type;
 
@@ -83,5 +85,7 @@ VEKRef<T> Make(Arguments&&... iArguments) {
     if (!object) throw std::bad_alloc();
     return VEKRef<T>::Adopt(object);
 }
+
+} // namespace vekprt
 
 #endif

@@ -347,7 +347,7 @@ def find_printer(type_):
     type_ = plain(type_)
     if type_.code != gdb.TYPE_CODE_STRUCT or not type_.name:
         return None
-    if type_.name.startswith("VEKRef<"):
+    if type_.name.startswith("vekprt::VEKRef<"):
         return Reference
     if type_.name in PRINTERS:
         printer, needed = PRINTERS[type_.name]

@@ -136,11 +136,11 @@ TEST(Dump, WritesALineForEachElement) {
     const std::string line = "VEKPrtLineElt id=\"the \\\"line\\\"\" references=4 start=0.5,1 end=2,3 "
                              "stroke.colour=7 stroke.transparency=10\n";
     EXPECT_EQ(text.str(),
-              "VEKPrtImageElt id=\"page\" references=2 origin=1,2 width=30 height=40 units=3 colours=0\n"
+              "VEKPrtImageElt id=\"page\" references=2 origin=1,2 width=30 height=40 units=inch colours=0\n"
               "  VEKPrtGroupElt references=2 rotation=30 translation=1,2\n"
               "    VEKPrtPatternElt references=1 origin=0,0 width=0 height=0\n      " +
                   line + "    VEKPrtSymbolElt references=1 origin=1,2 width=3 height=4\n      " + line +
                   "    VEKPrtClosedFigureElt references=1\n      VEKPrtClosedFigureRegionElt references=1\n" +
                   "        " + line +
-                  "  VEKPrtPolygonElt references=2 count=5 points=1,2,3,4,5,6,7,8,... draw=2\n");
+                  "  VEKPrtPolygonElt references=2 count=5 points=1,2,3,4,5,6,7,8,...(10) draw=both\n");
 }

@@ -15,6 +15,9 @@
 #include "VEKPrtWalk.h"
 #include "VEKRef.h"
 
+using vekprt::Make;
+using vekprt::VEKRef;
+
 namespace {
 
 struct Host {

@@ -11,7 +11,9 @@
 #include "AllElements.h"
 #include "VEKPixelImage.h"
 #include "VEKPrtFillAttributes.h"
-#include "VEKRef.h"
+#include "VEKPrtWalk.h"
+
+using namespace vekprt;
 
 /// Blocks that the process has from any form of operator new.
 long LiveBlocks();
@@ -119,17 +121,6 @@ using ByHolder =
 template <class Holder>
 using MemberOf = ByHolder<Holder, VEKPrtImageElt, VEKPrtClosedFigureRegionElt, VEKPrtGraphicPrimitiveElt>;
 
-/// A holder's list itself; null where there is none.
-template <class Holder>
-auto ListOf(Holder& ioHolder) {
-    ByHolder<Holder, VEKListPtrVEKPrtImageElt, VEKListPtrVEKPrtClosedFigureRegionElt,
-             VEKListPtrVEKPrtGraphicPrimitiveElt>* list = nullptr;
-    if constexpr (isModel<Holder>)
-        ioHolder.GetImages(list);
-    else
-        ioHolder.GetChildren(list);
-    return list;
-}
 template <class Holder>
 void AddTo(Holder& ioHolder, VEKBaseUnknown* iMember) {
     auto* const member = static_cast<MemberOf<Holder>*>(iMember);

@@ -75,7 +75,7 @@ outer
   <Cannot access memory at address 0xabababababababab>
 *(VEKPrtTransformAttributes*)garbage
   <Cannot access memory at address 0xabababababababab>
-*(VEKRef<VEKPrtLineElt>*)garbage
+*(vekprt::VEKRef<VEKPrtLineElt>*)garbage
   <no VEKPrtLineElt: destroyed, or never made>
 *(VEKPrtModel*)garbage
   <no VEKPrtModel: destroyed, or never made>

@@ -172,11 +172,15 @@ void AppendToRegion(SvgPage& ioPage, PathData& ioPath, VEKPrtGraphicPrimitiveElt
 
 } // namespace vekprt::svg
 
+namespace vekprt {
+
 SvgResult WriteSvg(const VEKPrtModel& iModel, int iPage, std::ostream& ioStream, std::ostream& ioWarnings) {
     VEKListPtrVEKPrtImageElt* images = nullptr;
     iModel.GetImages(images);
     auto* const image = images ? static_cast<VEKPrtImageElt*>((*images)[iPage]) : nullptr;
     if (!image) return {SvgResult::NoSuchPage};
-    const bool sound = vekprt::svg::WriteDocument(*image, ioStream, ioWarnings);
+    const bool sound = svg::WriteDocument(*image, ioStream, ioWarnings);
     return {sound ? SvgResult::Written : SvgResult::StreamFailed};
 }
+
+} // namespace vekprt

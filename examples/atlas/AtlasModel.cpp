@@ -118,7 +118,8 @@ std::vector<std::size_t> ColourCountries(const Topology& iTopology) {
 } // namespace
 
 Atlas::Atlas(const Topology& iTopology, const std::string& iTitle, const std::string& iCredit)
-    : _titleFont("DejaVu Serif, serif"), _labelFont("DejaVu Sans, sans-serif"), _model(Make<VEKPrtModel>()) {
+    : _titleFont("DejaVu Serif, serif"), _labelFont("DejaVu Sans, sans-serif"),
+      _model(vekprt::Make<VEKPrtModel>()) {
     AtlasParts parts{iTopology, _titleFont, _labelFont, iCredit, Allowance(mostPositions)};
     std::vector<PageLayout> layouts(1);
     const bool isFitted = FittedPage(iTopology, iTitle, layouts[0]);

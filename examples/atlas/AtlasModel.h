@@ -9,6 +9,8 @@
 #include "VEKPrtModel.h"
 #include "VEKRef.h"
 
+using vekprt::VEKRef;
+
 /// The drawing and what it borrows.
 ///
 /// Text attributes only borrow their fonts, so keep the atlas, and do not move it, until its model and every

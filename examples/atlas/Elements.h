@@ -14,6 +14,9 @@
 #include "VEKPrtTextElt.h"
 #include "VEKRef.h"
 
+using vekprt::Make;
+using vekprt::VEKRef;
+
 class VEKFont;
 
 /// A line by the index of its colour in the page's table and its width in page units.

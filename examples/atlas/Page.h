@@ -12,6 +12,8 @@
 #include "VEKPrtImageElt.h"
 #include "VEKRef.h"
 
+using vekprt::VEKRef;
+
 struct Pen;
 class VEKFont;
 

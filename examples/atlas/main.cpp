@@ -42,14 +42,14 @@ void Run(const fs::path& iInput, const fs::path& iDirectory, const std::string& 
     const auto add = [&](const VEKPrtModel& iModel, int iPage, VEKPrtImageElt& ioPage,
                          const std::string& iName) {
         int count = 0;
-        Walk(ioPage, [&](VEKPrtGraphicPrimitiveElt&, int) { return ++count > 0; });
+        vekprt::Walk(ioPage, [&](VEKPrtGraphicPrimitiveElt&, int) { return ++count > 0; });
         const fs::path path = iDirectory / (iName + ".svg");
         files.AddSvg(path, iModel, iPage);
         report << count << " elements  " << path.string() << '\n';
         total += count;
     };
     int number = 0;
-    for (VEKPrtImageElt& page : ChildrenOf(atlas.Model())) {
+    for (VEKPrtImageElt& page : vekprt::ChildrenOf(atlas.Model())) {
         VEKUnicodeString name;
         page.GetID(name);
         add(atlas.Model(), ++number, page, name.ToUtf8());
@@ -57,9 +57,9 @@ void Run(const fs::path& iInput, const fs::path& iDirectory, const std::string& 
         // The first page is written again from a duplicate, which shares nothing with it but its fonts.
         VEKPrtGraphicPrimitiveElt* copy = nullptr;
         page.Duplicate(copy);
-        const auto duplicate = VEKRef<VEKPrtImageElt>::Adopt(static_cast<VEKPrtImageElt*>(copy));
+        const auto duplicate = vekprt::VEKRef<VEKPrtImageElt>::Adopt(static_cast<VEKPrtImageElt*>(copy));
         if (!duplicate) throw std::bad_alloc();
-        const auto model = Make<VEKPrtModel>();
+        const auto model = vekprt::Make<VEKPrtModel>();
         model->AddImage(duplicate.Get());
         add(*model, 1, *duplicate, name.ToUtf8() + std::string("-duplicate"));
     }

@@ -27,7 +27,7 @@ FileSet::~FileSet() {
 
 void FileSet::AddSvg(const fs::path& iPath, const VEKPrtModel& iModel, int iPage) {
     std::ostringstream svg;
-    if (!WriteSvg(iModel, iPage, svg) || !svg) Fail(iPath, "the page cannot be drawn as SVG");
+    if (!vekprt::WriteSvg(iModel, iPage, svg) || !svg) Fail(iPath, "the page cannot be drawn as SVG");
     _files.push_back({iPath, svg.str(), {}, {}});
 }
 

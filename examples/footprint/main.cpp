@@ -8,6 +8,9 @@
 #include "VEKPrtDump.h" // and with it all element classes
 #include "VEKRef.h"
 
+using vekprt::Make;
+using vekprt::VEKRef;
+
 namespace {
 
 long g_allocations = 0;

@@ -7,6 +7,8 @@
 #include "VEKPrtModel.h"
 #include "VEKRef.h"
 
+using namespace vekprt;
+
 int main() {
     const auto model = VEKRef<VEKPrtModel>::Adopt(new VEKPrtModel);
     const auto page = VEKRef<VEKPrtImageElt>::Adopt(new VEKPrtImageElt);

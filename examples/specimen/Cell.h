@@ -11,6 +11,9 @@
 #include "VEKPrtTextElt.h"
 #include "VEKRef.h"
 
+using vekprt::Make;
+using vekprt::VEKRef;
+
 using Point = VEKMathPoint2D;
 
 constexpr double pi = 3.14159265358979323846;

@@ -8,6 +8,8 @@
 #include "VEKPrtModel.h"
 #include "VEKRef.h"
 
+using vekprt::VEKRef;
+
 /// A model of one page, and the fonts that its texts borrow: keep both until the page is plotted.
 struct Specimen {
     std::unique_ptr<VEKFont> sans;

@@ -7,7 +7,9 @@
 
 class VEKPrtModel;
 
-/// What became of a page; true where a condition is asked for when the whole of it was written.
+namespace vekprt {
+
+/// Result of WriteSvg; converts to true when the whole page was written.
 struct SvgResult {
     /// How much of it was written.
     enum Status {
@@ -65,5 +67,7 @@ struct SvgResult {
 ///   reached.
 SvgResult WriteSvg(const VEKPrtModel& iModel, int iPage, std::ostream& ioStream,
                    std::ostream& ioWarnings = std::cerr);
+
+} // namespace vekprt
 
 #endif
