@@ -15,14 +15,14 @@ COUNTED = {"VEKPrtGraphicPrimitiveElt", "VEKPrtModel", "VEKPixelImage"}
 # What an element is called by.
 NAMES = [("", "_id"), (", title", "_title"), (", description", "_description")]
 
-# The arrays that objects own: columns, and the fields that add up to the number of rows.
+# The arrays that objects own: columns, and the fields (an array by its entries) that add up to the number of rows.
 ARRAYS = {
     "_points": (2, ["_count"]),
-    "VEKPrtPolyPolygonElt._points": (2, ["_pointsHeld"]),
+    "VEKPrtPolyPolygonElt._points": (2, ["_counts"]),
     "_counts": (1, ["_polygonCount"]),
-    "_controlPoints": (2, ["_heldCount"]),
-    "_knots": (1, ["_heldOrder", "_heldCount"]),
-    "_weights": (1, ["_heldCount"]),
+    "_controlPoints": (2, ["_count"]),
+    "_knots": (1, ["_order", "_count"]),
+    "_weights": (1, ["_count"]),
     "_pattern": (1, ["_patternLength"]),
 }
 
@@ -95,6 +95,14 @@ def pointee(value):
     return value.cast(gdb.lookup_type("void").pointer()) if value.type.target().sizeof == 1 else value
 
 
+def total(owner, class_, name):
+    """A count, or the sum of an array of counts."""
+    if owner[name].type.code != gdb.TYPE_CODE_PTR:
+        return int(owner[name])
+    counts = array(owner, class_, name, owner[name])
+    return 0 if isinstance(counts, str) else sum(int(counts[i]) for i in range(counts.type.range()[1] + 1))
+
+
 def array(owner, class_, name, value):
     """A field, as an array where it is one that the object owns."""
     columns, rows = ARRAYS.get(class_ + "." + name) or ARRAYS.get(name) or (0, [])
@@ -102,7 +110,7 @@ def array(owner, class_, name, value):
         return pointee(value)
     type_ = value.type.target()
     most = (gdb.parameter("max-value-size") or 65536) // (columns * type_.sizeof)
-    count = min(sum(int(owner[field]) for field in rows), most)
+    count = min(sum(total(owner, class_, field) for field in rows), most)
     if count <= 0:
         return "{}"
     for length in (columns, count) if columns > 1 else (count,):

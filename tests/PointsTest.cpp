@@ -199,12 +199,8 @@ TEST(PolyPolygon, ReadsNothingBeyondItsOwnArrays) {
     double* points = nullptr;
     int *own = nullptr, count = 0;
     element->GetPoints(points, own, count);
-    own[1] = 2;
-    EXPECT_EQ(PolygonsOf(*Make<VEKPrtPolyPolygonElt>(*element)),
-              (Polygons{{1, 2, 3, 4, 5, 6, 0, 0}, {2, 2}, 2}))
-        << "raised through the lent array";
     element->SetPoints(points + 2, own, 3);
-    EXPECT_EQ(PolygonsOf(*element), (Polygons{{3, 4, 5, 6, 0, 0, 0, 0}, {2, 2, 0}, 3}));
+    EXPECT_EQ(PolygonsOf(*element), (Polygons{{3, 4, 5, 6, 0, 0}, {2, 1, 0}, 3}));
 }
 
 namespace {
@@ -321,9 +317,10 @@ TEST(NURBS, LeavesArraysPassedBackToTheCaller) {
     const std::unique_ptr<double[]> points(old.points), knots(old.knots), weights(old.weights);
     EXPECT_EQ(old.knots[3], 13.0) << "still the caller's to read";
 
-    const NurbsData now = DataOf(*curve);
+    NurbsData now = DataOf(*curve);
+    curve->SetParameters(3, 3, now.points + 2, now.knots + 1, 0.0F, 1.0F, now.weights + 1);
+    ExpectNurbs(*curve, {3, 4, 0, 0, 0, 0}, {13, 0, 0, 0, 0, 0}, {0, 0, 0}, 3, 3, 0.0F, 1.0F);
+    now = DataOf(*curve);
     curve->SetParameters(1, 0, now.points, now.knots, 0.0F, 1.0F, now.weights);
     EXPECT_EQ(DataOf(*curve).knots, now.knots) << "no new array takes its place: it stays held";
-    curve->SetParameters(2, 1, now.points + 2, now.knots + 1, 0.0F, 1.0F, now.points);
-    ExpectNurbs(*curve, {3, 4}, {13, 0, 0}, {2}, 2, 1, 0.0F, 1.0F);
 }

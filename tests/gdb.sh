@@ -40,9 +40,9 @@ transform
 plainTransform
   no transforms
 curve
-  VEKPrtNURBSElt, 1 reference = {_order = 3, _count = 3, _controlPoints = {{0, 0}, {1, 1}, {2, 0}}, _knots = {0, 0, 0, 1, 1, 1}, _firstBound = 0, _secondBound = 1, _weights = {1, 0.5, 1}, _stroke = colour 0, width 0.10000000149011612, VEKPrintLineTypeSolid, _transform = no transforms, _heldOrder = 3, _heldCount = 3}
+  VEKPrtNURBSElt, 1 reference = {_order = 3, _count = 3, _controlPoints = {{0, 0}, {1, 1}, {2, 0}}, _knots = {0, 0, 0, 1, 1, 1}, _firstBound = 0, _secondBound = 1, _weights = {1, 0.5, 1}, _stroke = colour 0, width 0.10000000149011612, VEKPrintLineTypeSolid, _transform = no transforms}
 polygons
-  VEKPrtPolyPolygonElt, 1 reference = {_points = {{0, 0}, {1, 1}, {2, 0}}, _counts = {1, 2}, _polygonCount = 2, _drawStyle = VEKPrtDrawOutline, _stroke = colour 0, width 0.10000000149011612, VEKPrintLineTypeSolid, _fill = colour 0, VEKPrtFillSolid, VEKPrtFillEvenOdd, _transform = no transforms, _pointsHeld = 3}
+  VEKPrtPolyPolygonElt, 1 reference = {_points = {{0, 0}, {1, 1}, {2, 0}}, _counts = {1, 2}, _polygonCount = 2, _drawStyle = VEKPrtDrawOutline, _stroke = colour 0, width 0.10000000149011612, VEKPrintLineTypeSolid, _fill = colour 0, VEKPrtFillSolid, VEKPrtFillEvenOdd, _transform = no transforms}
 polyline
   VEKPrtPolylineElt, 1 reference = {_points = {{0, 0}, {1, 1}, {2, 0}}, _count = 3, _stroke = colour 0, width 0.10000000149011612, VEKPrintLineTypeSolid, _transform = no transforms}
 noPolyline

@@ -41,10 +41,12 @@ public:
     /// have order + count + 1 elements, \p iWeights count + 1.
     ///
     /// An array of the element's own may be passed back in its own place, control points as control points
-    /// and so on: it is read as far as it goes, zero beyond, and is then the caller's to `delete[]`, also
-    /// when a new array could not be allocated; where none is made (a count of 0 or less, or another array
-    /// null) it stays the element's.  An argument that begins elsewhere in an own array, or whose first
-    /// element to be read lies in one, is also read only to the end of that array, which is then freed.
+    /// and so on.  It is then the caller's to `delete[]`, also when a new array could not be allocated; where
+    /// none is made (a count of 0 or less, or another array null) it stays the element's.  Any other pointer
+    /// into an own array may be passed in that place, too; the array is then freed.  Both are read to the end
+    /// of the array, zeros beyond; how long it is, the order and count before the call say, so an array that
+    /// stayed when they changed cannot be passed again.  Nor can a pointer into one array be passed in the
+    /// place of another: that array may be freed before it is read.
     virtual void SetParameters(int iOrder, int iCount, const double* iControlPoints, const double* iKnots,
                                float iFirstBound, float iSecondBound, const double* iWeights);
 
@@ -73,9 +75,6 @@ private:
     double* _weights = nullptr;
     VEKPrtStrokeAttributes _stroke;
     VEKPrtTransformAttributes _transform;
-    // The order and count that the arrays were made for: order and count can change without them.
-    int _heldOrder = 0;
-    int _heldCount = 0;
 };
 
 #endif

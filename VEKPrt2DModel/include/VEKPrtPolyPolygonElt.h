@@ -13,8 +13,8 @@ extern VEKPRT2DMODEL_API VEKMetaClass* meta_object__20VEKPrtPolyPolygonElt;
 /// The points of all polygons, one polygon after the other, and the number of points of each: for example
 /// an outline and its holes.
 ///
-/// Writing through the lent arrays changes the element; a count that is raised there brings no points with
-/// it.
+/// Writing through the lent arrays changes the element.  Counts may be lowered there, never raised: how many
+/// points the element copies or reads is the sum of its counts.
 class VEKPRT2DMODEL_API VEKPrtPolyPolygonElt : public VEKPrtGraphicPrimitiveElt {
 public:
     VEKPrtPolyPolygonElt();
@@ -57,9 +57,8 @@ public:
     virtual void GetTransformAttributes(VEKPrtTransformAttributes& oAttributes) const;
 
 private:
-    VEKPRT2DMODEL_LOCAL long long MakeCounts(const int* iCounts, long long iReadable);
     template <class Coordinate>
-    VEKPRT2DMODEL_LOCAL void MakePoints(long long iTotal, const Coordinate* iPoints, long long iReadable);
+    VEKPRT2DMODEL_LOCAL void Construct(const Coordinate* iPoints, const int* iCounts);
     VEKPRT2DMODEL_LOCAL void CopyOwn(const VEKPrtPolyPolygonElt& iOther);
 
     double* _points = nullptr;
@@ -69,8 +68,6 @@ private:
     VEKPrtStrokeAttributes _stroke;
     VEKPrtFillAttributes _fill;
     VEKPrtTransformAttributes _transform;
-    // How many points the array holds, if there is one: the counts are open to the client.
-    long long _pointsHeld = 0;
 };
 
 #endif

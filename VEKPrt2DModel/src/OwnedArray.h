@@ -48,46 +48,45 @@ Target* NewCopy(std::int64_t iCount, const Source* iSource, std::int64_t iReadab
     return copy;
 }
 
-/// An array taken out of its owner to be replaced.  What replaces it may be copied from a part of it, so it
-/// is kept until Free is called or the scope ends.
+/// An array taken out of its owner, to be replaced by a copy of a source that may lie in it: it is then kept
+/// until the scope ends, otherwise freed at once.
 template <class T>
 class OutgoingArray {
 public:
-    OutgoingArray(T*& ioOwned, std::int64_t iCount) : _array(ioOwned), _count(iCount) { ioOwned = nullptr; }
-    ~OutgoingArray() { Free(); }
+    /// The copy reads \p iSource from its element \p iFirst on.
+    OutgoingArray(T*& ioOwned, std::int64_t iCount, const T* iSource, std::int64_t iFirst = 0)
+        : _array(ioOwned), _isSource(iSource == ioOwned) {
+        ioOwned = nullptr;
+        if (_array && iSource && (Contains(iSource, iCount) || Contains(iSource + iFirst, iCount)))
+            _readable = _array + iCount - (iSource + iFirst);
+        else
+            DeleteArray(_array);
+    }
+    ~OutgoingArray() { DeleteArray(_array); }
     OutgoingArray(const OutgoingArray&) = delete;
     OutgoingArray& operator=(const OutgoingArray&) = delete;
 
-    T* Get() const { return _array; }
-    void Free() { DeleteArray(_array); }
-    /// Hands the array to the caller.
-    T* Detach() {
-        T* const array = _array;
-        _array = nullptr;
+    /// How many of \p iWanted elements can be read: a source within this array ends where the array ends; the
+    /// length of any other is trusted.
+    std::int64_t CountReadable(std::int64_t iWanted) const { return std::min(iWanted, _readable); }
+
+    /// Hands the array to the caller if it is the source itself; otherwise null.
+    T* DetachSource() {
+        T* const array = _isSource ? _array : nullptr;
+        if (array) _array = nullptr;
         return array;
     }
 
-    /// Whether a source that is read from its element \p iFirst on begins, or is first read, within this
-    /// array.
-    bool Holds(const T* iSource, std::int64_t iFirst = 0) const {
-        return _array && iSource && (Contains(iSource) || Contains(iSource + iFirst));
-    }
-
-    /// How many elements can be read from element \p iFirst of a source on, at most \p iWanted: a source
-    /// within this array ends where the array ends; the length of any other is trusted.
-    std::int64_t CountReadable(const T* iSource, std::int64_t iWanted, std::int64_t iFirst = 0) const {
-        return Holds(iSource, iFirst) ? std::min(iWanted, _array + _count - (iSource + iFirst)) : iWanted;
-    }
-
 private:
-    // An array of no length contains its own address.
-    bool Contains(const T* iEntry) const {
+    // A zero-length array contains its own address.
+    bool Contains(const T* iEntry, std::int64_t iCount) const {
         const std::less<const T*> before;
-        return iEntry == _array || (!before(iEntry, _array) && before(iEntry, _array + _count));
+        return iEntry == _array || (!before(iEntry, _array) && before(iEntry, _array + iCount));
     }
 
     T* _array;
-    std::int64_t _count;
+    bool _isSource;
+    std::int64_t _readable = INT64_MAX;
 };
 
 } // namespace vekprt

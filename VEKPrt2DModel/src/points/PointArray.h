@@ -33,17 +33,12 @@ inline double* NewPointsFromList(const VEKListPtrVEKMathPoint2D& iList, int iCou
     return points;
 }
 
-/// SetPoints.  The old array goes first, unless \p iPoints lies in it: it is then read as far as it goes.
+/// SetPoints.  The old array is freed first, unless \p iPoints lies in it: it is then read as far as it goes.
 inline void ReplacePoints(double*& ioPoints, int& ioCount, const double* iPoints, int iCount) {
-    OutgoingArray<double> old(ioPoints, 2 * std::int64_t{ioCount});
+    const OutgoingArray<double> old(ioPoints, 2 * std::int64_t{ioCount}, iPoints);
+    const std::int64_t coordinates = 2 * std::int64_t{iCount};
     ioCount = iCount;
-    if (old.Holds(iPoints)) {
-        const std::int64_t wanted = 2 * std::int64_t{iCount};
-        ioPoints = NewCopy<double>(wanted, iPoints, old.CountReadable(iPoints, wanted));
-    } else {
-        old.Free();
-        ioPoints = NewPoints(iPoints, iCount);
-    }
+    ioPoints = NewCopy<double>(coordinates, iPoints, old.CountReadable(coordinates));
 }
 
 /// Copying.  Two elements without an array are left alone, counts included; otherwise a source without

@@ -47,8 +47,6 @@ void VEKPrtNURBSElt::DeleteArrays() {
 // even if one fails; those that succeed are kept, filled with zeros.
 bool VEKPrtNURBSElt::NewArrays() {
     const std::int64_t coordinates = 2 * std::int64_t{_count}, knots = KnotCount(_order, _count);
-    _heldOrder = _order;
-    _heldCount = _count;
     _controlPoints = vekprt::NewArray<double>(coordinates);
     _knots = vekprt::NewArray<double>(knots);
     _weights = vekprt::NewArray<double>(_count);
@@ -91,49 +89,31 @@ void VEKPrtNURBSElt::Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) {
 }
 
 // Reads knots and weights from their second element on, where the constructors start at the first: the same
-// arrays give another curve.  It stays so (NURBS.SetParametersReadsFromTheSecondElement).
+// arrays give another curve.
 void VEKPrtNURBSElt::SetParameters(int iOrder, int iCount, const double* iControlPoints, const double* iKnots,
                                    float iFirstBound, float iSecondBound, const double* iWeights) {
-    double** const fields[] = {&_controlPoints, &_knots, &_weights};
-    vekprt::OutgoingArray<double> old[] = {{_controlPoints, 2 * std::int64_t{_heldCount}},
-                                           {_knots, KnotCount(_heldOrder, _heldCount)},
-                                           {_weights, _heldCount}};
-    struct Argument {
-        const double* array;
-        int first; // the element that reading begins at
-        std::int64_t count;
-    };
-    Argument arguments[] = {{iControlPoints, 0, 2 * std::int64_t{iCount}},
-                            {iKnots, 1, KnotCount(iOrder, iCount)},
-                            {iWeights, 1, iCount}};
-    // No argument is read beyond an own array that it lies in.
-    for (Argument& argument : arguments)
-        for (const auto& array : old)
-            argument.count = array.CountReadable(argument.array, argument.count, argument.first);
-
-    // An array passed back is the caller's once a new one takes its place, and stays held where none does.
-    // The others go: at once, unless an argument lies in them.
-    const bool isReplaced = iCount > 0 && iControlPoints && iKnots && iWeights;
-    for (int i = 0; i < 3; ++i) {
-        if (old[i].Get() == arguments[i].array) {
-            double* const passedBack = old[i].Detach();
-            if (!isReplaced) *fields[i] = passedBack;
-            continue;
-        }
-        bool isRead = false;
-        for (const Argument& argument : arguments)
-            isRead = isRead || old[i].Holds(argument.array, argument.first);
-        if (!isRead) old[i].Free();
-    }
-
+    vekprt::OutgoingArray<double> oldPoints(_controlPoints, 2 * std::int64_t{_count}, iControlPoints);
+    vekprt::OutgoingArray<double> oldKnots(_knots, KnotCount(_order, _count), iKnots, 1);
+    vekprt::OutgoingArray<double> oldWeights(_weights, _count, iWeights, 1);
+    double* const passedBack[] = {oldPoints.DetachSource(), oldKnots.DetachSource(),
+                                  oldWeights.DetachSource()};
     _count = iCount;
     _firstBound = iFirstBound;
     _order = iOrder;
     _secondBound = iSecondBound;
-    if (!isReplaced || !NewArrays()) return;
-    vekprt::FillArray(_controlPoints, 2 * std::int64_t{iCount}, iControlPoints, arguments[0].count);
-    vekprt::FillArray(_knots, KnotCount(iOrder, iCount), iKnots + 1, arguments[1].count);
-    vekprt::FillArray(_weights, iCount, iWeights + 1, arguments[2].count);
+    // An own array that was passed back stays the element's where no new one takes its place, and is the
+    // caller's otherwise, also when the new one cannot be allocated.
+    if (iCount <= 0 || !iControlPoints || !iKnots || !iWeights) {
+        _controlPoints = passedBack[0];
+        _knots = passedBack[1];
+        _weights = passedBack[2];
+        return;
+    }
+    if (!NewArrays()) return;
+    const std::int64_t coordinates = 2 * std::int64_t{iCount}, knots = KnotCount(iOrder, iCount);
+    vekprt::FillArray(_controlPoints, coordinates, iControlPoints, oldPoints.CountReadable(coordinates));
+    vekprt::FillArray(_knots, knots, iKnots + 1, oldKnots.CountReadable(knots));
+    vekprt::FillArray(_weights, iCount, iWeights + 1, oldWeights.CountReadable(iCount));
 }
 
 void VEKPrtNURBSElt::GetParameters(int& oOrder, int& oCount, double*& oControlPoints, double*& oKnots,

@@ -6,20 +6,28 @@
 #include "ElementProtocol.h"
 #include "OwnedArray.h"
 
+namespace {
+
+// How many points the counts add up to: in 64 bits, and signed, as a negative count lowers the total.
+// Without counts there are no points either, not even a zero-length array of them.
+std::int64_t TotalOf(const int* iCounts, int iPolygonCount) {
+    return iCounts ? std::accumulate(iCounts, iCounts + iPolygonCount, std::int64_t{0}) : -1;
+}
+
+} // namespace
+
 VEKPRT_IMPLEMENT_META_FAMILY(VEKPrtPolyPolygonElt, 20, VEKPrtGraphicPrimitiveElt)
 
 VEKPrtPolyPolygonElt::VEKPrtPolyPolygonElt() = default;
 
 VEKPrtPolyPolygonElt::VEKPrtPolyPolygonElt(const double* iPoints, const int* iCounts, int iPolygonCount)
     : _polygonCount(iPolygonCount) {
-    const std::int64_t total = MakeCounts(iCounts, iPolygonCount);
-    if (total > 0) MakePoints(total, iPoints, 2 * total);
+    Construct(iPoints, iCounts);
 }
 
 VEKPrtPolyPolygonElt::VEKPrtPolyPolygonElt(const float* iPoints, const int* iCounts, int iPolygonCount)
     : _polygonCount(iPolygonCount) {
-    const std::int64_t total = MakeCounts(iCounts, iPolygonCount);
-    if (total > 0) MakePoints(total, iPoints, 2 * total);
+    Construct(iPoints, iCounts);
 }
 
 VEKPrtPolyPolygonElt::VEKPrtPolyPolygonElt(const VEKPrtPolyPolygonElt& iOther) : VEKPrtPolyPolygonElt() {
@@ -36,29 +44,18 @@ VEKPrtPolyPolygonElt& VEKPrtPolyPolygonElt::operator=(const VEKPrtPolyPolygonElt
     return *this;
 }
 
-// Makes the array of counts, of which iReadable can be read, and yields the number of points that they add up
-// to: in 64 bits, and signed, as a negative count lowers the total.  Without an array there are no points
-// either.
-long long VEKPrtPolyPolygonElt::MakeCounts(const int* iCounts, long long iReadable) {
-    _counts = vekprt::NewCopy<int>(_polygonCount, iCounts, iReadable);
-    return _counts ? std::accumulate(_counts, _counts + _polygonCount, std::int64_t{0}) : -1;
-}
-
-// Makes the array of points from as many coordinates as can be read: of no length for 0, none below that.
 template <class Coordinate>
-void VEKPrtPolyPolygonElt::MakePoints(long long iTotal, const Coordinate* iPoints, long long iReadable) {
-    _points = vekprt::NewCopy<double>(2 * iTotal, iPoints, iReadable);
-    _pointsHeld = iTotal;
+void VEKPrtPolyPolygonElt::Construct(const Coordinate* iPoints, const int* iCounts) {
+    _counts = vekprt::NewCopy<int>(_polygonCount, iCounts, _polygonCount);
+    const std::int64_t total = TotalOf(_counts, _polygonCount);
+    if (total > 0) _points = vekprt::NewCopy<double>(2 * total, iPoints, 2 * total);
 }
 
 void VEKPrtPolyPolygonElt::CopyOwn(const VEKPrtPolyPolygonElt& iOther) {
     vekprt::DeleteArray(_points);
     vekprt::DeleteArray(_counts);
     _polygonCount = iOther._points && iOther._counts ? iOther._polygonCount : 0;
-    if (_polygonCount > 0) {
-        const std::int64_t total = MakeCounts(iOther._counts, _polygonCount);
-        if (total > 0) MakePoints(total, iOther._points, 2 * iOther._pointsHeld);
-    }
+    if (_polygonCount > 0) Construct(iOther._points, iOther._counts);
     _drawStyle = iOther._drawStyle;
     _stroke = iOther._stroke;
     _fill = iOther._fill;
@@ -70,16 +67,15 @@ void VEKPrtPolyPolygonElt::Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) {
     if (copy) _fill.Duplicate(copy->_fill);
 }
 
-// A total of 0 leaves an array of no length here, where the constructors and copying leave none.  The old
-// arrays go first, unless an argument lies in them: it is then read as far as they go.
+// A total of 0 leaves a zero-length array here, where the constructors and copying leave none.  The old
+// arrays are freed first, unless their argument lies in them: it is then read as far as they go.
 void VEKPrtPolyPolygonElt::SetPoints(const double* iPoints, const int* iCounts, int iPolygonCount) {
-    vekprt::OutgoingArray<double> oldPoints(_points, 2 * _pointsHeld);
-    vekprt::OutgoingArray<int> oldCounts(_counts, _polygonCount);
-    if (!oldPoints.Holds(iPoints)) oldPoints.Free();
-    if (!oldCounts.Holds(iCounts)) oldCounts.Free();
+    const vekprt::OutgoingArray<double> oldPoints(_points, 2 * TotalOf(_counts, _polygonCount), iPoints);
+    const vekprt::OutgoingArray<int> oldCounts(_counts, _polygonCount, iCounts);
     _polygonCount = iPolygonCount;
-    const std::int64_t total = MakeCounts(iCounts, oldCounts.CountReadable(iCounts, iPolygonCount));
-    MakePoints(total, iPoints, oldPoints.CountReadable(iPoints, 2 * total));
+    _counts = vekprt::NewCopy<int>(iPolygonCount, iCounts, oldCounts.CountReadable(iPolygonCount));
+    const std::int64_t coordinates = 2 * TotalOf(_counts, iPolygonCount);
+    _points = vekprt::NewCopy<double>(coordinates, iPoints, oldPoints.CountReadable(coordinates));
 }
 
 void VEKPrtPolyPolygonElt::GetPoints(double*& oPoints, int*& oCounts, int& oPolygonCount) const {
