@@ -5,30 +5,52 @@
 
 namespace {
 
-// What an entry is before a value is stored in it.
+// An entry that has no value yet.
 template <class Value>
-Value Blank() {
+Value BlankValue() {
     return Value();
 }
-// Whatever a host's vector is by default.
+// Not Value(): what a host's vector is by default is not defined.
 template <>
-VEKMathVector2D Blank() {
+VEKMathVector2D BlankValue() {
     return VEKMathVector2D(0.0, 0.0);
 }
 
-// Appends to ioTarget the transform at iIndex of iSource.  A derived record's Get may leave the preset
-// untouched; it is then what is appended.
-template <class Value, class Parameter>
-int Replay(const VEKPrtTransformAttributes& iSource, unsigned int iIndex, VEKPrtTransformAttributes& ioTarget,
-           int (VEKPrtTransformAttributes::*iGet)(unsigned int, Value&) const,
-           int (VEKPrtTransformAttributes::*iAdd)(Parameter), Value iPreset) {
-    const int status = (iSource.*iGet)(iIndex, iPreset);
-    return status > 0 ? (ioTarget.*iAdd)(iPreset) : status;
-}
-
-template <class... Values>
-void DeleteInOrder(Values&... ioValues) {
-    (vekprt::DeleteArray(ioValues.array), ...);
+// Appends to ioTarget the transform of kind iKind at position iIndex of iSource.  A derived record's Get may
+// succeed without writing its output, so what is preset here can be appended.
+int Replay(VEKPrintTransformType iKind, const VEKPrtTransformAttributes& iSource, unsigned int iIndex,
+           VEKPrtTransformAttributes& ioTarget) {
+    int status = 1;
+    double scale = 1.0;
+    float rotation = 0.0F, skew = 1.0F;
+    switch (iKind) {
+    case vekprt::transformTranslation: {
+        VEKMathVector2D translation(0.0, 0.0);
+        status = iSource.GetTranslation(iIndex, translation);
+        return status > 0 ? ioTarget.AddTranslation(translation) : status;
+    }
+    case vekprt::transformRotation:
+        status = iSource.GetRotation(iIndex, rotation);
+        return status > 0 ? ioTarget.AddRotation(rotation) : status;
+    case vekprt::transformScaleX:
+        status = iSource.GetScaleX(iIndex, scale);
+        return status > 0 ? ioTarget.AddScaleX(scale) : status;
+    case vekprt::transformScaleY:
+        status = iSource.GetScaleY(iIndex, scale);
+        return status > 0 ? ioTarget.AddScaleY(scale) : status;
+    case vekprt::transformSkewX:
+        status = iSource.GetSkewX(iIndex, skew);
+        return status > 0 ? ioTarget.AddSkewX(skew) : status;
+    case vekprt::transformSkewY:
+        status = iSource.GetSkewY(iIndex, skew);
+        return status > 0 ? ioTarget.AddSkewY(skew) : status;
+    case vekprt::transformMatrix: {
+        VEKMath2x2Matrix matrix;
+        status = iSource.GetMatrix(iIndex, matrix);
+        return status > 0 ? ioTarget.AddMatrix(matrix) : status;
+    }
+    default: return 1; // a kind without values is skipped
+    }
 }
 
 } // namespace
@@ -38,27 +60,27 @@ VEKPrtTransformAttributes::Values<Value>::Values(const Values& iOther) {
     *this = iOther;
 }
 
-// A source without an array but with a count, left by a failed addition, gives blank entries.
+// A source with a count but no array, as a failed addition leaves it, gives blank values.
 template <class Value>
 VEKPrtTransformAttributes::Values<Value>&
 VEKPrtTransformAttributes::Values<Value>::operator=(const Values& iOther) {
     if (&iOther == this) return *this;
     vekprt::DeleteArray(array);
     count = iOther.count;
-    if (count != 0) array = vekprt::NewCopy(count, iOther.array, count, Blank<Value>());
+    if (count != 0) array = vekprt::NewCopy(count, iOther.array, count, BlankValue<Value>());
     return *this;
 }
 
-// The count is raised and the old array let go of before the new one is known to be there: after a
-// failure the count stays raised and the old values are lost, their memory with them.  It stays so
-// (Random.AgreesWithAPlainModel).  The next addition starts from an array of blanks.
+// The count is raised and the old array given up before the new one is known to exist: after a failure the
+// values that a caller added before are lost, their memory is leaked, and the count stays raised.  The next
+// addition starts from blank values.
 template <class Value>
 int VEKPrtTransformAttributes::Values<Value>::Append(const Value& iValue) {
     Value* old = array;
     ++count;
     if (count != 0) array = vekprt::NewArray<Value>(count);
     if (count == 0 || !array) return -1;
-    vekprt::FillArray(array, count - 1, old, count - 1, Blank<Value>());
+    vekprt::FillArray(array, count - 1, old, count - 1, BlankValue<Value>());
     array[count - 1] = iValue; // before the old array goes: the value may be an entry of it
     vekprt::DeleteArray(old);
     return 1;
@@ -81,15 +103,22 @@ VEKPrtTransformAttributes& VEKPrtTransformAttributes::operator=(const VEKPrtTran
     return *this;
 }
 
-// Tests the counts: where a count is 0 there is no array either.
+// Where a count is 0 there is no array either.
 bool VEKPrtTransformAttributes::IsEmpty() const {
     return (_kinds.count | _matrices.count | _scalesX.count | _scalesY.count | _rotations.count |
             _skewsX.count | _skewsY.count | _translations.count) == 0;
 }
 
-// In the order of declaration, where destructors of the members would run in reverse.
+// Here and not by destructors of the members, which would run in reverse: a host's allocator sees the order.
 VEKPrtTransformAttributes::~VEKPrtTransformAttributes() {
-    DeleteInOrder(_kinds, _matrices, _scalesX, _scalesY, _rotations, _skewsX, _skewsY, _translations);
+    vekprt::DeleteArray(_kinds.array);
+    vekprt::DeleteArray(_matrices.array);
+    vekprt::DeleteArray(_scalesX.array);
+    vekprt::DeleteArray(_scalesY.array);
+    vekprt::DeleteArray(_rotations.array);
+    vekprt::DeleteArray(_skewsX.array);
+    vekprt::DeleteArray(_skewsY.array);
+    vekprt::DeleteArray(_translations.array);
 }
 
 int VEKPrtTransformAttributes::GetTransformTab(unsigned int& oCount, VEKPrintTransformType*& oKinds) const {
@@ -99,42 +128,16 @@ int VEKPrtTransformAttributes::GetTransformTab(unsigned int& oCount, VEKPrintTra
 }
 
 int VEKPrtTransformAttributes::AddTransformAttributes(const VEKPrtTransformAttributes& iOther) {
-    using Record = VEKPrtTransformAttributes;
     unsigned int count = 0;
     VEKPrintTransformType* kinds = nullptr;
     int status = iOther.GetTransformTab(count, kinds);
     if (status <= 0) return status;
-    if (!kinds || count == 0) return 1;
-
+    if (!kinds) return 1;
     const bool ownKinds = kinds == _kinds.array;
     for (unsigned int i = 0; i < count; ++i) {
         // An addition to this record has replaced its kinds: the list handed out is gone.
         if (ownKinds && kinds != _kinds.array) return -1;
-        switch (kinds[i]) {
-        case vekprt::transformTranslation:
-            status = Replay(iOther, i, *this, &Record::GetTranslation, &Record::AddTranslation,
-                            VEKMathVector2D(0.0, 0.0));
-            break;
-        case vekprt::transformRotation:
-            status = Replay(iOther, i, *this, &Record::GetRotation, &Record::AddRotation, 0.0F);
-            break;
-        case vekprt::transformScaleX:
-            status = Replay(iOther, i, *this, &Record::GetScaleX, &Record::AddScaleX, 1.0);
-            break;
-        case vekprt::transformScaleY:
-            status = Replay(iOther, i, *this, &Record::GetScaleY, &Record::AddScaleY, 1.0);
-            break;
-        case vekprt::transformSkewX:
-            status = Replay(iOther, i, *this, &Record::GetSkewX, &Record::AddSkewX, 1.0F);
-            break;
-        case vekprt::transformSkewY:
-            status = Replay(iOther, i, *this, &Record::GetSkewY, &Record::AddSkewY, 1.0F);
-            break;
-        case vekprt::transformMatrix:
-            status = Replay(iOther, i, *this, &Record::GetMatrix, &Record::AddMatrix, VEKMath2x2Matrix());
-            break;
-        default: break; // a kind that has no value
-        }
+        status = Replay(kinds[i], iOther, i, *this);
         if (status <= 0) return status;
     }
     return 1;
