@@ -57,7 +57,7 @@ public:
     virtual void GetChildren(VEKListPtrVEKPrtClosedFigureRegionElt*& oRegions);
 
 private:
-    VEKPRT2DMODEL_LOCAL void CopyOwn(const VEKPrtClosedFigureElt& iOther);
+    VEKPRT2DMODEL_LOCAL void ReplaceContents(const VEKPrtClosedFigureElt& iOther);
 
     VEKListPtrVEKPrtClosedFigureRegionElt* _regions = nullptr;
     VEKPrtDrawStyle _drawStyle = VEKPrtDrawOutline;

@@ -43,7 +43,7 @@ public:
 private:
     template <class Out>
     VEKPRT2DMODEL_LOCAL void DuplicateInto(Out*& oCopy) const;
-    VEKPRT2DMODEL_LOCAL void CopyOwn(const VEKPrtClosedFigureRegionElt& iOther);
+    VEKPRT2DMODEL_LOCAL void ReplaceContents(const VEKPrtClosedFigureRegionElt& iOther);
 
     VEKListPtrVEKPrtGraphicPrimitiveElt* _children = nullptr;
     VEKPrtTransformAttributes _transform;

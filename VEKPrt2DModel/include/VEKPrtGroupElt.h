@@ -60,7 +60,7 @@ public:
     virtual void GetChildren(VEKListPtrVEKPrtGraphicPrimitiveElt*& oChildren);
 
 private:
-    VEKPRT2DMODEL_LOCAL void CopyOwn(const VEKPrtGroupElt& iOther);
+    VEKPRT2DMODEL_LOCAL void ReplaceContents(const VEKPrtGroupElt& iOther);
     VEKPRT2DMODEL_LOCAL void CopyFields(const VEKPrtGroupElt& iOther);
 
     VEKListPtrVEKPrtGraphicPrimitiveElt* _children = nullptr;

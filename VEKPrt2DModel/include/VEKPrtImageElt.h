@@ -74,7 +74,7 @@ public:
     virtual void GetChildren(VEKListPtrVEKPrtGraphicPrimitiveElt*& oChildren) const;
 
 private:
-    VEKPRT2DMODEL_LOCAL void CopyOwn(const VEKPrtImageElt& iOther);
+    VEKPRT2DMODEL_LOCAL void ReplaceContents(const VEKPrtImageElt& iOther);
     VEKPRT2DMODEL_LOCAL void CopyFields(const VEKPrtImageElt& iOther);
 
     VEKListPtrVEKPrtGraphicPrimitiveElt* _children = nullptr;

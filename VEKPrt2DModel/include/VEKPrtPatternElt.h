@@ -46,7 +46,7 @@ public:
     virtual void GetChildren(VEKListPtrVEKPrtGraphicPrimitiveElt*& oChildren);
 
 private:
-    VEKPRT2DMODEL_LOCAL void CopyOwn(const VEKPrtPatternElt& iOther);
+    VEKPRT2DMODEL_LOCAL void ReplaceContents(const VEKPrtPatternElt& iOther);
     VEKPRT2DMODEL_LOCAL void CopyFields(const VEKPrtPatternElt& iOther);
 
     VEKListPtrVEKPrtGraphicPrimitiveElt* _children = nullptr;

@@ -46,7 +46,7 @@ public:
     virtual void GetChildren(VEKListPtrVEKPrtGraphicPrimitiveElt*& oChildren);
 
 private:
-    VEKPRT2DMODEL_LOCAL void CopyOwn(const VEKPrtSymbolElt& iOther);
+    VEKPRT2DMODEL_LOCAL void ReplaceContents(const VEKPrtSymbolElt& iOther);
     VEKPRT2DMODEL_LOCAL void CopyFields(const VEKPrtSymbolElt& iOther);
 
     VEKListPtrVEKPrtGraphicPrimitiveElt* _children = nullptr;

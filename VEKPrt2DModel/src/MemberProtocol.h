@@ -1,6 +1,6 @@
-// The list of members that a container, a closed figure and the model hold by reference count.
-#ifndef MemberList_H
-#define MemberList_H
+// What containers, the closed figure and the model do alike with their list of members.
+#ifndef MemberProtocol_H
+#define MemberProtocol_H
 
 #include <new>
 
@@ -9,16 +9,16 @@
 
 namespace vekprt {
 
-// Where the walk starts that releases the old members in an assignment.
+// First position released when assignment drops the old members.
 //
-// Containers walk positions 0 to count - 1: position 0 yields null, and the member at the last position keeps
-// its reference and outlives the list.  Clients see that count, so it stays
-// (EveryContainer.LeavesTheLastReference).
-constexpr int containerWalkStart = 0;
+// Positions count from 1, but containers release positions 0 to count - 1.  Position 0 yields null, and the
+// member at the last position keeps its reference and outlives the list: callers who assign to a filled
+// container still own it (README, Copying).
+constexpr int containerReleaseStart = 0;
 // The closed figure and the model release every member.
-constexpr int completeWalkStart = 1;
+constexpr int completeReleaseStart = 1;
 
-/// The operations on a holder's `List*` of `Member*`: created when first needed, null until then.
+/// The operations on a holder's `List*` of `Member*`, which is null until it is first needed.
 ///
 /// The holder has one reference on each occurrence of a member.  A list silently drops an Append when it
 /// cannot grow; the reference taken for it is then never given back.
@@ -27,7 +27,7 @@ constexpr int completeWalkStart = 1;
 /// member does there may change the holder or the source.  Lists are made and freed by the global operators,
 /// whatever operators the host's collection has.
 template <class List, class Member>
-struct MemberList {
+struct MemberProtocol {
     static void Add(List*& ioList, Member* iMember) {
         if (!iMember) return;
         if (!ioList) ioList = ::new (std::nothrow) List(0);
@@ -43,17 +43,17 @@ struct MemberList {
     }
 
     static void Destroy(List*& ioList) {
-        ReleaseWalk(ioList, completeWalkStart);
+        ReleaseFrom(ioList, completeReleaseStart);
         ::delete ioList;
         ioList = nullptr;
     }
 
-    /// Makes \p ioList share the members of \p iSource; the old members are released by a walk that starts at
-    /// \p iFirst and covers as many positions as the list has members.  Two holders without a list stay
-    /// without; otherwise a list is made, even for a source without one.
+    /// Makes \p ioList share the members of \p iSource; the old members are released from position \p iFirst
+    /// on, as many positions as there are members.  Two holders without a list stay without; otherwise a list
+    /// is made, even for a source without one.
     static void Share(List*& ioList, List* const& iSource, int iFirst) {
         if (ioList == iSource) return;
-        ReleaseWalk(ioList, iFirst);
+        ReleaseFrom(ioList, iFirst);
         ::delete ioList;
         ioList = ::new (std::nothrow) List(0);
         if (!ioList) return;
@@ -61,8 +61,8 @@ struct MemberList {
             if (Member* const member = At(*iSource, position)) AppendShared(ioList, member);
     }
 
-    /// Makes a list of duplicates, one for each occurrence.  The reference that a duplicate comes with is
-    /// the list's.
+    /// Makes a list of duplicates, one for each occurrence.  The list takes over the reference that a
+    /// duplicate comes with.
     static void Duplicate(List*& oList, List* const& iSource) {
         if (!iSource) return;
         oList = ::new (std::nothrow) List(0);
@@ -84,33 +84,13 @@ private:
         if (ioList) ioList->Append(iMember);
     }
 
-    static void ReleaseWalk(List* const& iList, int iFirst) {
+    static void ReleaseFrom(List* const& iList, int iFirst) {
         for (int position = iFirst; iList && position < iFirst + iList->Size(); ++position)
             if (Member* const member = At(*iList, position)) member->Release();
     }
 };
 
-using ChildList = MemberList<VEKListPtrVEKPrtGraphicPrimitiveElt, VEKPrtGraphicPrimitiveElt>;
-
-/// Keeps the source of an assignment alive while there is an old list to walk: the walk may release the last
-/// owner of the source, which can be one of the old members or lie deeper in the tree.
-class SourceGuard {
-public:
-    SourceGuard(const VEKBaseUnknown& iSource, const void* iOldList)
-        : _source(iOldList ? const_cast<VEKBaseUnknown*>(&iSource) : nullptr) {
-        // A source that nobody held before is being destroyed.  It keeps the reference: giving it back would
-        // destroy the source a second time.
-        if (_source && _source->AddRef() == 1) _source = nullptr;
-    }
-    ~SourceGuard() {
-        if (_source) _source->Release();
-    }
-    SourceGuard(const SourceGuard&) = delete;
-    SourceGuard& operator=(const SourceGuard&) = delete;
-
-private:
-    VEKBaseUnknown* _source;
-};
+using ChildProtocol = MemberProtocol<VEKListPtrVEKPrtGraphicPrimitiveElt, VEKPrtGraphicPrimitiveElt>;
 
 } // namespace vekprt
 

@@ -1,30 +1,32 @@
 #include "VEKPrtClosedFigureElt.h"
 
 #include "ElementProtocol.h"
-#include "MemberList.h"
+#include "MemberProtocol.h"
+#include "SourceGuard.h"
 #include "VEKListPtrVEKPrtClosedFigureRegionElt.h"
 #include "VEKPrtClosedFigureRegionElt.h"
 
-using RegionList = vekprt::MemberList<VEKListPtrVEKPrtClosedFigureRegionElt, VEKPrtClosedFigureRegionElt>;
+using RegionProtocol =
+    vekprt::MemberProtocol<VEKListPtrVEKPrtClosedFigureRegionElt, VEKPrtClosedFigureRegionElt>;
 
 VEKPRT_IMPLEMENT_META_FAMILY(VEKPrtClosedFigureElt, 21, VEKPrtGraphicPrimitiveElt)
 
 VEKPrtClosedFigureElt::VEKPrtClosedFigureElt() = default;
 
 VEKPrtClosedFigureElt::VEKPrtClosedFigureElt(const VEKPrtClosedFigureElt& iOther) : VEKPrtClosedFigureElt() {
-    CopyOwn(iOther);
+    ReplaceContents(iOther);
 }
 
-VEKPrtClosedFigureElt::~VEKPrtClosedFigureElt() { RegionList::Destroy(_regions); }
+VEKPrtClosedFigureElt::~VEKPrtClosedFigureElt() { RegionProtocol::Destroy(_regions); }
 
 VEKPrtClosedFigureElt& VEKPrtClosedFigureElt::operator=(const VEKPrtClosedFigureElt& iOther) {
-    vekprt::Assign(*this, iOther, &VEKPrtClosedFigureElt::CopyOwn);
+    vekprt::Assign(*this, iOther, &VEKPrtClosedFigureElt::ReplaceContents);
     return *this;
 }
 
-void VEKPrtClosedFigureElt::CopyOwn(const VEKPrtClosedFigureElt& iOther) {
+void VEKPrtClosedFigureElt::ReplaceContents(const VEKPrtClosedFigureElt& iOther) {
     const vekprt::SourceGuard guard(iOther, _regions);
-    RegionList::Share(_regions, iOther._regions, vekprt::completeWalkStart);
+    RegionProtocol::Share(_regions, iOther._regions, vekprt::completeReleaseStart);
     _drawStyle = iOther._drawStyle;
     _stroke = iOther._stroke;
     _fill = iOther._fill;
@@ -35,7 +37,7 @@ void VEKPrtClosedFigureElt::CopyOwn(const VEKPrtClosedFigureElt& iOther) {
 void VEKPrtClosedFigureElt::Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) {
     auto* const copy = vekprt::DuplicateByConstruction<VEKPrtClosedFigureElt>(oCopy);
     if (!copy) return;
-    RegionList::Duplicate(copy->_regions, _regions);
+    RegionProtocol::Duplicate(copy->_regions, _regions);
     copy->_drawStyle = _drawStyle;
     copy->_stroke = _stroke;
     _fill.Duplicate(copy->_fill);
@@ -64,10 +66,10 @@ void VEKPrtClosedFigureElt::GetTransformAttributes(VEKPrtTransformAttributes& oA
 }
 
 void VEKPrtClosedFigureElt::AddChild(VEKPrtClosedFigureRegionElt* iRegion) {
-    RegionList::Add(_regions, iRegion);
+    RegionProtocol::Add(_regions, iRegion);
 }
 void VEKPrtClosedFigureElt::RemoveChild(VEKPrtClosedFigureRegionElt* iRegion) {
-    RegionList::Remove(_regions, iRegion);
+    RegionProtocol::Remove(_regions, iRegion);
 }
 void VEKPrtClosedFigureElt::GetChildren(VEKListPtrVEKPrtClosedFigureRegionElt*& oRegions) {
     oRegions = _regions;

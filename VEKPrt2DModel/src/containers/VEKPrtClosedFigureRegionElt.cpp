@@ -1,7 +1,8 @@
 #include "VEKPrtClosedFigureRegionElt.h"
 
 #include "ElementProtocol.h"
-#include "MemberList.h"
+#include "MemberProtocol.h"
+#include "SourceGuard.h"
 
 VEKPRT_IMPLEMENT_META_FAMILY(VEKPrtClosedFigureRegionElt, 27, VEKPrtGraphicPrimitiveElt)
 
@@ -9,20 +10,20 @@ VEKPrtClosedFigureRegionElt::VEKPrtClosedFigureRegionElt() = default;
 
 VEKPrtClosedFigureRegionElt::VEKPrtClosedFigureRegionElt(const VEKPrtClosedFigureRegionElt& iOther)
     : VEKPrtClosedFigureRegionElt() {
-    CopyOwn(iOther);
+    ReplaceContents(iOther);
 }
 
-VEKPrtClosedFigureRegionElt::~VEKPrtClosedFigureRegionElt() { vekprt::ChildList::Destroy(_children); }
+VEKPrtClosedFigureRegionElt::~VEKPrtClosedFigureRegionElt() { vekprt::ChildProtocol::Destroy(_children); }
 
 VEKPrtClosedFigureRegionElt&
 VEKPrtClosedFigureRegionElt::operator=(const VEKPrtClosedFigureRegionElt& iOther) {
-    vekprt::Assign(*this, iOther, &VEKPrtClosedFigureRegionElt::CopyOwn);
+    vekprt::Assign(*this, iOther, &VEKPrtClosedFigureRegionElt::ReplaceContents);
     return *this;
 }
 
-void VEKPrtClosedFigureRegionElt::CopyOwn(const VEKPrtClosedFigureRegionElt& iOther) {
+void VEKPrtClosedFigureRegionElt::ReplaceContents(const VEKPrtClosedFigureRegionElt& iOther) {
     const vekprt::SourceGuard guard(iOther, _children);
-    vekprt::ChildList::Share(_children, iOther._children, vekprt::containerWalkStart);
+    vekprt::ChildProtocol::Share(_children, iOther._children, vekprt::containerReleaseStart);
     _transform = iOther._transform;
 }
 
@@ -30,7 +31,7 @@ template <class Out>
 void VEKPrtClosedFigureRegionElt::DuplicateInto(Out*& oCopy) const {
     auto* const copy = vekprt::DuplicateByConstruction<VEKPrtClosedFigureRegionElt>(oCopy);
     if (!copy) return;
-    vekprt::ChildList::Duplicate(copy->_children, _children);
+    vekprt::ChildProtocol::Duplicate(copy->_children, _children);
     copy->_transform = _transform;
 }
 
@@ -45,10 +46,10 @@ void VEKPrtClosedFigureRegionElt::GetTransformAttributes(VEKPrtTransformAttribut
 }
 
 void VEKPrtClosedFigureRegionElt::AddChild(VEKPrtGraphicPrimitiveElt* iChild) {
-    if (iChild != this) vekprt::ChildList::Add(_children, iChild);
+    if (iChild != this) vekprt::ChildProtocol::Add(_children, iChild);
 }
 void VEKPrtClosedFigureRegionElt::RemoveChild(VEKPrtGraphicPrimitiveElt* iChild) {
-    if (iChild != this) vekprt::ChildList::Remove(_children, iChild);
+    if (iChild != this) vekprt::ChildProtocol::Remove(_children, iChild);
 }
 void VEKPrtClosedFigureRegionElt::GetChildren(VEKListPtrVEKPrtGraphicPrimitiveElt*& oChildren) {
     oChildren = _children;

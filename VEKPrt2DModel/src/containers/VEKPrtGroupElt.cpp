@@ -1,24 +1,25 @@
 #include "VEKPrtGroupElt.h"
 
 #include "ElementProtocol.h"
-#include "MemberList.h"
+#include "MemberProtocol.h"
+#include "SourceGuard.h"
 
 VEKPRT_IMPLEMENT_META_FAMILY(VEKPrtGroupElt, 14, VEKPrtGraphicPrimitiveElt)
 
 VEKPrtGroupElt::VEKPrtGroupElt() = default;
 
-VEKPrtGroupElt::VEKPrtGroupElt(const VEKPrtGroupElt& iOther) : VEKPrtGroupElt() { CopyOwn(iOther); }
+VEKPrtGroupElt::VEKPrtGroupElt(const VEKPrtGroupElt& iOther) : VEKPrtGroupElt() { ReplaceContents(iOther); }
 
-VEKPrtGroupElt::~VEKPrtGroupElt() { vekprt::ChildList::Destroy(_children); }
+VEKPrtGroupElt::~VEKPrtGroupElt() { vekprt::ChildProtocol::Destroy(_children); }
 
 VEKPrtGroupElt& VEKPrtGroupElt::operator=(const VEKPrtGroupElt& iOther) {
-    vekprt::Assign(*this, iOther, &VEKPrtGroupElt::CopyOwn);
+    vekprt::Assign(*this, iOther, &VEKPrtGroupElt::ReplaceContents);
     return *this;
 }
 
-void VEKPrtGroupElt::CopyOwn(const VEKPrtGroupElt& iOther) {
+void VEKPrtGroupElt::ReplaceContents(const VEKPrtGroupElt& iOther) {
     const vekprt::SourceGuard guard(iOther, _children);
-    vekprt::ChildList::Share(_children, iOther._children, vekprt::containerWalkStart);
+    vekprt::ChildProtocol::Share(_children, iOther._children, vekprt::containerReleaseStart);
     CopyFields(iOther);
 }
 
@@ -30,7 +31,7 @@ void VEKPrtGroupElt::CopyFields(const VEKPrtGroupElt& iOther) {
 void VEKPrtGroupElt::Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) {
     auto* const copy = vekprt::DuplicateByConstruction<VEKPrtGroupElt>(oCopy);
     if (!copy) return;
-    vekprt::ChildList::Duplicate(copy->_children, _children);
+    vekprt::ChildProtocol::Duplicate(copy->_children, _children);
     copy->CopyFields(*this);
 }
 
@@ -48,9 +49,9 @@ void VEKPrtGroupElt::GetTransformAttributes(VEKPrtTransformAttributes& oAttribut
 }
 
 void VEKPrtGroupElt::AddChild(VEKPrtGraphicPrimitiveElt* iChild) {
-    if (iChild != this) vekprt::ChildList::Add(_children, iChild);
+    if (iChild != this) vekprt::ChildProtocol::Add(_children, iChild);
 }
 void VEKPrtGroupElt::RemoveChild(VEKPrtGraphicPrimitiveElt* iChild) {
-    if (iChild != this) vekprt::ChildList::Remove(_children, iChild);
+    if (iChild != this) vekprt::ChildProtocol::Remove(_children, iChild);
 }
 void VEKPrtGroupElt::GetChildren(VEKListPtrVEKPrtGraphicPrimitiveElt*& oChildren) { oChildren = _children; }

@@ -1,7 +1,8 @@
 #include "VEKPrtPatternElt.h"
 
 #include "ElementProtocol.h"
-#include "MemberList.h"
+#include "MemberProtocol.h"
+#include "SourceGuard.h"
 
 VEKPRT_IMPLEMENT_META_FAMILY(VEKPrtPatternElt, 16, VEKPrtGraphicPrimitiveElt)
 
@@ -10,18 +11,20 @@ VEKPrtPatternElt::VEKPrtPatternElt() = default;
 VEKPrtPatternElt::VEKPrtPatternElt(const VEKMathPoint2D& iOrigin, double iWidth, double iHeight)
     : _origin(iOrigin), _width(iWidth), _height(iHeight) {}
 
-VEKPrtPatternElt::VEKPrtPatternElt(const VEKPrtPatternElt& iOther) : VEKPrtPatternElt() { CopyOwn(iOther); }
+VEKPrtPatternElt::VEKPrtPatternElt(const VEKPrtPatternElt& iOther) : VEKPrtPatternElt() {
+    ReplaceContents(iOther);
+}
 
-VEKPrtPatternElt::~VEKPrtPatternElt() { vekprt::ChildList::Destroy(_children); }
+VEKPrtPatternElt::~VEKPrtPatternElt() { vekprt::ChildProtocol::Destroy(_children); }
 
 VEKPrtPatternElt& VEKPrtPatternElt::operator=(const VEKPrtPatternElt& iOther) {
-    vekprt::Assign(*this, iOther, &VEKPrtPatternElt::CopyOwn);
+    vekprt::Assign(*this, iOther, &VEKPrtPatternElt::ReplaceContents);
     return *this;
 }
 
-void VEKPrtPatternElt::CopyOwn(const VEKPrtPatternElt& iOther) {
+void VEKPrtPatternElt::ReplaceContents(const VEKPrtPatternElt& iOther) {
     const vekprt::SourceGuard guard(iOther, _children);
-    vekprt::ChildList::Share(_children, iOther._children, vekprt::containerWalkStart);
+    vekprt::ChildProtocol::Share(_children, iOther._children, vekprt::containerReleaseStart);
     CopyFields(iOther);
 }
 
@@ -35,7 +38,7 @@ void VEKPrtPatternElt::CopyFields(const VEKPrtPatternElt& iOther) {
 void VEKPrtPatternElt::Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) {
     auto* const copy = vekprt::DuplicateByConstruction<VEKPrtPatternElt>(oCopy);
     if (!copy) return;
-    vekprt::ChildList::Duplicate(copy->_children, _children);
+    vekprt::ChildProtocol::Duplicate(copy->_children, _children);
     copy->CopyFields(*this);
 }
 
@@ -57,9 +60,9 @@ void VEKPrtPatternElt::GetTransformAttributes(VEKPrtTransformAttributes& oAttrib
 }
 
 void VEKPrtPatternElt::AddChild(VEKPrtGraphicPrimitiveElt* iChild) {
-    if (iChild != this) vekprt::ChildList::Add(_children, iChild);
+    if (iChild != this) vekprt::ChildProtocol::Add(_children, iChild);
 }
 void VEKPrtPatternElt::RemoveChild(VEKPrtGraphicPrimitiveElt* iChild) {
-    if (iChild != this) vekprt::ChildList::Remove(_children, iChild);
+    if (iChild != this) vekprt::ChildProtocol::Remove(_children, iChild);
 }
 void VEKPrtPatternElt::GetChildren(VEKListPtrVEKPrtGraphicPrimitiveElt*& oChildren) { oChildren = _children; }

@@ -1,7 +1,8 @@
 #include "VEKPrtSymbolElt.h"
 
 #include "ElementProtocol.h"
-#include "MemberList.h"
+#include "MemberProtocol.h"
+#include "SourceGuard.h"
 
 VEKPRT_IMPLEMENT_META_FAMILY(VEKPrtSymbolElt, 15, VEKPrtGraphicPrimitiveElt)
 
@@ -10,18 +11,20 @@ VEKPrtSymbolElt::VEKPrtSymbolElt() = default;
 VEKPrtSymbolElt::VEKPrtSymbolElt(const VEKMathPoint2D& iOrigin, double iWidth, double iHeight)
     : _origin(iOrigin), _width(iWidth), _height(iHeight) {}
 
-VEKPrtSymbolElt::VEKPrtSymbolElt(const VEKPrtSymbolElt& iOther) : VEKPrtSymbolElt() { CopyOwn(iOther); }
+VEKPrtSymbolElt::VEKPrtSymbolElt(const VEKPrtSymbolElt& iOther) : VEKPrtSymbolElt() {
+    ReplaceContents(iOther);
+}
 
-VEKPrtSymbolElt::~VEKPrtSymbolElt() { vekprt::ChildList::Destroy(_children); }
+VEKPrtSymbolElt::~VEKPrtSymbolElt() { vekprt::ChildProtocol::Destroy(_children); }
 
 VEKPrtSymbolElt& VEKPrtSymbolElt::operator=(const VEKPrtSymbolElt& iOther) {
-    vekprt::Assign(*this, iOther, &VEKPrtSymbolElt::CopyOwn);
+    vekprt::Assign(*this, iOther, &VEKPrtSymbolElt::ReplaceContents);
     return *this;
 }
 
-void VEKPrtSymbolElt::CopyOwn(const VEKPrtSymbolElt& iOther) {
+void VEKPrtSymbolElt::ReplaceContents(const VEKPrtSymbolElt& iOther) {
     const vekprt::SourceGuard guard(iOther, _children);
-    vekprt::ChildList::Share(_children, iOther._children, vekprt::containerWalkStart);
+    vekprt::ChildProtocol::Share(_children, iOther._children, vekprt::containerReleaseStart);
     CopyFields(iOther);
 }
 
@@ -35,7 +38,7 @@ void VEKPrtSymbolElt::CopyFields(const VEKPrtSymbolElt& iOther) {
 void VEKPrtSymbolElt::Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) {
     auto* const copy = vekprt::DuplicateByConstruction<VEKPrtSymbolElt>(oCopy);
     if (!copy) return;
-    vekprt::ChildList::Duplicate(copy->_children, _children);
+    vekprt::ChildProtocol::Duplicate(copy->_children, _children);
     copy->CopyFields(*this);
 }
 
@@ -57,9 +60,9 @@ void VEKPrtSymbolElt::GetTransformAttributes(VEKPrtTransformAttributes& oAttribu
 }
 
 void VEKPrtSymbolElt::AddChild(VEKPrtGraphicPrimitiveElt* iChild) {
-    if (iChild != this) vekprt::ChildList::Add(_children, iChild);
+    if (iChild != this) vekprt::ChildProtocol::Add(_children, iChild);
 }
 void VEKPrtSymbolElt::RemoveChild(VEKPrtGraphicPrimitiveElt* iChild) {
-    if (iChild != this) vekprt::ChildList::Remove(_children, iChild);
+    if (iChild != this) vekprt::ChildProtocol::Remove(_children, iChild);
 }
 void VEKPrtSymbolElt::GetChildren(VEKListPtrVEKPrtGraphicPrimitiveElt*& oChildren) { oChildren = _children; }

@@ -1,7 +1,8 @@
 #include "VEKPrtImageElt.h"
 
 #include "ElementProtocol.h"
-#include "MemberList.h"
+#include "MemberProtocol.h"
+#include "SourceGuard.h"
 #include "VEKPrtColourTable.h"
 
 VEKPRT_IMPLEMENT_META_FAMILY(VEKPrtImageElt, 14, VEKPrtGraphicPrimitiveElt)
@@ -12,23 +13,23 @@ VEKPrtImageElt::VEKPrtImageElt(const VEKMathPoint2D& iOrigin, double iWidth, dou
                                const VEKPrtImageUnits& iUnits, const VEKMath2x2Matrix& iMatrix)
     : _origin(iOrigin), _width(iWidth), _height(iHeight), _units(iUnits), _matrix(iMatrix) {}
 
-VEKPrtImageElt::VEKPrtImageElt(const VEKPrtImageElt& iOther) : VEKPrtImageElt() { CopyOwn(iOther); }
+VEKPrtImageElt::VEKPrtImageElt(const VEKPrtImageElt& iOther) : VEKPrtImageElt() { ReplaceContents(iOther); }
 
 VEKPrtImageElt::~VEKPrtImageElt() {
     delete _colourTable;
     _colourTable = nullptr; // the destructors of the children may still ask for it
-    vekprt::ChildList::Destroy(_children);
+    vekprt::ChildProtocol::Destroy(_children);
 }
 
 VEKPrtImageElt& VEKPrtImageElt::operator=(const VEKPrtImageElt& iOther) {
-    vekprt::Assign(*this, iOther, &VEKPrtImageElt::CopyOwn);
+    vekprt::Assign(*this, iOther, &VEKPrtImageElt::ReplaceContents);
     return *this;
 }
 
-void VEKPrtImageElt::CopyOwn(const VEKPrtImageElt& iOther) {
+void VEKPrtImageElt::ReplaceContents(const VEKPrtImageElt& iOther) {
     const vekprt::SourceGuard guard(iOther, _children);
     CopyFields(iOther);
-    vekprt::ChildList::Share(_children, iOther._children, vekprt::containerWalkStart);
+    vekprt::ChildProtocol::Share(_children, iOther._children, vekprt::containerReleaseStart);
 }
 
 void VEKPrtImageElt::CopyFields(const VEKPrtImageElt& iOther) {
@@ -45,7 +46,7 @@ void VEKPrtImageElt::Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) {
     auto* const copy = vekprt::DuplicateByConstruction<VEKPrtImageElt>(oCopy);
     if (!copy) return;
     copy->CopyFields(*this);
-    vekprt::ChildList::Duplicate(copy->_children, _children);
+    vekprt::ChildProtocol::Duplicate(copy->_children, _children);
 }
 
 void VEKPrtImageElt::SetOrigin(const VEKMathPoint2D& iOrigin) { _origin = iOrigin; }
@@ -71,10 +72,10 @@ void VEKPrtImageElt::SetColourTable(VEKPrtColourTable* iTable) {
 }
 void VEKPrtImageElt::GetColourTable(VEKPrtColourTable*& oTable) { oTable = _colourTable; }
 void VEKPrtImageElt::AddChild(VEKPrtGraphicPrimitiveElt* iChild) {
-    if (iChild != this) vekprt::ChildList::Add(_children, iChild);
+    if (iChild != this) vekprt::ChildProtocol::Add(_children, iChild);
 }
 void VEKPrtImageElt::RemoveChild(VEKPrtGraphicPrimitiveElt* iChild) {
-    if (iChild != this) vekprt::ChildList::Remove(_children, iChild);
+    if (iChild != this) vekprt::ChildProtocol::Remove(_children, iChild);
 }
 void VEKPrtImageElt::GetChildren(VEKListPtrVEKPrtGraphicPrimitiveElt*& oChildren) const {
     oChildren = _children;
