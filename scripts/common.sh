@@ -2,6 +2,33 @@
 
 step() { printf '\n== %s\n' "$*"; }
 
+# skip TEXT: notes what could not be done here, for the last lines of the script.
+skips=${VEKPRT_SKIPS:-$(mktemp)}
+skip() { printf '%s\n' "$*" >> "$skips"; }
+
+# finish TEXT: the last lines of a script: what was skipped, and TEXT.
+finish() {
+    echo
+    sed 's/^/Skipped: /' "$skips"
+    echo "Done: $*"
+    [ -n "${VEKPRT_SKIPS:-}" ] || rm -f "$skips"
+}
+
+# apt ARGUMENT...: apt-get, which waits while another process holds its locks.
+apt() {
+    sudo=
+    [ "$(id -u)" -eq 0 ] || sudo=sudo
+    for _ in $(seq 120); do
+        output=$(DEBIAN_FRONTEND=noninteractive $sudo apt-get -qq "$@" 2>&1) && return
+        case $output in
+        *"Could not get lock"* | *"Unable to lock"*) sleep 5 ;;
+        *) break ;;
+        esac
+    done
+    echo "$output" >&2
+    return 1
+}
+
 # require PACKAGE...: installs the Debian packages that are missing, or says which they are and ends.
 require() {
     if ! command -v dpkg-query > /dev/null; then
@@ -13,18 +40,13 @@ require() {
         dpkg-query -W -f='${db:Status-Status}' "$package" 2> /dev/null | grep -qx installed || missing="$missing $package"
     done
     [ -n "$missing" ] || return 0
-    step "Installing$missing"
-    if ! command -v apt-get > /dev/null; then
-        echo "These packages are needed, and there is no apt-get to install them:$missing" >&2
+    if ! command -v apt-get > /dev/null || { [ "$(id -u)" -ne 0 ] && ! command -v sudo > /dev/null; }; then
+        echo "These packages are needed; install them first, or run this as root on a Debian system:$missing" >&2
         exit 1
     fi
-    sudo=
-    if [ "$(id -u)" -ne 0 ]; then
-        sudo=sudo
-        command -v sudo > /dev/null || { echo "Run this as root, or install first:$missing" >&2; exit 1; }
-    fi
+    step "Installing with apt-get, and what they depend on:$missing"
     # shellcheck disable=SC2086
-    if ! { $sudo apt-get update -qq && DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -qq --no-install-recommends $missing; } > /dev/null; then
+    if ! { apt update && apt install -y --no-install-recommends $missing; }; then
         echo "Could not be installed; these packages are needed:$missing" >&2
         exit 1
     fi
@@ -34,9 +56,16 @@ build_packages="g++ cmake ninja-build libpng-dev nlohmann-json3-dev libcli11-dev
 picture_packages="librsvg2-bin fonts-dejavu-core"
 test_packages="$build_packages $picture_packages pkg-config libgtest-dev libxml2-dev libxml2-utils binutils gdb"
 
-# build PRESET: configures and builds it, quietly unless it fails.
-build() {
-    cmake --preset "$1" -Wno-dev > "build-$1.log" 2>&1 || { cat "build-$1.log" >&2; exit 1; }
-    rm -f "build-$1.log"
-    cmake --build --preset "$1"
+# quietly LOG COMMAND...: shows what a command prints only if it fails.
+quietly() {
+    log=$1
+    shift
+    mkdir -p "$(dirname "$log")"
+    "$@" > "$log" 2>&1 || { cat "$log" >&2; exit 1; }
+}
+# configure PRESET DIRECTORY [OPTION...]: configures build/DIRECTORY by a preset and further options.
+configure() {
+    preset=$1 directory=$2
+    shift 2
+    quietly "build/$directory.log" cmake --preset "$preset" -B "build/$directory" -Wno-dev "$@"
 }
