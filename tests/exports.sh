@@ -9,9 +9,9 @@ symbols=$(nm -DC --defined-only "$library" | cut -d' ' -f3-)
 classes=$(cd "$headers" && ls | sed -n 's/^\(VEK.*\(Elt\|Attributes\|Model\|ColourTable\)\)\.h$/\1/p')
 [ "$(echo "$classes" | wc -l)" -eq 34 ] || fail "34 exported classes expected, not: $classes"
 
-# Nothing but members, virtual tables and type records of these classes, and the caches.
+# Nothing but members, virtual tables and type records of these classes, the caches, and the framework's name.
 surplus() {
-    echo "$1" | grep -vE "^($(echo "$classes" | paste -sd'|'))::[^:]*\(|^(vtable|typeinfo|typeinfo name) for ($(echo "$classes" | paste -sd'|'))\$|^meta_object__[0-9]+VEKPrt[A-Za-z]+Elt\$" || true
+    echo "$1" | grep -vE "^($(echo "$classes" | paste -sd'|'))::[^:]*\(|^(vtable|typeinfo|typeinfo name) for ($(echo "$classes" | paste -sd'|'))\$|^meta_object__[0-9]+VEKPrt[A-Za-z]+Elt\$|^VEKPrt2DModel_compiled_on_framework_VEKFramework\$" || true
 }
 [ -z "$(surplus "$symbols")" ] || fail "exported, but not meant to be: $(surplus "$symbols")"
 for control in 'vekprt::RetrieveMetaObject()' 'VEKPrtModelHelper::f()' 'void std::vector<VEKPrtLineElt*>::f()'; do
@@ -20,6 +20,7 @@ done
 
 # All of it is there, and the tests' list of element classes is complete.
 has() { echo "$symbols" | grep -qxF "$1" || fail "not exported: $1"; }
+has VEKPrt2DModel_compiled_on_framework_VEKFramework
 for class in $classes; do
     has "vtable for $class"
     has "typeinfo for $class"

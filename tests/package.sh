@@ -1,6 +1,7 @@
 #!/bin/sh
 # Uses the libraries as a stranger would: package.sh SOURCE_DIRECTORY BUILD_DIRECTORY WORK_DIRECTORY
-# Installed and moved, then by find_package and pkg-config; embedded with frameworks of a host's own; static.
+# Installed and moved, then by find_package and pkg-config; embedded; static; on a host's own framework, with the
+# mistakes that can be made there.
 set -eu
 source=$1 build=$2 work=$3
 fail() { echo "package: $*" >&2; exit 1; }
@@ -8,7 +9,7 @@ quietly() { "$@" > "$work/log" 2>&1 || { cat "$work/log" >&2; fail "$*"; }; }
 rm -rf "$work"
 mkdir -p "$work"
 
-# project NAME: a client, which calls no function of the framework; the lines of its CMakeLists.txt are read.
+# project NAME: a client; the lines of its CMakeLists.txt are read.
 project() {
     mkdir -p "$work/$1"
     { printf 'cmake_minimum_required(VERSION 3.22)\nproject(client CXX)\n'; cat; } > "$work/$1/CMakeLists.txt"
@@ -25,33 +26,36 @@ END
     cat >> "$work/$1/CMakeLists.txt" << 'END'
 add_executable(client main.cpp)
 target_link_libraries(client PRIVATE VEKPrt2DModel::VEKPrt2DModel)
-target_link_options(client PRIVATE LINKER:--as-needed)
+target_link_options(client PRIVATE LINKER:--as-needed,--gc-sections)
 END
 }
 # run NAME [OPTION...]: configures, builds and runs it.
 run() {
     name=$1
     shift
+    rm -rf "$work/$name/build"
     quietly cmake -G Ninja -S "$work/$name" -B "$work/$name/build" "$@"
     quietly cmake --build "$work/$name/build"
     "$work/$name/build/client" || fail "$name does not run"
     echo "package: $name"
 }
-# refused NAME MESSAGE [OPTION...]: it does not configure, and says why.
+# refused MISTAKE MESSAGE COMMAND...: the command fails, and says why.
 refused() {
-    name=$1 message=$2
+    mistake=$1 message=$2
     shift 2
-    if cmake -G Ninja -S "$work/$name" -B "$work/$name/build" "$@" > "$work/log" 2>&1; then fail "$name is accepted"; fi
-    tr -s ' \n' ' ' < "$work/log" | grep -q "$message" || fail "$name: no word of '$message'"
-    echo "package: $name is refused"
+    if "$@" > "$work/log" 2>&1; then fail "not refused: $mistake"; fi
+    tr -s ' \n' ' ' < "$work/log" | grep -q "$message" || { cat "$work/log" >&2; fail "$mistake: message lacks '$message'"; }
+    echo "package: refused: $mistake"
 }
 # flags PREFIX MODULE: what pkg-config says.
 flags() {
-    PKG_CONFIG_PATH=$(dirname "$(find "$1" -name VEKPrt2DModel.pc)") pkg-config --cflags --libs "$2"
+    PKG_CONFIG_PATH=$(dirname "$(find "$1" -name 'VEKPrt2DModel*.pc' | head -n 1)") pkg-config --cflags --libs "$2"
 }
 
 # Installed, and moved to another place.
 quietly cmake --install "$build" --prefix "$work/first"
+libraries=$(dirname "$(find "$work/first" -name libVEKPrt2DModel.so)")
+[ -e "$work/first/share/gdb/auto-load$libraries/libVEKPrt2DModel.so.1.0.0-gdb.py" ] || fail "gdb does not find the printers"
 mv "$work/first" "$work/stage"
 project find-package << 'END'
 find_package(VEKPrt2DModel 1 REQUIRED)
@@ -61,11 +65,13 @@ readelf -d "$work/find-package/build/client" | grep -q 'NEEDED.*VEKFramework' &&
 project unknown-component << 'END'
 find_package(VEKPrt2DModel 1 REQUIRED COMPONENTS Svg Wax)
 END
-refused unknown-component 'no component Wax' -DCMAKE_PREFIX_PATH="$work/stage"
+refused "an unknown component" 'no component Wax' \
+    cmake -S "$work/unknown-component" -B "$work/unknown-component/build" -DCMAKE_PREFIX_PATH="$work/stage"
 
 libraries=$(dirname "$(find "$work/stage" -name libVEKPrt2DModel.so)")
+client=$work/find-package/main.cpp
 # shellcheck disable=SC2046
-c++ -std=c++11 "$work/find-package/main.cpp" -Wl,--as-needed $(flags "$work/stage" VEKPrt2DModel) -o "$work/plain"
+c++ -std=c++11 "$client" -Wl,--as-needed $(flags "$work/stage" VEKPrt2DModel) -o "$work/plain"
 LD_LIBRARY_PATH=$libraries "$work/plain"
 echo "package: pkg-config"
 
@@ -89,65 +95,64 @@ END
     echo "package: the quick start"
 fi
 
-# A host with a framework of its own; here that is the reference implementation under another name.
-host() { # name, type of library, more lines
-    { printf 'file(GLOB sources %s/framework/src/*.cpp)\nadd_library(hostfw %s ${sources})\n' "$source" "$2"
-      printf 'target_include_directories(hostfw PUBLIC %s/framework/include)\n' "$source"
-      printf 'add_library(VEK::Framework ALIAS hostfw)\nadd_subdirectory(%s model)\n%s\n' "$source" "${3:-}"; } |
-        project "$1"
-    run "$1" -DCMAKE_BUILD_TYPE=Debug
-    [ ! -e "$work/$1/build/model/framework" ] || fail "$1: the host's framework is not used"
+# A host with a framework of its own, installed beside the reference; each client finds its own.
+host() { # type of library, option...
+    type=$1
+    shift
+    quietly cmake -G Ninja -S "$source/examples/host" -B "$work/host-$type" -DCMAKE_BUILD_TYPE=Debug "$@"
+    quietly cmake --build "$work/host-$type"
+    quietly cmake --install "$work/host-$type" --prefix "$work/hosted-$type"
+    if find "$work/hosted-$type" | grep -E 'vekframework|libVEKFramework|\.so\.1' | grep -v -- -hostfw; then
+        fail "the host installs what is the reference's"
+    fi
 }
-host shared-host SHARED
-host static-host STATIC 'get_target_property(type VEKPrt2DModel TYPE)
-if(NOT type STREQUAL STATIC_LIBRARY)
-  message(FATAL_ERROR "the framework would stand in a program twice")
-endif()'
-
-# What a host installs asks for its framework: by CMake, where it may be imported, and by pkg-config.
-quietly cmake --install "$work/shared-host/build" --prefix "$work/hosted"
-framework=$work/shared-host/build/libhostfw.so
-project without-framework << 'END'
+host SHARED
+hosted=$work/hosted-SHARED
+own=$(dirname "$(find "$hosted" -name libVEKPrt2DModel-hostfw.so)")
+project host-client << 'END'
+find_package(hostfw REQUIRED)
 find_package(VEKPrt2DModel 1 REQUIRED)
 END
-refused without-framework "built for a host's own framework" -DCMAKE_PREFIX_PATH="$work/hosted"
-project imported-host << END
-add_library(VEK::Framework SHARED IMPORTED)
-set_target_properties(VEK::Framework PROPERTIES
-  IMPORTED_LOCATION "$framework" INTERFACE_INCLUDE_DIRECTORIES "$source/framework/include")
-find_package(VEKPrt2DModel 1 REQUIRED)
-link_libraries(-Wl,-rpath-link,$(dirname "$framework"))
-END
-LD_LIBRARY_PATH=$(dirname "$framework") run imported-host -DCMAKE_PREFIX_PATH="$work/hosted"
-if flags "$work/hosted" VEKPrt2DModel > /dev/null 2>&1; then fail "pkg-config does not ask for the host's framework"; fi
-cat > "$(dirname "$(find "$work/hosted" -name VEKPrt2DModel.pc)")/VEKFramework.pc" << END
-Name: VEKFramework
-Description: of a host
-Version: 1
-Cflags: -I$source/framework/include
-Libs: $framework
-END
-flags "$work/hosted" VEKPrt2DModel | grep -q hostfw || fail "pkg-config does not lead to the host's framework"
-project embedded-imported-host << END
-add_library(VEK::Framework SHARED IMPORTED)
-set_target_properties(VEK::Framework PROPERTIES
-  IMPORTED_LOCATION "$framework" INTERFACE_INCLUDE_DIRECTORIES "$source/framework/include")
-add_subdirectory("$source" model)
-END
-run embedded-imported-host -DCMAKE_BUILD_TYPE=Debug -DVEKPRT_INSTALL=OFF -DCMAKE_INSTALL_PREFIX="$work/nothing"
-cmake --install "$work/embedded-imported-host/build" > /dev/null
-[ -z "$(find "$work/nothing" -type f 2> /dev/null)" ] || fail "installed in spite of VEKPRT_INSTALL=OFF"
-
-# Static libraries, installed.
-project static-build << END
-add_subdirectory("$source" model)
-END
-run static-build -DCMAKE_BUILD_TYPE=Debug -DBUILD_SHARED_LIBS=OFF
-quietly cmake --install "$work/static-build/build" --prefix "$work/static"
-[ -z "$(find "$work/static" -name '*.so*')" ] || fail "a static build installs shared libraries"
-project static-package << 'END'
-find_package(VEKPrt2DModel 1 REQUIRED)
-END
-run static-package -DCMAKE_PREFIX_PATH="$work/static"
+run host-client -DCMAKE_PREFIX_PATH="$work/stage;$hosted"
+run find-package -DCMAKE_PREFIX_PATH="$hosted;$work/stage"
 # shellcheck disable=SC2046
-c++ "$work/find-package/main.cpp" $(flags "$work/static" VEKPrt2DModel) -o "$work/plain" && "$work/plain"
+c++ -std=c++17 "$client" $(flags "$hosted" VEKPrt2DModel-hostfw) -o "$work/hosted"
+LD_LIBRARY_PATH=$own "$work/hosted" || fail "a client of the host does not run"
+
+# What was compiled on one framework is kept from what was compiled on another: by CMake, the compiler, the linker and
+# the loader.
+symbol=VEKPrt2DModel_compiled_on_framework
+refused "a host finds the reference" "compiled on the framework VEKFramework; this project's VEK::Framework is hostfw" \
+    cmake -S "$work/host-client" -B "$work/mistake-1" -DCMAKE_PREFIX_PATH="$work/stage" -Dhostfw_DIR="$own/cmake/hostfw"
+refused "a client without the host's framework" 'compiled on the framework hostfw' \
+    cmake -S "$work/find-package" -B "$work/mistake-2" -DCMAKE_PREFIX_PATH="$hosted"
+# shellcheck disable=SC2046
+refused "the reference's headers" "finds the headers of the reference framework" \
+    c++ "$client" -I"$work/stage/include/vekframework" $(flags "$hosted" VEKPrt2DModel-hostfw) -o "$work/mistake"
+# shellcheck disable=SC2046
+refused "the reference's library" "undefined reference to .${symbol}_host'" \
+    c++ -std=c++17 "$client" -I"$hosted/include/hostfw" $(flags "$work/stage" VEKPrt2DModel) -Wl,--gc-sections -o "$work/mistake"
+mkdir "$work/wrong"
+ln -s "$libraries/libVEKPrt2DModel.so.1" "$work/wrong/libVEKPrt2DModel-hostfw.so.1"
+ln -s "$libraries/libVEKFramework.so.1" "$work/wrong"
+refused "the reference's library under the host's name" "undefined symbol: ${symbol}_hostfw" \
+    env LD_LIBRARY_PATH="$work/wrong:$own" "$work/hosted"
+
+# Where the framework is static, so is the library: a program would contain it twice.
+host STATIC -DBUILD_SHARED_LIBS=OFF
+[ -z "$(find "$work/hosted-STATIC" -name '*.so*')" ] || fail "a static framework beside a shared library"
+run host-client -DCMAKE_PREFIX_PATH="$work/hosted-STATIC"
+
+# Static libraries, embedded and installed.
+project embedded << END
+add_subdirectory("$source" model)
+END
+run embedded -DCMAKE_BUILD_TYPE=Debug -DBUILD_SHARED_LIBS=OFF -DCMAKE_DISABLE_FIND_PACKAGE_PNG=ON
+quietly cmake --install "$work/embedded/build" --prefix "$work/static"
+[ -z "$(find "$work/static" -name '*.so*')" ] || fail "a static build installs shared libraries"
+run find-package -DCMAKE_PREFIX_PATH="$work/static"
+# shellcheck disable=SC2046
+c++ "$client" $(flags "$work/static" VEKPrt2DModel) -o "$work/plain" && "$work/plain"
+quietly cmake "$work/embedded/build" -DVEKPRT_INSTALL=OFF
+cmake --install "$work/embedded/build" --prefix "$work/nothing" > /dev/null
+[ -z "$(find "$work/nothing" -type f 2> /dev/null)" ] || fail "installed in spite of VEKPRT_INSTALL=OFF"
