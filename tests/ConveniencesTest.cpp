@@ -71,6 +71,99 @@ TEST(Children, ArePassedOverWhereTheyAreNull) {
     EXPECT_EQ(count, 5) << "a removed child moves the next one up, which is passed over";
 }
 
+namespace {
+
+// The name of the class that a visitor is called with, and what it has.
+struct NameOfClass {
+    template <class Element>
+    std::string operator()(const Element&) const {
+        return Element::ClassName();
+    }
+};
+struct Traits {
+    template <class Element>
+    std::string operator()(Element&) const {
+        return std::string(HasStroke<Element>::value ? "S" : "") + (HasFill<Element>::value ? "F" : "") +
+               (HasTransform<Element>::value ? "T" : "") + (HasChildren<Element>::value ? "C" : "");
+    }
+};
+// Without a general overload.
+struct OnlyStroked {
+    template <class Element>
+    typename std::enable_if<HasStroke<Element>::value, int>::type operator()(Element&) const {
+        return 1;
+    }
+    template <class Element>
+    typename std::enable_if<HasTransform<Element>::value && !HasStroke<Element>::value, int>::type
+    operator()(Element&) const {
+        return 2;
+    }
+    int operator()(VEKPrtImageElt&) const { return 3; }
+};
+
+template <class... Elements>
+void ExpectVisitedAsThemselves(ClassList<Elements...>) {
+    const std::pair<std::string, std::string> visits[] = {
+        {Visit(*Make<Elements>(), NameOfClass()), Elements::ClassName()}...};
+    for (const auto& [visited, name] : visits)
+        EXPECT_EQ(visited, name);
+}
+
+} // namespace
+
+TEST(Visit, CallsWithTheElementsOwnClass) {
+    ExpectVisitedAsThemselves(ElementClasses());
+    const auto line = Make<VEKPrtLineElt>();
+    const VEKPrtGraphicPrimitiveElt& element = *line;
+    EXPECT_EQ(Visit(element, NameOfClass()), "VEKPrtLineElt");
+    EXPECT_EQ(Visit(element, Traits()), "ST") << "of a const element, too";
+    EXPECT_EQ(Visit(*Make<VEKPrtTextElt>(), Traits()), "SFT");
+    EXPECT_EQ(Visit(*Make<VEKPrtImageElt>(), Traits()), "C");
+    EXPECT_EQ(Visit(*Make<VEKPrtClosedFigureElt>(), Traits()), "SFT") << "it holds regions, not elements";
+    EXPECT_EQ(Visit(*Make<VEKPrtMarkerElt>(), OnlyStroked()), 1);
+    EXPECT_EQ(Visit(*Make<VEKPrtGroupElt>(), OnlyStroked()), 2);
+    EXPECT_EQ(Visit(*Make<VEKPrtImageElt>(), OnlyStroked()), 3);
+}
+
+TEST(Visit, TakesClientsElementsForTheirBases) {
+    struct Client : VEKPrtCircleElt {
+        VEKMetaClass* GetMetaObject() const override { return VEKPrtGraphicPrimitiveElt::MetaObject(); }
+    };
+    struct Unregistered : VEKPrtCircleElt {
+        VEKMetaClass* GetMetaObject() const override { return nullptr; }
+        int IsAKindOf(const char*) const override { return 0; }
+    };
+    EXPECT_EQ(Visit(*Make<Client>(), NameOfClass()), "VEKPrtCircleElt");
+    EXPECT_EQ(Visit(*Make<VEKPrtGraphicPrimitiveElt>(), NameOfClass()), "VEKPrtGraphicPrimitiveElt");
+    EXPECT_EQ(Visit(*Make<Unregistered>(), NameOfClass()), "VEKPrtGraphicPrimitiveElt");
+    EXPECT_EQ(Visit(*Make<VEKPrtGraphicPrimitiveElt>(), OnlyStroked()), 0) << "no overload: a default result";
+}
+
+TEST(Children, AreInsertedAtAPosition) {
+    const auto group = Make<VEKPrtGroupElt>();
+    const auto figure = Make<VEKPrtClosedFigureElt>();
+    const auto ids = [](const auto& iHolder) {
+        std::string joined;
+        for (const auto& child : ChildrenOf(iHolder))
+            joined += Id(child);
+        return joined;
+    };
+    const std::pair<const char*, int> rows[] = {{"b", 1}, {"a", 1}, {"d", 9}, {"c", 3}};
+    for (const auto& [id, position] : rows) {
+        const auto child = Make<VEKPrtLineElt>();
+        const auto region = Make<VEKPrtClosedFigureRegionElt>();
+        child->SetID(id);
+        region->SetID(id);
+        InsertChild(*group, child.Get(), position);
+        InsertChild(*figure, region.Get(), position);
+        EXPECT_EQ(Count(child), 2UL) << id;
+    }
+    EXPECT_EQ(ids(*group), "abcd");
+    EXPECT_EQ(ids(*figure), "abcd");
+    InsertChild(*group, group.Get(), 2);
+    EXPECT_EQ(ids(*group), "abcd") << "what AddChild refuses moves nothing";
+}
+
 TEST(Walk, KnowsAllHoldersAndEndsInACycle) {
     Drawing drawing;
     std::map<std::string, int> depths;
@@ -115,6 +208,20 @@ TEST(Walk, FindsTheFirstByItsIdentifier) {
         outer = around;
     }
     EXPECT_EQ(FindByID(*outer, "absent"), nullptr);
+}
+
+TEST(Walk, FindsTheFirstHolder) {
+    Drawing drawing;
+    VEKPrtGraphicPrimitiveElt* const holder = HolderOf(*drawing.model, *drawing.line);
+    ASSERT_NE(holder, nullptr);
+    EXPECT_STREQ(holder->IsA(), "VEKPrtPatternElt");
+    EXPECT_EQ(HolderOf(*drawing.page, *holder), drawing.group.Get());
+    EXPECT_EQ(HolderOf(*drawing.model, *drawing.page), nullptr) << "the model is no element";
+    const VEKPrtLineElt& line = *drawing.line;
+    const VEKRef<VEKPrtLineElt> copy = DuplicateOf(line);
+    EXPECT_EQ(Id(*copy), Id(line));
+    EXPECT_EQ(Count(copy), 1UL);
+    WithFault(0, [&] { EXPECT_FALSE(DuplicateOf(line)); });
 }
 
 TEST(Dump, WritesALineForEachElement) {
