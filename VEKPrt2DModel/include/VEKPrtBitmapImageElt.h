@@ -13,13 +13,16 @@ extern VEKPRT2DMODEL_API VEKMetaClass* meta_object__20VEKPrtBitmapImageElt;
 
 /// A pixel image with origin, width, height and orientation.
 ///
-/// Holds one reference on the pixel image, taken on every store and given back on replacement (but see
-/// SetParameters) and destruction.  Copies share the image.
+/// This project's consumers place the lower left corner at the origin, and rotate the bitmap about it by the
+/// orientation, in degrees, counter-clockwise.
+///
+/// Holds one reference on the pixel image, and releases it on destruction and when the image is replaced (but
+/// see SetParameters).  Copies share the image.
 class VEKPRT2DMODEL_API VEKPrtBitmapImageElt : public VEKPrtGraphicPrimitiveElt {
 public:
     VEKPrtBitmapImageElt();
 
-    /// Takes its own reference on \p iImage, which may be null; narrows the orientation to float.
+    /// Takes its own reference on \p iImage, which may be null, and stores the orientation as a float.
     VEKPrtBitmapImageElt(const VEKMathPoint2D& iOrigin, double iWidth, double iHeight, double iOrientation,
                          VEKPixelImage* iImage);
     VEKPrtBitmapImageElt(const VEKPrtBitmapImageElt& iOther);
@@ -28,7 +31,7 @@ public:
 
     VEKPRT_DECLARE_META_FAMILY
 
-    /// The copy has a pixel image of its own; it shares the source's where that cannot be copied.
+    /// The copy has a pixel image of its own, or shares this element's where that cannot be copied.
     void Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) override;
 
     virtual void SetOrigin(const VEKMathPoint2D& iOrigin);
@@ -38,18 +41,19 @@ public:
     virtual void SetOrientation(float iOrientation);
     virtual void GetOrientation(float& oOrientation) const;
 
-    /// Takes its own reference on \p iImage, which may be null, and gives back the one it had; the
-    /// image already held keeps its count.
+    /// Releases the image held before and takes its own reference on \p iImage, which may be null; the image
+    /// already held keeps its count.
     virtual void SetPixelImage(VEKPixelImage* iImage);
 
     /// Lends the image: no reference is added.
     virtual void GetPixelImage(VEKPixelImage*& oImage) const;
 
-    /// Stores all but \p iOrientation, which is ignored: the orientation stays.
+    /// Stores everything except \p iOrientation: use SetOrientation.
     ///
-    /// Takes its own reference on \p iImage, which may be null, but does not give back the one on a different
-    /// image held before: that image keeps a reference that is never released.  The image already held keeps
-    /// its count.
+    /// Takes its own reference on \p iImage, which may be null; the image already held keeps its count.
+    ///
+    /// \warning A different image held before is not released, so it is never freed.  Replace an image by
+    /// SetPixelImage.
     virtual void SetParameters(const VEKMathPoint2D& iOrigin, double iWidth, double iHeight,
                                double iOrientation, VEKPixelImage* iImage);
 

@@ -11,7 +11,7 @@
 
 extern VEKPRT2DMODEL_API VEKMetaClass* meta_object__15VEKPrtCircleElt;
 
-/// Centre and radius.
+/// Centre and radius.  Any radius is stored; this project's consumers ignore its sign.
 class VEKPRT2DMODEL_API VEKPrtCircleElt : public VEKPrtGraphicPrimitiveElt {
 public:
     VEKPrtCircleElt();

@@ -11,7 +11,10 @@
 
 extern VEKPRT2DMODEL_API VEKMetaClass* meta_object__20VEKPrtCircularArcElt;
 
-/// Centre, radius and two angles; unit, direction and order of the angles are the consumer's.
+/// Centre, radius and two angles, stored as given.
+///
+/// This project's consumers read degrees, counter-clockwise from the start to the end angle, and a full
+/// circle where these are equal; a filled arc is closed by its chord.
 class VEKPRT2DMODEL_API VEKPrtCircularArcElt : public VEKPrtGraphicPrimitiveElt {
 public:
     VEKPrtCircularArcElt();

@@ -10,14 +10,15 @@ class VEKListPtrVEKPrtGraphicPrimitiveElt;
 
 extern VEKPRT2DMODEL_API VEKMetaClass* meta_object__27VEKPrtClosedFigureRegionElt;
 
-/// One region of a closed figure: its children are the outline, in order; appearance is the figure's.
+/// One region of a closed figure.  Its children are the outline, in order; the figure has the stroke and the
+/// fill.
 ///
-/// Holds one reference on each child.
+/// Holds one reference on each child, for each time that it was added.
 class VEKPRT2DMODEL_API VEKPrtClosedFigureRegionElt : public VEKPrtGraphicPrimitiveElt {
 public:
     VEKPrtClosedFigureRegionElt();
 
-    /// Shares the children: each gains a reference.
+    /// \copydoc VEKPrtGroupElt::VEKPrtGroupElt(const VEKPrtGroupElt&)
     VEKPrtClosedFigureRegionElt(const VEKPrtClosedFigureRegionElt& iOther);
     ~VEKPrtClosedFigureRegionElt() override;
     /// \copydoc VEKPrtGroupElt::operator=
@@ -28,7 +29,8 @@ public:
     /// \copydoc VEKPrtGroupElt::Duplicate
     void Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) override;
 
-    /// The same, typed: a slot of its own, and the one that the figure calls.
+    /// Does the same and yields the region's own type.  The closed figure duplicates its regions by this one,
+    /// so a class derived by a client overrides both.
     virtual void Duplicate(VEKPrtClosedFigureRegionElt*& oCopy);
 
     virtual void SetTransformAttributes(const VEKPrtTransformAttributes& iAttributes);

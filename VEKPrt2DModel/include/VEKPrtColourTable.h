@@ -6,8 +6,8 @@
 
 /// RGB colours, 8 bits a component, appended and addressed by index from 0.
 ///
-/// Operations return 1 for success and -1 for failure (an index out of range, a failed allocation), and
-/// write their outputs only on success.  Copies are independent.
+/// Operations return 1 for success and -1 for failure (an index out of range, no such colour, a failed
+/// allocation), and write their outputs only on success.  Copies are independent.
 class VEKPRT2DMODEL_API VEKPrtColourTable {
 public:
     /// Empty.
@@ -22,15 +22,15 @@ public:
 
     virtual int GetColourCount(int& oCount) const;
 
-    /// Appends, even a colour that is there already, and yields its index.
+    /// Appends the colour, even one that the table has already, and yields its index.
     ///
-    /// When allocation fails all stored colours stay readable, and a later addition tries again.
+    /// When allocation fails, all stored colours stay readable, and a later addition tries again.
     virtual int AddColour(unsigned char iRed, unsigned char iGreen, unsigned char iBlue,
                           unsigned int& oIndex);
     virtual int ModifyColour(unsigned int iIndex, unsigned char iRed, unsigned char iGreen,
                              unsigned char iBlue);
 
-    /// The lowest index of an equal colour.
+    /// The lowest index of an equal colour; -1 is returned if there is none.
     virtual int GetColourIndex(unsigned int& oIndex, unsigned char iRed, unsigned char iGreen,
                                unsigned char iBlue) const;
     virtual int GetColour(unsigned int iIndex, unsigned char& oRed, unsigned char& oGreen,
@@ -45,7 +45,7 @@ private:
     unsigned char* _red = nullptr;
     unsigned char* _green = nullptr;
     unsigned char* _blue = nullptr;
-    // What the arrays really hold; below _capacity once a growth has failed.
+    // The length of the arrays; below _capacity once a growth has failed.
     unsigned int _allocated = 0;
 };
 

@@ -11,24 +11,27 @@ class VEKListPtrVEKMathPoint2D;
 
 extern VEKPRT2DMODEL_API VEKMetaClass* meta_object__25VEKPrtDisjointPolylineElt;
 
-/// Pairs of points, one pair a segment.  The constructors round an odd count, SetPoints does not.
+/// Pairs of points, each a segment.  The constructors round an odd count, SetPoints does not.
 class VEKPRT2DMODEL_API VEKPrtDisjointPolylineElt : public VEKPrtGraphicPrimitiveElt {
 public:
     VEKPrtDisjointPolylineElt();
 
-    /// Copies the points at positions 0 to the list's size less 1, so that the first is (0, 0) and the last
-    /// is not read; a null entry gives (0, 0).  An odd size is rounded down first, so that of three points
-    /// only the first is read: the element holds (0, 0) and that one.  A size below 2 gives no array.
+    /// Rounds the list's size down to an even count and copies as many positions, from 0 on; a null entry
+    /// gives (0, 0).  A size below 2 gives no array.
+    ///
+    /// \warning Lists start at position 1: the first point is (0, 0), and the end of the list is left out.
+    /// Use an array of coordinates instead.
     VEKPrtDisjointPolylineElt(const VEKListPtrVEKMathPoint2D& iPoints);
 
-    /// As SetPoints, but an odd count is rounded towards zero, and a count below 2 leaves no array.
+    /// Like SetPoints, but an odd count is rounded towards zero, and a count below 2 gives no array.
     VEKPrtDisjointPolylineElt(const double* iPoints, int iCount);
 
-    /// Copies the array.  A source without an array counts as one without points.
+    /// Copies the array.  From an element without an array, the count is not copied either.
     VEKPrtDisjointPolylineElt(const VEKPrtDisjointPolylineElt& iOther);
     ~VEKPrtDisjointPolylineElt() override;
 
-    /// Copies the array; where neither element has one, the count of this one stays.
+    /// Copies the array as the copy constructor does; if neither element has one, the count of this one
+    /// stays.
     VEKPrtDisjointPolylineElt& operator=(const VEKPrtDisjointPolylineElt& iOther);
 
     VEKPRT_DECLARE_META_FAMILY

@@ -11,7 +11,9 @@
 
 extern VEKPRT2DMODEL_API VEKMetaClass* meta_object__16VEKPrtEllipseElt;
 
-/// Centre, two radii, and the slope of the horizontal axis.
+/// Centre, two radii, and the angle by which the horizontal axis is rotated (the slope).
+///
+/// This project's consumers read degrees, counter-clockwise, and ignore the sign of a radius.
 class VEKPRT2DMODEL_API VEKPrtEllipseElt : public VEKPrtGraphicPrimitiveElt {
 public:
     VEKPrtEllipseElt();

@@ -11,12 +11,15 @@
 
 extern VEKPRT2DMODEL_API VEKMetaClass* meta_object__22VEKPrtEllipticalArcElt;
 
-/// Centre, two radii, two angles and the slope of the horizontal axis.
+/// Centre, two radii, two angles, and the angle by which the horizontal axis is rotated (the slope).
+///
+/// This project's consumers read the angles as those of VEKPrtCircularArcElt, measured as parameters of the
+/// ellipse from its rotated horizontal axis.
 class VEKPRT2DMODEL_API VEKPrtEllipticalArcElt : public VEKPrtGraphicPrimitiveElt {
 public:
     VEKPrtEllipticalArcElt();
 
-    /// The slope comes last, after the angles, here and in SetParameters and GetParameters.
+    /// Here, in SetParameters and in GetParameters the slope comes last, after the angles.
     VEKPrtEllipticalArcElt(const VEKMathPoint2D& iCenter, double iHorzRadius, double iVertRadius,
                            float iStartAngle, float iEndAngle, float iSlope);
     VEKPrtEllipticalArcElt(const VEKPrtEllipticalArcElt& iOther);

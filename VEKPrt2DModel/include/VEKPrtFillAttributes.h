@@ -8,18 +8,17 @@
 
 class VEKPixelImage;
 
-/// What an interior is filled with.  Stored and handed back, whatever the value; new records have
-/// VEKPrtFillSolid.
+/// What an interior is filled with.  Any value is stored and handed back; new records have VEKPrtFillSolid.
 enum VEKPrtFillStyle : int { VEKPrtFillSolid = 0, VEKPrtFillPattern = 1, VEKPrtFillNone = 2 };
 
-/// What is inside where outlines cross.  Stored and handed back, whatever the value; new records have
+/// What is inside where outlines cross.  Any value is stored and handed back; new records have
 /// VEKPrtFillEvenOdd.
 enum VEKPrtFillRule : int { VEKPrtFillNonZero = 0, VEKPrtFillEvenOdd = 1 };
 
 /// Style, rule, colour, and an optional pattern: a pixel image, two vectors and a reference point.
 ///
-/// Holds one reference on the pattern image.  Copies share the image and take a reference of their
-/// own; only Duplicate copies it.
+/// Holds one reference on the pattern image.  Copies share the image, each with a reference of its own; only
+/// Duplicate copies it.
 class VEKPRT2DMODEL_API VEKPrtFillAttributes {
 public:
     /// Colour 0, transparency 255, solid, even-odd, no pattern.
@@ -28,35 +27,37 @@ public:
     virtual ~VEKPrtFillAttributes();
     VEKPrtFillAttributes& operator=(const VEKPrtFillAttributes& iOther);
 
-    /// 1 when all fields are exactly equal, else 0.  Images are equal when they are the same object.
+    /// 1 if all fields are exactly equal, otherwise 0.  Images are equal if they are the same object.
     int operator==(const VEKPrtFillAttributes& iOther) const;
 
-    /// Copies this record into \p oTarget, with an image of its own.
+    /// Copies this record into \p oTarget, with a copy of the pattern image, or null where that fails.  If
+    /// this record has no image, the target keeps the one it has.
     ///
-    /// Where this record has an image, one that \p oTarget held is overwritten without being released, so
-    /// pass a record without one; the target's becomes null where the image cannot be copied.  Where this
-    /// record has none, the target keeps the image it has.
+    /// \warning If both records have an image, the target's is overwritten without being released and is
+    /// never freed.  Pass a target without an image.
     virtual void Duplicate(VEKPrtFillAttributes& oTarget);
 
     virtual void SetFillStyle(const VEKPrtFillStyle& iStyle);
     virtual void GetFillStyle(VEKPrtFillStyle& oStyle) const;
     virtual void SetFillRule(const VEKPrtFillRule& iRule);
     virtual void GetFillRule(VEKPrtFillRule& oRule) const;
+    /// An index from 0 into the colour table of the page.
     virtual void SetFillColourIndex(unsigned int iIndex);
     virtual void GetFillColourIndex(unsigned int& oIndex) const;
 
-    /// From 0 to 255, the default, which this project's consumer reads as opaque.
+    /// From 0, fully transparent, to 255, opaque and the default.
     virtual void SetFillColourTransparency(unsigned char iTransparency);
     /// Not const, unlike its neighbours: the mangled name is part of the binary interface.
     virtual void GetFillColourTransparency(unsigned char& oTransparency);
 
-    /// Takes its own reference on \p iImage, which may be null, and gives back the one it had; the
-    /// image already held keeps its count.  The vectors are stored in every case.
+    /// Releases the image held before and takes its own reference on \p iImage, which may be null; the image
+    /// already held keeps its count.  The vectors, the sides of one tile of the pattern, are always stored.
     virtual void SetPattern(VEKPixelImage* iImage, const VEKMathVector2D& iFirst,
                             const VEKMathVector2D& iSecond);
 
-    /// Lends the image: no reference is added.  Not const either.
+    /// Lends the image: no reference is added.  Not const: the mangled name is part of the binary interface.
     virtual void GetPattern(VEKPixelImage*& oImage, VEKMathVector2D& oFirst, VEKMathVector2D& oSecond);
+    /// A corner of one tile of the pattern.
     virtual void SetPatternRefPoint(const VEKMathPoint2D& iPoint);
     virtual void GetPatternRefPoint(VEKMathPoint2D& oPoint) const;
 

@@ -7,8 +7,8 @@
 #include "VEKPrtMetaFamily.h"
 #include "VEKUnicodeString.h"
 
-/// Which parts of a closed shape or a text are drawn.  Stored and handed back, whatever its value; the names
-/// are those by which this project's consumer reads it.  New elements have VEKPrtDrawOutline.
+/// Which parts of a closed shape or a text are drawn.  Any value is stored and handed back; new elements have
+/// VEKPrtDrawOutline.
 enum VEKPrtDrawStyle : int { VEKPrtDrawInterior = 0, VEKPrtDrawOutline = 1, VEKPrtDrawBoth = 2 };
 
 extern VEKPRT2DMODEL_API VEKMetaClass* meta_object__25VEKPrtGraphicPrimitiveElt;
@@ -16,22 +16,24 @@ extern VEKPRT2DMODEL_API VEKMetaClass* meta_object__25VEKPrtGraphicPrimitiveElt;
 /// An element: identifier, description and title, and the protocol of all element classes.
 ///
 /// Every element class follows it, and says in its own header only what it adds or does differently:
-/// - A new element, made by any constructor or by Duplicate, has count 1: its creator's reference.
-/// - The copy constructor gives every field its default, then copies the class's own fields and
-///   records.  The identity strings (identifier, description, title) are left out.  A copy of itself
-///   is a default object.
-/// - Assignment does nothing for the element itself; otherwise it copies the framework's data words and the
-///   identity strings, then the own fields, then the records.  Reference counts of the two elements stay as
-///   they are, though a container may hold the source meanwhile.
+/// - A new element, made by any constructor or by Duplicate, has count 1: its creator's reference.  Release
+///   deletes the element when the count reaches 0, so what is released, by a client or by a container, must
+///   come from `new`, `Make` or Duplicate, never from the stack.
+/// - The copy constructor gives every field its default, then copies the class's own fields and records, but
+///   not the identity strings (identifier, description, title).
+/// - Assignment of an element to itself does nothing.  Any other copies the framework's data words and the
+///   identity strings, then the own fields, then the records.  Both elements keep their reference counts;
+///   while it runs, a container may hold the source.
 /// - Setters store what they are given, unchecked, and copy records and strings; getters copy out.
 ///   Array getters hand out the element's own array, valid until its next setter, an assignment to the
-///   element or its destruction; list getters the element's own list, valid until an assignment or the
-///   destruction.
+///   element or its destruction; list getters hand out the element's own list, valid until an assignment to
+///   the element or its destruction.
 /// - No operation throws or reports a failed allocation; what could not be allocated is absent.
 ///
-/// The model gives no meaning to what it stores: units, the direction of the y axis, the sense of angles, the
-/// order of transforms, draw styles, transparency, boxes and clipping are what a consumer makes of them.  The
-/// header of the SVG consumer, SvgWriter.h, says how that one reads them.
+/// The model stores values and leaves their meaning to the consumer: units, the direction of the y axis, the
+/// sense of angles, the order of transforms, draw styles, transparency, boxes and clipping.
+/// docs/drawing.md says how this project's consumers read them: coordinates and lengths are in units of the
+/// page, angles in degrees.  Headers mention such readings where they help.
 ///
 /// Derived classes append their virtual functions after GetTitle.
 class VEKPRT2DMODEL_API VEKPrtGraphicPrimitiveElt : public VEKBaseUnknown {
@@ -50,9 +52,9 @@ public:
     /// Its class is the one that defines this function: a class derived by a client must override it, or its
     /// instances are duplicated as their base.
     ///
-    /// \p oCopy is overwritten in any case: null when the element cannot be allocated.  Leaf elements
-    /// carry the identity strings over; containers do not, and duplicate each child in turn, a child
-    /// that they hold twice becoming two.
+    /// \p oCopy is always written: null when the element cannot be allocated.  Leaf elements copy the
+    /// identity strings.  Containers do not; they duplicate each child, and a child that they hold twice
+    /// becomes two.
     virtual void Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy);
 
     virtual void SetID(const VEKUnicodeString& iID);

@@ -14,6 +14,7 @@ public:
     virtual ~VEKPrtGroupAttributes();
     VEKPrtGroupAttributes& operator=(const VEKPrtGroupAttributes& iOther);
 
+    /// Stored as given, neither parsed nor checked; empty for no link.
     virtual void SetLinkURI(VEKPrintLinkURI iURI);
     virtual void GetLinkURI(VEKPrintLinkURI& oURI) const;
 

@@ -10,7 +10,7 @@
 class VEKListPtrVEKPrtGraphicPrimitiveElt;
 class VEKPrtColourTable;
 
-/// The units of an image's measures.  Stored and handed back, whatever the value.
+/// The units of an image's measures.  Any value is stored and handed back.
 enum VEKPrtImageUnits : int {
     VEKPrtImagePixel = 0,
     VEKPrtImagePoint = 1,
@@ -25,7 +25,8 @@ extern VEKPRT2DMODEL_API VEKMetaClass* meta_object__14VEKPrtImageElt;
 
 /// Placement, units, matrix, colour table and an ordered list of children.
 ///
-/// Owns its colour table outright; holds one reference on each child.
+/// Owns its colour table, which is not reference-counted; holds one reference on each child, for each time
+/// that it was added.
 class VEKPRT2DMODEL_API VEKPrtImageElt : public VEKPrtGraphicPrimitiveElt {
 public:
     /// Measured in millimetres, with the identity as its matrix.
@@ -33,23 +34,25 @@ public:
     VEKPrtImageElt(const VEKMathPoint2D& iOrigin, double iWidth, double iHeight,
                    const VEKPrtImageUnits& iUnits, const VEKMath2x2Matrix& iMatrix);
 
-    /// Shares the children, each of which gains a reference, and copies the colour table.
+    /// Shares the children as VEKPrtGroupElt does, and copies the colour table.  The copy's table is empty or
+    /// absent when allocation fails.
     VEKPrtImageElt(const VEKPrtImageElt& iOther);
     ~VEKPrtImageElt() override;
 
-    /// Releases the old children but for the last one, and shares those of \p iOther.
+    /// Deletes the colour table and copies that of \p iOther, as the copy constructor does; replaces the
+    /// children as VEKPrtGroupElt::operator= does.
     ///
-    /// The colour table is replaced by a copy, or by none.  The last of the old children keeps the reference
-    /// that this element took.  The target ends with an empty list, not null, when \p iOther has none and
-    /// this element had one; where both have none they are left alone.
+    /// \warning The old child at the last position keeps the reference that this element took, and is never
+    /// freed unless the caller releases it.  Assign to images without children only.
     VEKPrtImageElt& operator=(const VEKPrtImageElt& iOther);
 
     VEKPRT_DECLARE_META_FAMILY
 
-    /// Duplicates the children in depth; a child that cannot be duplicated is left out.  The colour table is
-    /// copied, or absent where that fails.  The identity strings are not carried over.
+    /// Duplicates the children as VEKPrtGroupElt::Duplicate does, and copies the colour table.  The copy's
+    /// table is empty or absent when allocation fails.  The identity strings are not copied.
     void Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) override;
 
+    /// The lower left corner, as this project's consumers read it.
     virtual void SetOrigin(const VEKMathPoint2D& iOrigin);
     virtual void GetOrigin(VEKMathPoint2D& oOrigin) const;
     virtual void SetSize(double iWidth, double iHeight);
@@ -59,12 +62,12 @@ public:
     virtual void SetMatrix(const VEKMath2x2Matrix& iMatrix);
     virtual void GetMatrix(VEKMath2x2Matrix& oMatrix) const;
 
-    /// Takes \p iTable over and deletes the table it had; null leaves the image without one.  The table
-    /// already held is kept.
+    /// Takes ownership of \p iTable, which must come from `new`, and deletes the table it had; null leaves
+    /// the image without one.  Setting the table already held does nothing.
     virtual void SetColourTable(VEKPrtColourTable* iTable);
 
-    /// Lends the image's own table, null if none: do not delete it.  Not const, unlike the other getters: the
-    /// mangled name is part of the binary interface.
+    /// Lends the image's own table, null if it has none: do not delete it.  Not const, unlike the other
+    /// getters: the mangled name is part of the binary interface.
     virtual void GetColourTable(VEKPrtColourTable*& oTable);
     /// \copydoc VEKPrtGroupElt::AddChild
     virtual void AddChild(VEKPrtGraphicPrimitiveElt* iChild);

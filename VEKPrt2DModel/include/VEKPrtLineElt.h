@@ -10,7 +10,7 @@
 
 extern VEKPRT2DMODEL_API VEKMetaClass* meta_object__13VEKPrtLineElt;
 
-/// A segment from a start point to an end point.
+/// A segment from a start point to an end point, which may be equal.
 class VEKPRT2DMODEL_API VEKPrtLineElt : public VEKPrtGraphicPrimitiveElt {
 public:
     VEKPrtLineElt();

@@ -5,7 +5,7 @@
 #include "VEKPrintMarkerAttribute.h"
 #include "VEKPrt2DModelExport.h"
 
-/// The symbol; how large it is drawn is the element's.
+/// The symbol; VEKPrtMarkerElt has its size and its stroke.
 class VEKPRT2DMODEL_API VEKPrtMarkerAttributes {
 public:
     /// A plus.
@@ -14,6 +14,7 @@ public:
     virtual ~VEKPrtMarkerAttributes();
     VEKPrtMarkerAttributes& operator=(const VEKPrtMarkerAttributes& iOther);
 
+    /// Any value is stored and handed back.
     virtual void SetMarkerStyle(VEKPrintMarkerAttribute iStyle);
     /// Not const: the mangled name is part of the binary interface.
     virtual void GetMarkerStyle(VEKPrintMarkerAttribute& oStyle);

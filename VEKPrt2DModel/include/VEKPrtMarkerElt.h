@@ -12,6 +12,8 @@
 extern VEKPRT2DMODEL_API VEKMetaClass* meta_object__15VEKPrtMarkerElt;
 
 /// A point and a size; the marker record says which symbol is drawn.
+///
+/// This project's consumers centre the symbol on the point, in a square whose side is the size.
 class VEKPRT2DMODEL_API VEKPrtMarkerElt : public VEKPrtGraphicPrimitiveElt {
 public:
     VEKPrtMarkerElt();

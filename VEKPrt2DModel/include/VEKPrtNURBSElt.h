@@ -9,23 +9,24 @@
 
 extern VEKPRT2DMODEL_API VEKMetaClass* meta_object__14VEKPrtNURBSElt;
 
-/// Order, control points, knots, weights and two parameter bounds.  Never evaluated here.
+/// Order, control points, knots, weights and two parameter bounds, stored and never evaluated.
 ///
-/// There are order + count knots and count weights; weights are not optional.
+/// There are order + count knots and count weights; weights are not optional.  This project's consumers draw
+/// the curve between the two bounds.
 class VEKPRT2DMODEL_API VEKPrtNURBSElt : public VEKPrtGraphicPrimitiveElt {
 public:
-    /// The bounds are 0 and 1.
+    /// No arrays; the bounds are 0 and 1.
     VEKPrtNURBSElt();
 
-    /// Reads knots and weights from their first element on.  Arrays are made only for a positive count and
-    /// three arrays given; floats are widened.
+    /// Copies the three arrays, knots and weights from their first element on, if the count is positive and
+    /// no array is null.  Floats are widened.
     VEKPrtNURBSElt(int iOrder, int iCount, const double* iControlPoints, const double* iKnots,
                    float iFirstBound, float iSecondBound, const double* iWeights);
     VEKPrtNURBSElt(int iOrder, int iCount, const float* iControlPoints, const float* iKnots,
                    float iFirstBound, float iSecondBound, const float* iWeights);
 
-    /// Copies order and arrays, but not the bounds: a copy, an assigned and a duplicated curve have the
-    /// bounds 0 and 1.  Copied from a curve that lacks one of the arrays it has a count of 0.
+    /// Copies order and arrays, but not the bounds: after copying, assignment and Duplicate they are 0 and 1.
+    /// From a curve that lacks one of the arrays, the copy has a count of 0.
     VEKPrtNURBSElt(const VEKPrtNURBSElt& iOther);
     ~VEKPrtNURBSElt() override;
     VEKPrtNURBSElt& operator=(const VEKPrtNURBSElt& iOther);
@@ -34,23 +35,29 @@ public:
 
     void Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) override;
 
-    /// Stores order, count and bounds as given, and copies of the three arrays where the count is
-    /// positive and no array is null.
+    /// Stores order, count and bounds as given, and copies the three arrays if the count is positive and no
+    /// array is null.
     ///
-    /// Unlike the constructors it reads knots and weights from their second element on: \p iKnots must
-    /// have order + count + 1 elements, \p iWeights count + 1.
+    /// \warning Unlike the constructors it reads knots and weights from their second element on: \p iKnots
+    /// must have order + count + 1 elements, \p iWeights count + 1.
     ///
     /// An array of the element's own may be passed back in its own place, control points as control points
     /// and so on.  It is then the caller's to `delete[]`, also when a new array could not be allocated; where
     /// none is made (a count of 0 or less, or another array null) it stays the element's.  Any other pointer
     /// into an own array may be passed in that place, too; the array is then freed.  Both are read to the end
-    /// of the array, zeros beyond; how long it is, the order and count before the call say, so an array that
-    /// stayed when they changed cannot be passed again.  Nor can a pointer into one array be passed in the
+    /// of the array, zeros beyond.
+    ///
+    /// The order and count before the call say how long the own arrays are, so an array that stayed when they
+    /// changed must not be passed again.  Nor must a pointer into one of the three arrays be passed in the
     /// place of another: that array may be freed before it is read.
     virtual void SetParameters(int iOrder, int iCount, const double* iControlPoints, const double* iKnots,
                                float iFirstBound, float iSecondBound, const double* iWeights);
 
     /// Lends the arrays: valid until the next SetParameters, assignment or destruction.
+    ///
+    /// Read them only if \p oCount is positive and none of the three is null.  After a failed allocation, or
+    /// with an order below minus the count, those that are there hold zeros; arrays that were passed back to
+    /// a call that made no new ones keep their old length, whatever order and count say now.
     virtual void GetParameters(int& oOrder, int& oCount, double*& oControlPoints, double*& oKnots,
                                float& oFirstBound, float& oSecondBound, double*& oWeights) const;
     virtual void SetStrokeAttributes(const VEKPrtStrokeAttributes& iAttributes);

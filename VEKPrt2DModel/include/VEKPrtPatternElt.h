@@ -13,15 +13,15 @@ extern VEKPRT2DMODEL_API VEKMetaClass* meta_object__16VEKPrtPatternElt;
 
 /// Children in a placement box, meant to be repeated.
 ///
-/// The box is stored only; this project's consumer repeats it over the box of the nearest symbol around the
-/// pattern, or over the page.  Holds one reference on each child.  Pattern and symbol are alike but for their
-/// class.
+/// The model only stores the box; this project's consumers repeat it over the box of the nearest symbol
+/// around the pattern, or over the page.  Holds one reference on each child, for each time that it was added.
+/// Pattern and symbol differ by their class only.
 class VEKPRT2DMODEL_API VEKPrtPatternElt : public VEKPrtGraphicPrimitiveElt {
 public:
     VEKPrtPatternElt();
     VEKPrtPatternElt(const VEKMathPoint2D& iOrigin, double iWidth, double iHeight);
 
-    /// Shares the children: each gains a reference.
+    /// \copydoc VEKPrtGroupElt::VEKPrtGroupElt(const VEKPrtGroupElt&)
     VEKPrtPatternElt(const VEKPrtPatternElt& iOther);
     ~VEKPrtPatternElt() override;
     /// \copydoc VEKPrtGroupElt::operator=

@@ -10,8 +10,8 @@
 
 extern VEKPRT2DMODEL_API VEKMetaClass* meta_object__20VEKPrtPolyPolygonElt;
 
-/// The points of all polygons, one polygon after the other, and the number of points of each: for example
-/// an outline and its holes.
+/// The points of all polygons, one polygon after the other, and the number of points of each: for example an
+/// outline and its holes.
 ///
 /// Writing through the lent arrays changes the element.  Counts may be lowered there, never raised: how many
 /// points the element copies or reads is the sum of its counts.
@@ -19,11 +19,11 @@ class VEKPRT2DMODEL_API VEKPrtPolyPolygonElt : public VEKPrtGraphicPrimitiveElt 
 public:
     VEKPrtPolyPolygonElt();
 
-    /// As SetPoints, but no point array is made for a total of 0 or less; floats are widened.
+    /// Like SetPoints, but a total of 0 gives no point array; floats are widened.
     VEKPrtPolyPolygonElt(const double* iPoints, const int* iCounts, int iPolygonCount);
     VEKPrtPolyPolygonElt(const float* iPoints, const int* iCounts, int iPolygonCount);
 
-    /// Copies the arrays.  A source that lacks one of them counts as one without polygons.
+    /// Copies the arrays.  From an element that lacks one of them, the copy has no polygons.
     VEKPrtPolyPolygonElt(const VEKPrtPolyPolygonElt& iOther);
     ~VEKPrtPolyPolygonElt() override;
     VEKPrtPolyPolygonElt& operator=(const VEKPrtPolyPolygonElt& iOther);
@@ -35,14 +35,14 @@ public:
 
     /// Replaces points and counts by copies.
     ///
-    /// \p iPoints holds x0, y0, x1, y1, ... of as many points as the counts add up to; counts are not
-    /// checked, and a negative one lowers the total.  A total of 0, also that of no polygons, leaves a point
-    /// array of no length, a negative total none.  A negative \p iPolygonCount is kept and leaves no arrays.
-    /// Null counts are zeros, null points (0, 0).  When allocation fails the array concerned is null; without
-    /// counts there are no points either.
+    /// \p iPoints holds x0, y0, x1, y1, ... of as many points as the counts add up to.  Counts are not
+    /// checked, and a negative one lowers the total.  A total of 0 gives a zero-length point array, a
+    /// negative total none.  A negative \p iPolygonCount is stored and gives no arrays.  Null \p iCounts give
+    /// zeros, null \p iPoints (0, 0).  When allocation fails the array concerned is null; without counts
+    /// there are no points either.
     ///
-    /// Arguments may lie in the element's own arrays, which are read as far as they go, zero beyond, and then
-    /// freed.
+    /// Arguments may lie in the element's own arrays: they are read to the end of the array, zeros beyond,
+    /// and the array is then freed.
     virtual void SetPoints(const double* iPoints, const int* iCounts, int iPolygonCount);
 
     /// Lends the arrays: valid until the next SetPoints, assignment or destruction.

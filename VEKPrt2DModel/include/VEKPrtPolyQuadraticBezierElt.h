@@ -11,7 +11,8 @@ class VEKListPtrVEKMathPoint2D;
 
 extern VEKPRT2DMODEL_API VEKMetaClass* meta_object__28VEKPrtPolyQuadraticBezierElt;
 
-/// Control points: a start, then two for each curve.  Any count is accepted.
+/// Control points: a start, then two for each curve.  Any count is stored; this project's consumers leave out
+/// an incomplete last curve.
 class VEKPRT2DMODEL_API VEKPrtPolyQuadraticBezierElt : public VEKPrtGraphicPrimitiveElt {
 public:
     VEKPrtPolyQuadraticBezierElt();
@@ -19,15 +20,16 @@ public:
     /// \copydoc VEKPrtPolylineElt::VEKPrtPolylineElt(const VEKListPtrVEKMathPoint2D&)
     VEKPrtPolyQuadraticBezierElt(const VEKListPtrVEKMathPoint2D& iPoints);
 
-    /// As SetPoints; floats are widened.
+    /// Like SetPoints; floats are widened.
     VEKPrtPolyQuadraticBezierElt(const double* iPoints, int iCount);
     VEKPrtPolyQuadraticBezierElt(const float* iPoints, int iCount);
 
-    /// Copies the array.  A source without an array counts as one without points.
+    /// Copies the array.  From an element without an array, the count is not copied either.
     VEKPrtPolyQuadraticBezierElt(const VEKPrtPolyQuadraticBezierElt& iOther);
     ~VEKPrtPolyQuadraticBezierElt() override;
 
-    /// Copies the array; where neither element has one, the count of this one stays.
+    /// Copies the array as the copy constructor does; if neither element has one, the count of this one
+    /// stays.
     VEKPrtPolyQuadraticBezierElt& operator=(const VEKPrtPolyQuadraticBezierElt& iOther);
 
     VEKPRT_DECLARE_META_FAMILY

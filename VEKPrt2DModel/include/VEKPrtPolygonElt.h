@@ -17,19 +17,23 @@ class VEKPRT2DMODEL_API VEKPrtPolygonElt : public VEKPrtGraphicPrimitiveElt {
 public:
     VEKPrtPolygonElt();
 
-    /// Copies the points at positions 0 to the list's size less 1, so that the first is (0, 0) and the last
-    /// is not read; a null entry gives (0, 0).  An empty list gives no array.
+    /// Copies positions 0 to the list's size less 1; a null entry gives (0, 0).  An empty list gives no
+    /// array.
+    ///
+    /// \warning Lists start at position 1: the first point is (0, 0), and the last point of the list is left
+    /// out.  Use an array of coordinates instead.
     VEKPrtPolygonElt(const VEKListPtrVEKMathPoint2D& iPoints);
 
-    /// As SetPoints; floats are widened.
+    /// Like SetPoints; floats are widened.
     VEKPrtPolygonElt(const double* iPoints, int iCount);
     VEKPrtPolygonElt(const float* iPoints, int iCount);
 
-    /// Copies the array.  A source without an array counts as one without points.
+    /// Copies the array.  From an element without an array, the count is not copied either.
     VEKPrtPolygonElt(const VEKPrtPolygonElt& iOther);
     ~VEKPrtPolygonElt() override;
 
-    /// Copies the array; where neither element has one, the count of this one stays.
+    /// Copies the array as the copy constructor does; if neither element has one, the count of this one
+    /// stays.
     VEKPrtPolygonElt& operator=(const VEKPrtPolygonElt& iOther);
 
     VEKPRT_DECLARE_META_FAMILY

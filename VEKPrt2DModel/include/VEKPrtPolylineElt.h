@@ -17,18 +17,19 @@ public:
     VEKPrtPolylineElt();
 
     /// Copies the points at positions 1 to the list's size; a null entry gives (0, 0).  An empty list gives
-    /// no array, where SetPoints with a count of 0 gives one.
+    /// no array, unlike SetPoints with a count of 0.
     VEKPrtPolylineElt(const VEKListPtrVEKMathPoint2D& iPoints);
 
-    /// As SetPoints; floats are widened.
+    /// Like SetPoints; floats are widened.
     VEKPrtPolylineElt(const double* iPoints, int iCount);
     VEKPrtPolylineElt(const float* iPoints, int iCount);
 
-    /// Copies the array.  A source without an array counts as one without points.
+    /// Copies the array.  From an element without an array, the count is not copied either.
     VEKPrtPolylineElt(const VEKPrtPolylineElt& iOther);
     ~VEKPrtPolylineElt() override;
 
-    /// Copies the array; where neither element has one, the count of this one stays.
+    /// Copies the array as the copy constructor does; if neither element has one, the count of this one
+    /// stays.
     VEKPrtPolylineElt& operator=(const VEKPrtPolylineElt& iOther);
 
     VEKPRT_DECLARE_META_FAMILY
@@ -37,11 +38,11 @@ public:
 
     /// Replaces the points by a copy of \p iCount points (x0, y0, x1, y1, ...).
     ///
-    /// A count of 0 leaves an array of no length, a negative count no array; the count is kept as given,
-    /// also when allocation fails and there is no array.  A null \p iPoints gives points at (0, 0).
+    /// A count of 0 gives a zero-length array, a negative count no array.  The count is stored as given, also
+    /// when allocation fails and there is no array.  A null \p iPoints gives points at (0, 0).
     ///
-    /// \p iPoints may lie in the element's own array, which is read as far as it goes, (0, 0) beyond, and
-    /// then freed.
+    /// \p iPoints may lie in the element's own array: it is read to the end of the array, (0, 0) beyond, and
+    /// the array is then freed.
     virtual void SetPoints(const double* iPoints, int iCount);
 
     /// Lends the array: valid until the next SetPoints, assignment or destruction.

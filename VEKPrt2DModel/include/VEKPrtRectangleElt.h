@@ -11,7 +11,8 @@
 
 extern VEKPRT2DMODEL_API VEKMetaClass* meta_object__18VEKPrtRectangleElt;
 
-/// Two opposite corners, in any order and kept in that order.
+/// Two opposite corners, in any order, and kept in that order.  The sides are parallel to the axes;
+/// transforms rotate the rectangle.
 class VEKPRT2DMODEL_API VEKPrtRectangleElt : public VEKPrtGraphicPrimitiveElt {
 public:
     VEKPrtRectangleElt();
@@ -22,8 +23,11 @@ public:
 
     VEKPRT_DECLARE_META_FAMILY
 
-    /// The copy has a pattern image of its own, none where that cannot be copied.  The one that it shared
-    /// meanwhile is not given back: the source's image keeps a reference that is never released.
+    /// The copy has a pattern image of its own, or none where that cannot be copied.
+    ///
+    /// \warning If the fill has a pattern image, this element's image keeps a reference that is never
+    /// released, so the image is never freed.  To avoid this, duplicate first and set the pattern on both
+    /// elements afterwards.
     void Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) override;
 
     virtual void SetPoints(const VEKMathPoint2D& iFirst, const VEKMathPoint2D& iSecond);

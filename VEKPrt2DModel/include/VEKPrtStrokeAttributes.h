@@ -7,7 +7,8 @@
 
 /// Colour, line type with an optional dash pattern, width, style, cap and join.
 ///
-/// Colours are indices into the page's colour table.  Copies own their dash pattern.
+/// Every value is stored and handed back; docs/drawing.md says how this project's consumers read it.  Each
+/// copy owns its dash pattern.
 class VEKPRT2DMODEL_API VEKPrtStrokeAttributes {
 public:
     /// Colour 0, transparency 255, a width of 0.1 (the float), solid and scaled, butt caps, mitred joins.
@@ -15,37 +16,43 @@ public:
     VEKPrtStrokeAttributes(const VEKPrtStrokeAttributes& iOther);
     virtual ~VEKPrtStrokeAttributes();
 
-    /// Where neither record holds a pattern the count is left as it is, too, which shows only after a failed
-    /// allocation.
+    /// If neither record holds a pattern, the length is also left unchanged (visible only after a failed
+    /// allocation).
     VEKPrtStrokeAttributes& operator=(const VEKPrtStrokeAttributes& iOther);
 
-    /// 1 when all fields and dash entries are exactly equal, else 0.
+    /// 1 if all fields and dash entries are exactly equal, otherwise 0.
     int operator==(const VEKPrtStrokeAttributes& iOther) const;
 
+    /// An index from 0 into the colour table of the page.
     virtual void SetStrokeColourIndex(unsigned int iIndex);
     virtual void GetStrokeColourIndex(unsigned int& oIndex) const;
 
-    /// From 0 to 255, the default, which this project's consumer reads as opaque.
+    /// From 0, fully transparent, to 255, opaque and the default.
     virtual void SetStrokeColourTransparency(unsigned char iTransparency);
     /// Not const, unlike its neighbours: the mangled name is part of the binary interface.
     virtual void GetStrokeColourTransparency(unsigned char& oTransparency);
+    /// Solid, dashed and so on.  This project's consumers ignore it where the record has a dash pattern.
     virtual void SetStrokeType(VEKPrintLineAttribute iType);
     virtual void GetStrokeType(VEKPrintLineAttribute& oType) const;
 
-    /// Replaces the dash pattern by a copy of \p iCount values.
+    /// Replaces the dash pattern by a copy of \p iCount values, the lengths of dashes and gaps in turn.
     ///
-    /// Count 0 drops the pattern.  Null values with a count give a pattern of zeros, but null does
-    /// nothing at all while no pattern is held.  When allocation fails the new count is stored and no pattern
-    /// is held: it compares as zeros, and only values that are not null can replace it.
+    /// A count of 0 drops the pattern.  Null \p iValues with a count give a pattern of zeros, but do nothing
+    /// while no pattern is held.  When allocation fails, the new count is stored and no pattern is held: the
+    /// record compares and is read as if the pattern were zeros, and only values that are not null replace
+    /// it.
     virtual void SetStrokeTypePattern(const float* iValues, unsigned char iCount);
 
-    /// Hands out a fresh copy, the caller's to `delete[]`; null when allocation fails.
+    /// Hands out a new copy of \p oCount values, the caller's to `delete[]`; null when its allocation fails.
     ///
-    /// With no pattern, \p oCount is 0 and \p oValues is not written: preset it.
+    /// If \p oCount is 0, \p oValues is not written: preset it.  A pattern lost to a failed allocation is
+    /// handed out as zeros.
     virtual void GetStrokeTypePattern(float*& oValues, unsigned char& oCount) const;
 
+    /// In units of the page.
     virtual void SetStrokeWidth(double iWidth);
     virtual void GetStrokeWidth(double& oWidth) const;
+    /// Whether transforms scale the width.
     virtual void SetStrokeStyle(VEKPrintLineAttribute iStyle);
     virtual void GetStrokeStyle(VEKPrintLineAttribute& oStyle) const;
     virtual void SetStrokeCap(VEKPrintLineAttribute iCap);

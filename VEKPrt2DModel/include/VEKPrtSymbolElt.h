@@ -13,15 +13,15 @@ extern VEKPRT2DMODEL_API VEKMetaClass* meta_object__15VEKPrtSymbolElt;
 
 /// Children in a placement box, meant to be used again.
 ///
-/// To place a symbol several times, add it to several groups, each with the transforms of one place.  The box
-/// is stored only; this project's consumer clips the symbol to it.  Holds one reference on each child.
-/// Pattern and symbol are alike but for their class.
+/// To place a symbol several times, add it to several groups, each with the transforms of one place.  The
+/// model only stores the box; this project's consumers clip the symbol to it.  Holds one reference on each
+/// child, for each time that it was added.  Pattern and symbol differ by their class only.
 class VEKPRT2DMODEL_API VEKPrtSymbolElt : public VEKPrtGraphicPrimitiveElt {
 public:
     VEKPrtSymbolElt();
     VEKPrtSymbolElt(const VEKMathPoint2D& iOrigin, double iWidth, double iHeight);
 
-    /// Shares the children: each gains a reference.
+    /// \copydoc VEKPrtGroupElt::VEKPrtGroupElt(const VEKPrtGroupElt&)
     VEKPrtSymbolElt(const VEKPrtSymbolElt& iOther);
     ~VEKPrtSymbolElt() override;
     /// \copydoc VEKPrtGroupElt::operator=

@@ -13,10 +13,9 @@
 
 extern VEKPRT2DMODEL_API VEKMetaClass* meta_object__13VEKPrtTextElt;
 
-/// A string, its position, and the richest set of records: stroke, fill, text and transform.
+/// A string and its position, with records for stroke, fill, text and transform.
 ///
-/// The draw style of a new text is that of a new shape: a consumer that reads draw styles this way outlines
-/// the letters without filling them.
+/// A new text has the draw style of a new shape, VEKPrtDrawOutline: its letters are outlined, not filled.
 class VEKPRT2DMODEL_API VEKPrtTextElt : public VEKPrtGraphicPrimitiveElt {
 public:
     VEKPrtTextElt();
@@ -27,7 +26,7 @@ public:
 
     VEKPRT_DECLARE_META_FAMILY
 
-    /// The copy shares the fill's pattern image, with a reference of its own, and the font.
+    /// The copy shares the fill's pattern image, with a reference of its own, and borrows the same font.
     void Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) override;
 
     virtual void SetPosition(const VEKMathPoint2D& iPosition);

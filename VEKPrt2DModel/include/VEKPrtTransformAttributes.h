@@ -9,9 +9,9 @@
 
 /// Elementary transforms in order of addition, each read back by its position.
 ///
-/// Nothing is composed or applied; units and the meaning of the order are the consumer's.  Copies
-/// are independent.  Status operations return 1 for success and -1 for failure, and write their
-/// outputs only on success.
+/// Transforms are never composed or applied.  This project's consumers take the first as the outermost and
+/// read angles as degrees, counter-clockwise.  Copies are independent.  Operations with a status return 1 for
+/// success and -1 for failure, and write their outputs only on success.
 class VEKPRT2DMODEL_API VEKPrtTransformAttributes {
 public:
     /// Empty.
@@ -22,25 +22,26 @@ public:
 
     /// Hands out the record's own list of kinds, valid until the record changes.
     ///
-    /// Null when empty, and also with a count when a failed addition has lost the list: test the pointer.
+    /// The list is null if it is empty, and, in spite of its count, if a failed addition has lost it: test
+    /// the pointer.
     virtual int GetTransformTab(unsigned int& oCount, VEKPrintTransformType*& oKinds) const;
 
-    /// Appends the transforms of \p iOther one by one, by its virtual Get and this record's virtual
-    /// Add operations.  A status that is not positive ends the operation and is returned; what was
-    /// appended so far stays.  Not meant for the record itself: that ends with -1 after the first addition,
-    /// unless it was the last.
+    /// Appends the transforms of \p iOther one by one, by its virtual Get and this record's virtual Add
+    /// operations.  A status that is not positive ends the operation and is returned; what was appended so
+    /// far stays.  A record is not to be appended to itself: that ends with -1 after the first addition,
+    /// unless this was for the last entry.
     virtual int AddTransformAttributes(const VEKPrtTransformAttributes& iOther);
 
     /// \name The seven kinds
     ///
     /// Each Add appends a value and its kind.  When allocation fails it returns -1, and either the values of
-    /// that kind are lost or, after the value was appended, the list of all kinds.  Their count
-    /// stays: the next addition puts zeros, or default matrices, in the lost places, and a lost kind becomes
-    /// kind 0, a matrix.
+    /// that kind are lost or, after the value was appended, the list of all kinds.  The count of what was
+    /// lost stays raised: the next addition fills the lost places with zeros or default matrices, and lost
+    /// kinds become kind 0, a matrix.
     ///
-    /// Each Get takes a position, from 0, among all transforms.  If n entries of its kind stand up to and
+    /// Each Get takes a position, from 0, among all transforms.  If there are n entries of its kind up to and
     /// including that position, it yields the n-th value added of the kind; the entry at the position itself
-    /// may be of another kind.  Get returns -1 past the end, where n is 0, and where fewer than n values were
+    /// may be of another kind.  Get returns -1 past the end, if n is 0, and if fewer than n values were
     /// added.
     /// @{
     virtual int AddMatrix(const VEKMath2x2Matrix& iMatrix);
@@ -61,13 +62,14 @@ public:
 
     /// Appends a kind without a value.
     ///
-    /// The n-th entry of a kind goes with the n-th value added of that kind: a value added later goes with
-    /// this entry, if no other entry of the kind lacks one, and the entry made for that value has none.
+    /// The n-th entry of a kind goes with the n-th value added of that kind.  So a value of the kind that is
+    /// added later goes with this entry, unless an earlier one has no value yet, and the entry added together
+    /// with that value has none.
     virtual int AddTransform(const VEKPrintTransformType& iKind);
 
 private:
-    // The kinds or the values of one kind: an array exactly as long as its count, or, after a failed
-    // addition, none.
+    // The kinds, or the values of one kind: an array exactly as long as its count, or none after a failed
+    // addition.
     template <class Value>
     struct VEKPRT2DMODEL_LOCAL Values {
         Values() = default;
