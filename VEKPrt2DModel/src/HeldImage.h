@@ -7,10 +7,10 @@
 namespace vekprt {
 
 /// Makes \p ioHeld hold \p iImage; either may be null.  The old image is released before the new one gains
-/// its reference, and the image already held keeps its count.
+/// its reference.  The image already held keeps its count.
 ///
-/// \p iImage is a reference because it may be the field of another record, which the destructor of the old
-/// image may change.
+/// \p iImage is a reference because it may be the field of another record that the destructor of the old
+/// image changes.
 inline void HoldImage(VEKPixelImage*& ioHeld, VEKPixelImage* const& iImage) {
     if (iImage == ioHeld) return;
     if (ioHeld) ioHeld->Release();

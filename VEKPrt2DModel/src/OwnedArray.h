@@ -1,4 +1,4 @@
-// Arrays that an object owns: allocation that never throws, copying that never reads what is not there.
+// Arrays that an object owns: allocation never throws, and copying never reads beyond the source.
 #ifndef OwnedArray_H
 #define OwnedArray_H
 
@@ -12,9 +12,9 @@ namespace vekprt {
 
 /// An array of \p iCount elements, left uninitialised if their type has no constructor.
 ///
-/// A count of 0 also yields an array.  Null when the count is negative, the size does not fit, or allocation
-/// fails.  The tests come first because g++ throws from `new (std::nothrow)` for lengths that it considers
-/// too long.
+/// A count of 0 yields a zero-length array.  Null if the count is negative, the size does not fit, or
+/// allocation fails.  The tests come first because g++ throws from `new (std::nothrow)` for lengths that it
+/// considers too long.
 template <class T>
 T* NewArray(std::int64_t iCount) {
     constexpr std::int64_t limit = PTRDIFF_MAX / static_cast<std::int64_t>(sizeof(T));
@@ -28,8 +28,8 @@ void DeleteArray(T*& ioArray) {
     ioArray = nullptr;
 }
 
-/// Gives all \p iCount elements of an array a value: the first \p iReadable that of the source, converted,
-/// the others \p iBlank.  Without a source all are blank; without an array nothing happens.
+/// Fills an array of \p iCount elements: the first \p iReadable with those of the source, converted, the
+/// others with \p iBlank.  Without a source all are blank; without an array nothing happens.
 template <class Target, class Source>
 void FillArray(Target* oTarget, std::int64_t iCount, const Source* iSource, std::int64_t iReadable,
                const Target& iBlank = Target()) {

@@ -32,9 +32,9 @@ void VEKPrtFillAttributes::CopyPlacement(const VEKPrtFillAttributes& iOther) {
     _refPoint = iOther._refPoint;
 }
 
-// The target's image is overwritten unreleased: an element that was assigned before its fill is duplicated
-// shares the image by then, and the reference taken for that is never given back
-// (DuplicateFill.ShapesLeaveAReferenceBehind).
+// The target's image is overwritten without being released.  A shape's Duplicate assigns first, so its copy
+// shares the image by then: that reference is never released, and callers who duplicate a shape with a
+// pattern image keep the image for good (README, Copying).
 void VEKPrtFillAttributes::Duplicate(VEKPrtFillAttributes& oTarget) {
     oTarget.CopyColour(*this);
     if (_image) oTarget._image = _image->Clone();

@@ -1,7 +1,6 @@
 #include "VEKPrtGroupAttributes.h"
 
-// Assigned although a default link stands there already: a host's link type sees an assignment from a fresh
-// one.
+// Assigned, not only default-constructed: a host's link type may depend on it.
 VEKPrtGroupAttributes::VEKPrtGroupAttributes() { _linkURI = VEKPrintLinkURI(); }
 
 VEKPrtGroupAttributes::VEKPrtGroupAttributes(const VEKPrtGroupAttributes& iOther) { *this = iOther; }
@@ -13,8 +12,7 @@ VEKPrtGroupAttributes& VEKPrtGroupAttributes::operator=(const VEKPrtGroupAttribu
     return *this;
 }
 
-// By value, and the argument assigned, not moved: the link is the host's type, and copying is all that is
-// asked of it.
+// Assigned, not moved: the library asks no more of a host's link type than copying.
 // NOLINTNEXTLINE(performance-unnecessary-value-param)
 void VEKPrtGroupAttributes::SetLinkURI(VEKPrintLinkURI iURI) { _linkURI = iURI; }
 void VEKPrtGroupAttributes::GetLinkURI(VEKPrintLinkURI& oURI) const { oURI = _linkURI; }

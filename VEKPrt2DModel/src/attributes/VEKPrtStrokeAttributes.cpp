@@ -16,9 +16,8 @@ VEKPrtStrokeAttributes::VEKPrtStrokeAttributes(const VEKPrtStrokeAttributes& iOt
 VEKPrtStrokeAttributes::~VEKPrtStrokeAttributes() { vekprt::DeleteArray(_pattern); }
 
 VEKPrtStrokeAttributes& VEKPrtStrokeAttributes::operator=(const VEKPrtStrokeAttributes& iOther) {
-    // Where neither holds a pattern the length is not copied either, even if a failed allocation has left
-    // them with different ones (StrokeFailure.AssignmentKeepsTheLength).  In a self-assignment the pattern is
-    // kept.
+    // If neither holds a pattern, the length is not copied either: after a failed allocation the target can
+    // differ from the source.  In a self-assignment the pattern is kept.
     if (_pattern != iOther._pattern) ReplacePattern(iOther._pattern, iOther._patternLength);
     CopyPlainFields(iOther);
     return *this;
@@ -63,7 +62,7 @@ void VEKPrtStrokeAttributes::GetStrokeColourTransparency(unsigned char& oTranspa
 void VEKPrtStrokeAttributes::SetStrokeType(VEKPrintLineAttribute iType) { _type = iType; }
 void VEKPrtStrokeAttributes::GetStrokeType(VEKPrintLineAttribute& oType) const { oType = _type; }
 
-// The test is for the pointer, so null with any count does nothing to a record without a pattern.
+// Compares the pointers: null with any count does nothing to a record without a pattern.
 void VEKPrtStrokeAttributes::SetStrokeTypePattern(const float* iValues, unsigned char iCount) {
     if (iValues != _pattern) ReplacePattern(iValues, iCount);
 }

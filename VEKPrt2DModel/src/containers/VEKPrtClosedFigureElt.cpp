@@ -33,7 +33,8 @@ void VEKPrtClosedFigureElt::ReplaceContents(const VEKPrtClosedFigureElt& iOther)
     _transform = iOther._transform;
 }
 
-// The copy's fill is fresh when it is duplicated into, so no reference is left behind, unlike the shapes'.
+// Unlike that of the shapes, this leaves no reference behind on the pattern image: the copy's fill is still
+// empty when it is duplicated into.
 void VEKPrtClosedFigureElt::Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) {
     auto* const copy = vekprt::DuplicateByConstruction<VEKPrtClosedFigureElt>(oCopy);
     if (!copy) return;

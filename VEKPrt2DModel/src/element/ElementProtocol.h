@@ -7,21 +7,21 @@
 
 namespace vekprt {
 
-/// Registers a class and keeps its meta-object in \p oCache; null when that could not be allocated, so that a
+/// Registers a class and keeps its meta-object in \p oCache; null when that cannot be allocated, so that a
 /// later call tries again.  A class whose base has no meta-object is registered without a base.
 VEKMetaClass* RegisterClass(VEKMetaClass*& oCache, const char* iClassName, VEKMetaClass* iBase,
                             const char* iLateType, long iSize);
 
-// What a class answers while it has no meta-object: null, and 0.
+// For a class that has no meta-object: null, and 0.
 const char* IdOf(const VEKMetaClass* iClass);
 const char* NameOf(const VEKMetaClass* iClass);
 int IsAKindOf(const VEKMetaClass* iClass, const char* iClassName);
 
-// The copy constructor of an element class starts from a default object, base included, so that a copy
-// carries no identity strings, and calls CopyOwn: fields in order of declaration, then records.  A copy of
-// itself is a default object, as there is nothing else in it to copy.
+// The copy constructor of an element class starts from a default object, base included, so that a copy has no
+// identity strings, and calls CopyOwn: fields in order of declaration, then records.  In containers this is
+// ReplaceContents, which in an assignment also releases the old children.
 
-/// Assignment of an element class, around its own CopyOwn: the base first.
+/// Assignment of an element class: the base first, then by its own CopyOwn.
 template <class Element>
 void Assign(Element& ioTarget, const Element& iSource, void (Element::*iCopyOwn)(const Element&)) {
     if (&iSource == &ioTarget) return;
@@ -29,9 +29,8 @@ void Assign(Element& ioTarget, const Element& iSource, void (Element::*iCopyOwn)
     (ioTarget.*iCopyOwn)(iSource);
 }
 
-// The recipes of duplication.  Which one a class uses can be seen from what it allocates, and from what the
-// copy holds when an allocation fails part-way, so each class keeps its own
-// (EveryStroked.DuplicatesByItsRecipe).
+// The recipes of duplication.  Clients can observe which one a class uses (allocations, partial failures), so
+// each class keeps its own.
 
 /// Duplicates by default construction, then assignment.  The new element, null when it cannot be allocated,
 /// is stored into \p oCopy before anything else, and returned with its own type.
@@ -43,7 +42,7 @@ Element* DuplicateByAssignment(const Element& iSource, Out*& oCopy) {
     return copy;
 }
 
-/// Duplicates by copy construction, then assignment, which brings the identity strings.
+/// Duplicates by copy construction, then assignment, which also copies the identity strings.
 template <class Element, class Out>
 Element* DuplicateByCopying(const Element& iSource, Out*& oCopy) {
     Element* const copy = new Element(iSource);
@@ -52,7 +51,7 @@ Element* DuplicateByCopying(const Element& iSource, Out*& oCopy) {
     return copy;
 }
 
-/// Duplicates by default construction alone: the class then copies what it wants, without identity strings.
+/// Duplicates by default construction alone: the class then copies its contents, without identity strings.
 template <class Element, class Out>
 Element* DuplicateByConstruction(Out*& oCopy) {
     Element* const copy = new Element;
@@ -63,7 +62,7 @@ Element* DuplicateByConstruction(Out*& oCopy) {
 } // namespace vekprt
 
 // The source half of VEKPRT_DECLARE_META_FAMILY.  A macro because the name of the class becomes a string and
-// part of a symbol; a wrong length of the name stops the build.  The queries answer for the class that
+// part of a symbol.  A wrong length of the name fails to compile.  The queries answer for the class that
 // defines them, not for the dynamic class.
 #define VEKPRT_IMPLEMENT_META_FAMILY(Self, NameLength, Base)                                                 \
     static_assert(sizeof(#Self) - 1 == (NameLength), #Self ": wrong length of the name");                    \

@@ -4,7 +4,7 @@
 
 VEKPRT_IMPLEMENT_META_FAMILY(VEKPrtGraphicPrimitiveElt, 25, VEKBaseUnknown)
 
-// Here and elsewhere strings are default-constructed and then assigned: nothing else is asked of a host's
+// Here and elsewhere strings are default-constructed and then assigned: the library asks no more of a host's
 // string type.
 VEKPrtGraphicPrimitiveElt::VEKPrtGraphicPrimitiveElt() {
     _id = "";
@@ -12,7 +12,7 @@ VEKPrtGraphicPrimitiveElt::VEKPrtGraphicPrimitiveElt() {
     _title = "";
 }
 
-// The framework's part starts anew.
+// The framework's part is not copied: the count starts at 1 and the data words are null.
 // NOLINTNEXTLINE(bugprone-copy-constructor-init)
 VEKPrtGraphicPrimitiveElt::VEKPrtGraphicPrimitiveElt(const VEKPrtGraphicPrimitiveElt& iOther)
     : VEKBaseUnknown() {
@@ -34,7 +34,7 @@ void VEKPrtGraphicPrimitiveElt::CopyOwn(const VEKPrtGraphicPrimitiveElt& iOther)
     _title = iOther._title;
 }
 
-// The strings alone: unlike an assignment this leaves the framework's data words of the copy at their
+// Copies the strings only: unlike assignment, this leaves the framework's data words of the copy at their
 // defaults.
 void VEKPrtGraphicPrimitiveElt::Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) {
     auto* const copy = vekprt::DuplicateByConstruction<VEKPrtGraphicPrimitiveElt>(oCopy);

@@ -59,9 +59,9 @@ void VEKPrtBitmapImageElt::GetOrientation(float& oOrientation) const { oOrientat
 void VEKPrtBitmapImageElt::SetPixelImage(VEKPixelImage* iImage) { vekprt::HoldImage(_image, iImage); }
 void VEKPrtBitmapImageElt::GetPixelImage(VEKPixelImage*& oImage) const { oImage = _image; }
 
-// The test is the wrong way round on purpose: the image already held is released, last of all because the
-// reference may be its only one, and a different image held before is not and outlives the element.  The
-// orientation is ignored.  Clients see both, so they stay (BitmapImage.SetParametersKeepsTheOldImage).
+// Inverted on purpose: the image already held is released, after the new reference was taken as the old one
+// may be its last, and a different image held before is not: callers who replace an image by this function
+// still own the old one.  The orientation is ignored.
 void VEKPrtBitmapImageElt::SetParameters(const VEKMathPoint2D& iOrigin, double iWidth, double iHeight,
                                          double /*iOrientation*/, VEKPixelImage* iImage) {
     VEKPixelImage* const heldAlready = iImage == _image ? iImage : nullptr;

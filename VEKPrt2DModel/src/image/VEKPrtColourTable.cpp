@@ -30,8 +30,8 @@ VEKPrtColourTable::~VEKPrtColourTable() {
 }
 
 VEKPrtColourTable& VEKPrtColourTable::operator=(const VEKPrtColourTable& iOther) {
-    // By pointer: two tables without arrays count as one and the same.  The three arrays are
-    // always set and freed together, so testing one is enough, here and below.
+    // By pointer: assignment between two tables without arrays does nothing.  The three arrays are always set
+    // and freed together, so testing one is enough, here and below.
     if (_red == iOther._red) return *this;
     vekprt::DeleteArray(_red);
     vekprt::DeleteArray(_green);
@@ -40,8 +40,8 @@ VEKPrtColourTable& VEKPrtColourTable::operator=(const VEKPrtColourTable& iOther)
     return *this;
 }
 
-// Where one of the arrays cannot be allocated, or the source has none, the copy is empty; arrays that were
-// allocated are not freed (Random.AgreesWithAPlainModel).
+// If one of the arrays cannot be allocated, or the source has none, the copy is empty; arrays that were
+// allocated are not freed, so callers lose their memory.
 void VEKPrtColourTable::CopyOwn(const VEKPrtColourTable& iOther) {
     _capacity = _count = _allocated = 0;
     if (iOther._capacity == 0) return;
@@ -64,9 +64,8 @@ int VEKPrtColourTable::GetColourCount(int& oCount) const {
     return 1;
 }
 
-// One slot always stays free: the arrays grow when a single one is left, the last is used only after a growth
-// has failed (ColourTableFailure.CapacityStaysRaised).  Where a failed growth has left the capacity above
-// what the arrays hold, the next addition that does not fit takes arrays of the capacity as it stands.
+// The arrays grow when a single entry is left free; that last one is used only after a growth has failed.
+// Then the capacity is larger than the arrays, and the next addition that does not fit allocates it.
 int VEKPrtColourTable::AddColour(unsigned char iRed, unsigned char iGreen, unsigned char iBlue,
                                  unsigned int& oIndex) {
     if (_count + 1 >= _capacity) {
@@ -82,8 +81,8 @@ int VEKPrtColourTable::AddColour(unsigned char iRed, unsigned char iGreen, unsig
     return 1;
 }
 
-// Takes arrays of the capacity.  When one cannot be allocated the old ones stay in use, the capacity stays as
-// it is, and arrays allocated before are not freed (ColourTableFailure.CapacityStaysRaised).
+// Allocates arrays of the capacity.  If one cannot be allocated, the old ones stay in use, the capacity stays
+// raised, and those allocated before it are not freed, so callers lose their memory.
 bool VEKPrtColourTable::Reallocate() {
     unsigned char* const red = vekprt::NewArray<unsigned char>(_capacity);
     if (!red) return false;

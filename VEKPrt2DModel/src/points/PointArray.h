@@ -7,10 +7,10 @@
 
 namespace vekprt {
 
-// An array, where there is one, holds exactly as many points as its count says.  There is none when the count
-// is negative or the allocation failed.
+// An array holds exactly as many points as its count says.  There is none if the count is negative or the
+// allocation failed.
 
-/// A copy of \p iCount points: an array of no length for 0, none for a negative count.
+/// A copy of \p iCount points: a zero-length array for 0, none for a negative count.
 template <class Coordinate>
 double* NewPoints(const Coordinate* iPoints, int iCount) {
     const std::int64_t coordinates = 2 * std::int64_t{iCount};
@@ -19,9 +19,8 @@ double* NewPoints(const Coordinate* iPoints, int iCount) {
 
 /// A copy of \p iCount points from position \p iFirst of the list on; null for a count of 0 or less.
 ///
-/// From position 1 that is the whole list; from 0 the first point is (0, 0), for the null there, and the last
-/// is left out.  The classes differ in it, and clients see which points they get, so each keeps its own
-/// (EveryPointArray.ConstructsFromLists).
+/// From position 1 this is the whole list; from 0 the first point is (0, 0), for the null there, and the last
+/// is left out.  Polygons and disjoint polylines start at 0: callers lose the last point of their list.
 inline double* NewPointsFromList(const VEKListPtrVEKMathPoint2D& iList, int iCount, int iFirst) {
     double* const points = iCount > 0 ? NewArray<double>(2 * std::int64_t{iCount}) : nullptr;
     double* coordinate = points;
@@ -41,8 +40,8 @@ inline void ReplacePoints(double*& ioPoints, int& ioCount, const double* iPoints
     ioPoints = NewCopy<double>(coordinates, iPoints, old.CountReadable(coordinates));
 }
 
-/// Copying.  Two elements without an array are left alone, counts included; otherwise a source without
-/// an array counts as one without points.
+/// Copying.  If neither element has an array, the target's count stays; otherwise the count of a source
+/// without an array is taken as 0.
 inline void CopyPoints(double*& ioPoints, int& ioCount, const double* iPoints, int iCount) {
     if (ioPoints == iPoints) return;
     DeleteArray(ioPoints);

@@ -7,7 +7,7 @@ VEKPRT_IMPLEMENT_META_FAMILY(VEKPrtDisjointPolylineElt, 25, VEKPrtGraphicPrimiti
 
 VEKPrtDisjointPolylineElt::VEKPrtDisjointPolylineElt() = default;
 
-// Whole segments only, rounded towards zero.
+// Counts are rounded towards zero to whole segments.
 VEKPrtDisjointPolylineElt::VEKPrtDisjointPolylineElt(const VEKListPtrVEKMathPoint2D& iPoints)
     : _count(2 * (iPoints.Size() / 2)) {
     _points = vekprt::NewPointsFromList(iPoints, _count, 0);

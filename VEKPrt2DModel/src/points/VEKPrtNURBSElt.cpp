@@ -7,7 +7,7 @@
 
 namespace {
 
-// Negative when the order is less than -iCount; there are then no knots.
+// Negative if the order is below -iCount; there is then no array of knots.
 std::int64_t KnotCount(int iOrder, int iCount) { return std::int64_t{iOrder} + iCount; }
 
 } // namespace
@@ -43,8 +43,8 @@ void VEKPrtNURBSElt::DeleteArrays() {
     vekprt::DeleteArray(_weights);
 }
 
-// Makes arrays for order and count, and says whether all three could be allocated.  All three are requested
-// even if one fails; those that succeed are kept, filled with zeros.
+// Makes arrays for order and count, and returns whether all three could be allocated.  All three are
+// requested even if one fails; those that were allocated are then kept, filled with zeros.
 bool VEKPrtNURBSElt::NewArrays() {
     const std::int64_t coordinates = 2 * std::int64_t{_count}, knots = KnotCount(_order, _count);
     _controlPoints = vekprt::NewArray<double>(coordinates);
@@ -58,7 +58,7 @@ bool VEKPrtNURBSElt::NewArrays() {
     return false;
 }
 
-// From the first knot and the first weight on, where SetParameters starts at the second.
+// Reads knots and weights from their first element on, unlike SetParameters.
 template <class Value>
 void VEKPrtNURBSElt::Construct(const Value* iControlPoints, const Value* iKnots, const Value* iWeights) {
     if (_count <= 0 || !iControlPoints || !iKnots || !iWeights || !NewArrays()) return;
@@ -68,8 +68,8 @@ void VEKPrtNURBSElt::Construct(const Value* iControlPoints, const Value* iKnots,
     vekprt::FillArray(_weights, _count, iWeights, _count);
 }
 
-// The bounds are not copied but set to their defaults: the copy of a curve that is drawn in part is drawn
-// whole. It stays so (NURBS.CopiesResetTheBounds).
+// The bounds are not copied but set to their defaults: callers who copy a curve that is drawn in part set its
+// bounds again.
 void VEKPrtNURBSElt::CopyOwn(const VEKPrtNURBSElt& iOther) {
     DeleteArrays();
     _order = iOther._order;
@@ -88,8 +88,8 @@ void VEKPrtNURBSElt::Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) {
     vekprt::DuplicateByCopying(*this, oCopy);
 }
 
-// Reads knots and weights from their second element on, where the constructors start at the first: the same
-// arrays give another curve.
+// Reads knots and weights from their second element on, unlike the constructors: the same arrays give another
+// curve.
 void VEKPrtNURBSElt::SetParameters(int iOrder, int iCount, const double* iControlPoints, const double* iKnots,
                                    float iFirstBound, float iSecondBound, const double* iWeights) {
     vekprt::OutgoingArray<double> oldPoints(_controlPoints, 2 * std::int64_t{_count}, iControlPoints);
@@ -101,8 +101,8 @@ void VEKPrtNURBSElt::SetParameters(int iOrder, int iCount, const double* iContro
     _firstBound = iFirstBound;
     _order = iOrder;
     _secondBound = iSecondBound;
-    // An own array that was passed back stays the element's where no new one takes its place, and is the
-    // caller's otherwise, also when the new one cannot be allocated.
+    // An own array that was passed back stays the element's if no new one is made, and is the caller's
+    // otherwise, also when the new one cannot be allocated.
     if (iCount <= 0 || !iControlPoints || !iKnots || !iWeights) {
         _controlPoints = passedBack[0];
         _knots = passedBack[1];

@@ -11,8 +11,8 @@ VEKPrtTextElt::VEKPrtTextElt(const VEKMathPoint2D& iPosition, const VEKUnicodeSt
     _text = iText;
 }
 
-// The text record is copied before the draw style and the other records here, and between fill and transform
-// in the assignment.  The host's types can observe the order.
+// The text record is copied before the draw style and the other records here, but between fill and transform
+// in the assignment.  A host's types can observe the order.
 VEKPrtTextElt::VEKPrtTextElt(const VEKPrtTextElt& iOther) : VEKPrtTextElt() {
     if (&iOther == this) return; // a host's string need not survive its own assignment
     _position = iOther._position;
@@ -41,7 +41,7 @@ void VEKPrtTextElt::CopyOwn(const VEKPrtTextElt& iOther) {
     _transform = iOther._transform;
 }
 
-// No second step for the fill: the copy shares its pattern image, and the font.
+// Unlike the other filled shapes, the copy shares the fill's pattern image.
 void VEKPrtTextElt::Duplicate(VEKPrtGraphicPrimitiveElt*& oCopy) {
     vekprt::DuplicateByAssignment(*this, oCopy);
 }
