@@ -1,15 +1,18 @@
 #include "VEKRawCollPV.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <limits>
 #include <new>
 
 namespace {
 
-// Null for nothing to hold as well as for a failed allocation.  A pointer count in int cannot overflow
-// size_t.
-void** NewPointers(int iCapacity) {
-    return iCapacity > 0 ? new (std::nothrow) void*[static_cast<std::size_t>(iCapacity)] : nullptr;
+// Null for a capacity of 0 or less, and when allocation fails.  A new-expression throws if asked for more
+// than PTRDIFF_MAX bytes, which an int can do on 32-bit platforms.
+void** NewPointers(std::int64_t iCapacity) {
+    constexpr std::int64_t limit = PTRDIFF_MAX / static_cast<std::int64_t>(sizeof(void*));
+    if (iCapacity <= 0 || iCapacity > limit) return nullptr;
+    return new (std::nothrow) void*[static_cast<std::size_t>(iCapacity)];
 }
 
 int NextCapacity(int iCapacity) {
