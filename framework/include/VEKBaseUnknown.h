@@ -10,11 +10,11 @@
 
 class VEKMetaClass;
 
-/// Base object: reference count, run-time class information, and the inherited slots of the host.
+/// Base object: reference count, run-time class information, and the host's virtual functions.
 ///
-/// A new object, copied or not, has count 1, and that reference is its creator's.  Assignment copies
-/// the three data words and leaves the count alone.  The order of the virtual functions is fixed:
-/// derived classes append theirs after ChangeComponentState.
+/// A new object, copied or not, has count 1: its creator's reference.  Copying and assignment copy the three
+/// data words and leave the count alone.  The order of the virtual functions is fixed: derived classes append
+/// theirs after ChangeComponentState.
 class VEKFRAMEWORK_API VEKBaseUnknown {
 public:
     VEKBaseUnknown() { s_liveObjects.fetch_add(1, std::memory_order_relaxed); }
@@ -26,7 +26,7 @@ public:
         return *this;
     }
 
-    /// Null when allocation fails; a new-expression then yields null and runs no constructor.
+    /// Null when allocation fails: the new-expression then runs no constructor and yields null.
     static void* operator new(std::size_t iSize) noexcept;
     static void* operator new(std::size_t iSize, const std::nothrow_t&) noexcept;
     static void* operator new(std::size_t, void* iPlace) noexcept { return iPlace; }
@@ -36,16 +36,16 @@ public:
 
     /// \name The host's interface protocol
     ///
-    /// The reference implementation offers no interface: GetTypeInfoCount counts 0 and returns Done; the
-    /// others return NotImplemented, set a returned pointer to null and leave other outputs alone.
+    /// The reference implementation offers no interface: GetTypeInfoCount yields 0 and returns Done; the
+    /// others return NotImplemented, set a pointer that they output to null, and leave other outputs alone.
     /// @{
 
-    /// What the functions of the protocol return.
+    /// The results of the protocol's functions.
     enum Status : int { Done = 0, NotImplemented = -1 };
     virtual int QueryInterface(const void* iInterfaceId, void** oInterface);
     /// Returns the count after the call.
     virtual unsigned long AddRef();
-    /// Returns the count after the call; at 0 the object is deleted.
+    /// Returns the count after the call.  At 0 the object is deleted, so it must come from `new`.
     virtual unsigned long Release();
     virtual int GetTypeInfoCount(unsigned int* oCount);
     virtual int GetTypeInfo(unsigned int iIndex, unsigned long iLocale, void** oInfo);
@@ -57,34 +57,34 @@ public:
 
     virtual ~VEKBaseUnknown() { s_liveObjects.fetch_sub(1, std::memory_order_relaxed); }
 
-    /// The one of the object's class, or of the nearest class above it that has one.
+    /// The meta-object of the object's class, or of its nearest base class that overrides this function.
     virtual VEKMetaClass* GetMetaObject() const;
     /// The name of that class.
     virtual const char* IsA() const;
-    /// 1 for the name of that class or of one above it, otherwise 0.
+    /// 1 for the name of that class or of one of its bases, otherwise 0.
     virtual int IsAKindOf(const char* iClassName) const;
 
-    /// One of the three data words, for the host's use; never dereferenced here.
+    /// One of the three data words, for the host's use; never dereferenced.
     virtual void* GetImpl() const;
     virtual void SetImpl(void* iImpl);
-    /// Always 0 here.
+    /// Always 0 in this implementation.
     virtual int IsNull() const;
-    /// Identity, not content.
+    /// 1 if \p iOther is this object, otherwise 0; contents are not compared.
     virtual int IsEqual(const VEKBaseUnknown* iOther) const;
-    /// Always null here.
+    /// Always null in this implementation.
     virtual VEKBaseUnknown* QueryInterface(const char* iInterfaceName);
-    /// Does nothing here.
+    /// Does nothing in this implementation.
     virtual void ChangeComponentState(int iFrom, int iTo);
 
     static VEKMetaClass* MetaObject();
     static const char* ClassId();
     static const char* ClassName();
 
-    /// How many framework objects exist in the process; a client's or a test's leak check.
+    /// How many framework objects exist in the process, for leak checks.
     static long CountLiveObjects();
 
 private:
-    // Atomic although the model knows no threads: two threads with a model each share it.
+    // Atomic although objects are not: threads that use separate models share this counter.
     static std::atomic<long> s_liveObjects;
 
     // Belongs to the object's address, not to its value: assignment leaves it alone.

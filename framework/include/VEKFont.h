@@ -4,12 +4,12 @@
 
 #include "VEKUnicodeString.h"
 
-/// Named only: what the family looks like is the consumer's.
+/// Holds the name only; consumers find a font of that family.
 class VEKFont {
 public:
     VEKFont(const char* iFamily) : _family(iFamily) {}
 
-    /// Valid until the font changes or goes.
+    /// Never null; valid until the font is assigned to or destroyed.
     const char* GetFamily() const { return _family.ToUtf8(); }
 
 private:

@@ -2,7 +2,7 @@
 #ifndef VEKMath2x2Matrix_H
 #define VEKMath2x2Matrix_H
 
-/// Four coefficients, fixed once it is made.
+/// Four coefficients, set by the constructor.
 class VEKMath2x2Matrix {
 public:
     /// The identity.
@@ -11,7 +11,7 @@ public:
     VEKMath2x2Matrix(double i11, double i12, double i21, double i22)
         : _coefficients{{i11, i12}, {i21, i22}} {}
 
-    /// Row and column count from 1; 0.0 outside the matrix.
+    /// Rows and columns are numbered from 1; 0.0 outside the matrix.
     double GetCoef(int iRow, int iColumn) const {
         const bool inside = iRow >= 1 && iRow <= 2 && iColumn >= 1 && iColumn <= 2;
         return inside ? _coefficients[iRow - 1][iColumn - 1] : 0.0;

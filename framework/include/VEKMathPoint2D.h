@@ -2,7 +2,7 @@
 #ifndef VEKMathPoint2D_H
 #define VEKMathPoint2D_H
 
-/// Coordinates in the units of whoever stores it; (0, 0) by default.
+/// Two coordinates, without a unit of their own; (0, 0) by default.
 class VEKMathPoint2D {
 public:
     VEKMathPoint2D(double iX = 0.0, double iY = 0.0) : _x(iX), _y(iY) {}

@@ -2,7 +2,7 @@
 #ifndef VEKMathVector2D_H
 #define VEKMathVector2D_H
 
-/// Components in the units of whoever stores it; (0, 0) by default.
+/// Two components, without a unit of their own; (0, 0) by default.
 class VEKMathVector2D {
 public:
     VEKMathVector2D(double iX = 0.0, double iY = 0.0) : _x(iX), _y(iY) {}

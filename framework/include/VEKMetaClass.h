@@ -4,27 +4,27 @@
 
 #include "VEKFrameworkExport.h"
 
-/// What sort of thing a meta-object describes; element classes register as VEKTypeImplementation.
+/// The sort of class that a meta-object describes; element classes register as VEKTypeImplementation.
 enum ENUMTypeOfClass : int { VEKTypeInterface = 0, VEKTypeImplementation = 1, VEKTypeExtension = 2 };
 
 /// Describes one class at run time.
 ///
-/// Meta-objects are made by fct_RetrieveMetaObject alone, one per class name, and live as long as the
-/// process; so do the strings that they hand out.
+/// Only fct_RetrieveMetaObject makes meta-objects, one per class name.  They and the strings that they hand
+/// out live as long as the process.
 class VEKFRAMEWORK_API VEKMetaClass {
 public:
     VEKMetaClass(const VEKMetaClass&) = delete;
     VEKMetaClass& operator=(const VEKMetaClass&) = delete;
 
     const char* GetName() const { return _name; }
-    /// Component and class name, joined by a point: "PrintBase.VEKPrtLineElt".
+    /// Component and class name, joined by a full stop: "PrintBase.VEKPrtLineElt".
     const char* GetId() const { return _id; }
     /// Null for a class that was registered without a base, as VEKBaseUnknown is.
     VEKMetaClass* GetBase() const { return _base; }
     /// Instance size in bytes.
     long GetSize() const { return _size; }
 
-    /// 1 for the name of the class itself or of one of its ancestors, otherwise (null included) 0.
+    /// 1 for the name of the class itself or of one of its bases, otherwise, also for null, 0.
     int IsAKindOf(const char* iClassName) const;
 
 private:
@@ -43,9 +43,9 @@ private:
 
 /// Registers class \p iClassName on the first call and returns that same meta-object on later ones.
 ///
-/// The strings are copied.  \p iLateType names a type to be bound later ("VEKnull": none); this
-/// implementation keeps no such binding.  Null when allocation fails (a later call tries again) or when
-/// \p iClassName is null.  Takes no lock.
+/// The strings are copied.  \p iLateType names a type to be bound later ("VEKnull": none), which this
+/// implementation ignores.  Returns null if allocation fails (a later call tries again) or \p iClassName is
+/// null.  Takes no lock.
 VEKFRAMEWORK_API VEKMetaClass* fct_RetrieveMetaObject(const char* iClassName, ENUMTypeOfClass iType,
                                                       VEKMetaClass* iBaseMeta, const char* iLateType,
                                                       const char* iComponent, long iSize);

@@ -2,7 +2,7 @@
 #ifndef VEKPrintLineAttribute_H
 #define VEKPrintLineAttribute_H
 
-/// New records have the solid type, the scaled style, butt caps and mitred joins.
+/// New stroke records have the solid type, the scaled style, butt caps and mitred joins.
 enum VEKPrintLineAttribute : int {
     VEKPrintLineTypeSolid = 0,
     VEKPrintLineTypeDashed = 1,
@@ -14,9 +14,9 @@ enum VEKPrintLineAttribute : int {
     /// The dash pattern of the record.
     VEKPrintLineTypePattern = 7,
 
-    /// The width scales with the drawing.
+    /// Transforms scale the width.
     VEKPrintLineStyleScaled = 8,
-    /// The width stays, whatever the transforms.
+    /// The width is the same under all transforms.
     VEKPrintLineStyleFixed = 9,
 
     VEKPrintLineCapButt = 10,

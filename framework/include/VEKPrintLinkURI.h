@@ -4,7 +4,7 @@
 
 #include "VEKUnicodeString.h"
 
-/// Empty (no link) by default; kept as given.
+/// Stored as given; empty (no link) by default.
 class VEKPrintLinkURI {
 public:
     VEKPrintLinkURI() = default;

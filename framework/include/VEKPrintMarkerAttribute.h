@@ -2,7 +2,7 @@
 #ifndef VEKPrintMarkerAttribute_H
 #define VEKPrintMarkerAttribute_H
 
-/// New records have the plus.
+/// New marker records have the plus.
 enum VEKPrintMarkerAttribute : int {
     VEKPrintMarkerPlus = 0,
     VEKPrintMarkerCross = 1,

@@ -1,8 +1,8 @@
-// Weight and anchor of a text; they share one enumeration.
+// Weight and anchor of a text share one enumeration.
 #ifndef VEKPrintTextAttribute_H
 #define VEKPrintTextAttribute_H
 
-/// New records have the regular weight, and the anchor at the left end of the baseline.
+/// New text records have the regular weight, and the anchor at the left end of the baseline.
 enum VEKPrintTextAttribute : int {
     VEKPrintTextWeightLight = 24,
     VEKPrintTextWeightRegular = 25,

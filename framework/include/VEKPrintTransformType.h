@@ -2,7 +2,7 @@
 #ifndef VEKPrintTransformType_H
 #define VEKPrintTransformType_H
 
-/// Each goes with a pair of operations of VEKPrtTransformAttributes.
+/// VEKPrtTransformAttributes has an Add and a Get operation for each.
 enum VEKPrintTransformType : int {
     VEKPrintTransformMatrix = 0,
     VEKPrintTransformTranslation = 1,

@@ -4,10 +4,10 @@
 
 #include "VEKFrameworkExport.h"
 
-/// Pointers in order of insertion, at positions 1 to Size().  Owns nothing that they point to.
+/// Pointers in order of insertion, at positions 1 to Size().  Does not own what they point to.
 class VEKFRAMEWORK_API VEKRawCollPV {
 public:
-    /// \p iInitial pointers can be appended before the collection grows; 0 or less allocates nothing.
+    /// Makes room for \p iInitial pointers; 0 or less allocates nothing.
     explicit VEKRawCollPV(int iInitial);
     /// Empty when allocation fails.
     VEKRawCollPV(const VEKRawCollPV& iOther);
@@ -16,13 +16,13 @@ public:
     ~VEKRawCollPV();
 
     int Size() const { return _size; }
-    /// Amortised constant.  Dropped without notice when the collection cannot grow.
+    /// In amortised constant time.  If the collection cannot grow, the pointer is silently dropped.
     void Append(void* iPointer) {
         if (_size < _capacity || Grow()) _pointers[_size++] = iPointer;
     }
-    /// First position of \p iPointer at or after \p iFrom; 0 when absent.
+    /// First position of \p iPointer at or after \p iFrom; 0 if there is none.
     int Locate(const void* iPointer, int iFrom = 1) const;
-    /// Out of range: nothing.
+    /// Does nothing out of range.
     void RemovePosition(int iPosition);
     /// Null out of range, position 0 included.
     void* operator[](int iPosition) const {

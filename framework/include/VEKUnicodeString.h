@@ -4,14 +4,14 @@
 
 #include "VEKFrameworkExport.h"
 
-/// Text, kept as UTF-8.  One pointer in size; the empty string owns no memory.
+/// Text, stored as UTF-8.  The size of one pointer; the empty string owns no memory.
 ///
-/// No operation throws: copying yields the empty string when allocation fails, assignment then keeps
-/// the old value.  What the empty string needs is inline, the rest is not.
+/// No operation throws.  When allocation fails, constructors yield the empty string and assignment keeps the
+/// old value.  Only what the empty string needs is inline.
 class VEKFRAMEWORK_API VEKUnicodeString {
 public:
     VEKUnicodeString() = default;
-    /// \p iUtf8 is copied as it is; null is empty.
+    /// Copies \p iUtf8 unchecked; null gives the empty string.
     VEKUnicodeString(const char* iUtf8) { Assign(iUtf8); }
     VEKUnicodeString(const VEKUnicodeString& iOther) { Assign(iOther._utf8); }
     VEKUnicodeString& operator=(const VEKUnicodeString& iOther) {

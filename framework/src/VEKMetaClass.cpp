@@ -5,8 +5,8 @@
 
 namespace {
 
-// All registered classes, the latest first.  A few dozen at most, each looked up once per process:
-// a linear search is enough.
+// All registered classes, the latest first.  They are a few dozen, each looked up once per process: a linear
+// search is enough.
 VEKMetaClass* g_registered = nullptr;
 
 } // namespace
@@ -25,7 +25,7 @@ VEKMetaClass* fct_RetrieveMetaObject(const char* iClassName, ENUMTypeOfClass /*i
     for (VEKMetaClass* meta = g_registered; meta; meta = meta->_next)
         if (std::strcmp(meta->_name, iClassName) == 0) return meta;
 
-    // One block: the meta-object, then its identifier "component.name"; the name is the tail of it.
+    // One block holds the meta-object and its identifier "component.name", which ends with the name.
     const char* const component = iComponent ? iComponent : "";
     const std::size_t prefix = std::strlen(component) + 1;
     const std::size_t name = std::strlen(iClassName) + 1;

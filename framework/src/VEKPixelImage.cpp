@@ -13,7 +13,7 @@ std::size_t ByteCount(int iWidth, int iHeight) {
 } // namespace
 
 VEKPixelImage::VEKPixelImage(int iWidth, int iHeight) {
-    // The largest request that a new-expression accepts without throwing is PTRDIFF_MAX bytes.
+    // A new-expression throws if asked for more than PTRDIFF_MAX bytes.
     if (iWidth <= 0 || iHeight <= 0 || iWidth > PTRDIFF_MAX / 4 / iHeight) return;
     _pixels = new (std::nothrow) unsigned char[ByteCount(iWidth, iHeight)]();
     if (!_pixels) return;

@@ -5,7 +5,7 @@
 
 namespace {
 
-// Null for the empty string as well as for a failed allocation.
+// Null for the empty string, and when allocation fails.
 char* NewCopy(const char* iUtf8) {
     if (!iUtf8 || !*iUtf8) return nullptr;
     const std::size_t size = std::strlen(iUtf8) + 1;
@@ -16,7 +16,7 @@ char* NewCopy(const char* iUtf8) {
 
 } // namespace
 
-// The old text goes last: iUtf8 may lie in it.
+// The old text is freed last: iUtf8 may lie in it.
 void VEKUnicodeString::Replace(const char* iUtf8) {
     if (iUtf8 == _utf8) return;
     char* const copy = NewCopy(iUtf8);
