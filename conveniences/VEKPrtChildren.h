@@ -1,4 +1,5 @@
-// The members of lists, for range-based loops, and where they are inserted.
+/// \file
+/// The members of lists, for range-based loops, and where they are inserted.
 #ifndef VEKPrtChildren_H
 #define VEKPrtChildren_H
 
@@ -75,9 +76,9 @@ private:
 };
 
 /// \name The list of a holder
-///
-/// Lent, and null where there is none.  A holder may be const although its getter is not.
 /// @{
+
+/// Lent, and null where there is none.  A holder may be const although its getter is not.
 template <class Container>
 typename std::enable_if<HasChildren<Container>::value, VEKListPtrVEKPrtGraphicPrimitiveElt*>::type
 ListOf(const Container& iContainer) {
@@ -99,6 +100,8 @@ inline VEKListPtrVEKPrtImageElt* ListOf(const VEKPrtModel& iModel) {
 
 /// \name What a list holds
 /// @{
+
+/// The members of a list, for a loop.
 inline VEKPrtMembers<VEKPrtGraphicPrimitiveElt> MembersOf(const VEKListPtrVEKPrtGraphicPrimitiveElt* iList) {
     return VEKPrtMembers<VEKPrtGraphicPrimitiveElt>(iList);
 }

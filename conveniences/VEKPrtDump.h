@@ -1,4 +1,5 @@
-// A drawing as text, for debugging and for tests.
+/// \file
+/// A drawing as text, for debugging and for tests.
 #ifndef VEKPrtDump_H
 #define VEKPrtDump_H
 
@@ -378,6 +379,7 @@ inline void Dump(std::ostream& ioStream, const VEKPrtGraphicPrimitiveElt& iDrawi
              return true;
          });
 }
+/// The pages of a model, one after the other.
 inline void Dump(std::ostream& ioStream, const VEKPrtModel& iModel) {
     for (const VEKPrtImageElt& page : ChildrenOf(iModel))
         Dump(ioStream, page);

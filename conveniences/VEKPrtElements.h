@@ -1,4 +1,5 @@
-// All element classes with their headers, and calls by class.
+/// \file
+/// All element classes with their headers, and calls by class.
 #ifndef VEKPrtElements_H
 #define VEKPrtElements_H
 
@@ -169,6 +170,7 @@ auto Visit(VEKPrtGraphicPrimitiveElt& ioElement, Visitor&& iVisitor)
     using Result = detail::ResultOf<VEKPrtLineElt, Visitor>;
     return detail::VisitExact<Result>(ElementClasses(), ioElement.GetMetaObject(), ioElement, iVisitor);
 }
+/// The same for a const element: the visitor is called with const classes.
 template <class Visitor>
 auto Visit(const VEKPrtGraphicPrimitiveElt& iElement, Visitor&& iVisitor)
     -> detail::ResultOf<const VEKPrtLineElt, Visitor> {

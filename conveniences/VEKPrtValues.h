@@ -1,4 +1,5 @@
-// The values of the host framework's enumerations, and names to print them by.
+/// \file
+/// The values of the host framework's enumerations, and names to print them by.
 #ifndef VEKPrtValues_H
 #define VEKPrtValues_H
 
@@ -75,9 +76,9 @@ const char* NameAt(const char* const (&iNames)[Count], int iIndex) {
 } // namespace detail
 
 /// \name Names of values
-///
-/// Null for a value that has none.
 /// @{
+
+/// The name by which Dump shows the value; null for a value that has none.
 inline const char* NameOf(VEKPrintTransformType iValue) {
     static const char* const names[] = {"matrix",  "translation", "rotation", "scale-x",
                                         "scale-y", "skew-x",      "skew-y"};

@@ -1,4 +1,5 @@
-// Visits, finds and duplicates the elements of a drawing.
+/// \file
+/// Visits, finds and duplicates the elements of a drawing.
 #ifndef VEKPrtWalk_H
 #define VEKPrtWalk_H
 

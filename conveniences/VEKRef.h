@@ -1,4 +1,5 @@
-// An owning pointer for clients of reference-counted objects.
+/// \file
+/// An owning pointer for clients of reference-counted objects.
 #ifndef VEKRef_H
 #define VEKRef_H
 

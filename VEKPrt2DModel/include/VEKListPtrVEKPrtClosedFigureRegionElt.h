@@ -1,4 +1,5 @@
-// The list type for the regions of a closed figure.
+/// \file
+/// The list type for the regions of a closed figure.
 #ifndef VEKListPtrVEKPrtClosedFigureRegionElt_H
 #define VEKListPtrVEKPrtClosedFigureRegionElt_H
 

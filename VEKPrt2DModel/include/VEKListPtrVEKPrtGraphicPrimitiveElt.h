@@ -1,4 +1,5 @@
-// The list type for the children of a container.
+/// \file
+/// The list type for the children of a container.
 #ifndef VEKListPtrVEKPrtGraphicPrimitiveElt_H
 #define VEKListPtrVEKPrtGraphicPrimitiveElt_H
 

@@ -1,4 +1,5 @@
-// The list type for the images of a model.
+/// \file
+/// The list type for the images of a model.
 #ifndef VEKListPtrVEKPrtImageElt_H
 #define VEKListPtrVEKPrtImageElt_H
 

@@ -1,4 +1,5 @@
-// Marks what the library exports; lets clients link only with a library compiled on their framework.
+/// \file
+/// Marks what the library exports; lets clients link only with a library compiled on their framework.
 #ifndef VEKPrt2DModelExport_H
 #define VEKPrt2DModelExport_H
 

@@ -1,4 +1,5 @@
-// A raster picture placed in a drawing.
+/// \file
+/// A raster picture placed in a drawing.
 #ifndef VEKPrtBitmapImageElt_H
 #define VEKPrtBitmapImageElt_H
 

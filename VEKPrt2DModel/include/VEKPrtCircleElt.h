@@ -1,4 +1,5 @@
-// A full circle.
+/// \file
+/// A full circle.
 #ifndef VEKPrtCircleElt_H
 #define VEKPrtCircleElt_H
 

@@ -1,4 +1,5 @@
-// A part of a circle.
+/// \file
+/// A part of a circle.
 #ifndef VEKPrtCircularArcElt_H
 #define VEKPrtCircularArcElt_H
 

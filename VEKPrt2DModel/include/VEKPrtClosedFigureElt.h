@@ -1,4 +1,5 @@
-// A filled and stroked figure made of regions.
+/// \file
+/// A filled and stroked figure made of regions.
 #ifndef VEKPrtClosedFigureElt_H
 #define VEKPrtClosedFigureElt_H
 

@@ -1,4 +1,5 @@
-// A closed outline made of primitives.
+/// \file
+/// A closed outline made of primitives.
 #ifndef VEKPrtClosedFigureRegionElt_H
 #define VEKPrtClosedFigureRegionElt_H
 

@@ -1,4 +1,5 @@
-// The colours of a page.
+/// \file
+/// The colours of a page.
 #ifndef VEKPrtColourTable_H
 #define VEKPrtColourTable_H
 

@@ -1,4 +1,5 @@
-// A set of separate segments.
+/// \file
+/// A set of separate segments.
 #ifndef VEKPrtDisjointPolylineElt_H
 #define VEKPrtDisjointPolylineElt_H
 

@@ -1,4 +1,5 @@
-// A full ellipse.
+/// \file
+/// A full ellipse.
 #ifndef VEKPrtEllipseElt_H
 #define VEKPrtEllipseElt_H
 

@@ -1,4 +1,5 @@
-// A part of an ellipse.
+/// \file
+/// A part of an ellipse.
 #ifndef VEKPrtEllipticalArcElt_H
 #define VEKPrtEllipticalArcElt_H
 

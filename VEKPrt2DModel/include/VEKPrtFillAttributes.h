@@ -1,4 +1,5 @@
-// How the inside of a closed shape is filled.
+/// \file
+/// How the inside of a closed shape is filled.
 #ifndef VEKPrtFillAttributes_H
 #define VEKPrtFillAttributes_H
 

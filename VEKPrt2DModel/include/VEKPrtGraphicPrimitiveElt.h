@@ -1,4 +1,5 @@
-// The base of every element of a drawing.
+/// \file
+/// The base of every element of a drawing.
 #ifndef VEKPrtGraphicPrimitiveElt_H
 #define VEKPrtGraphicPrimitiveElt_H
 

@@ -1,4 +1,5 @@
-// What a group carries for all of its children.
+/// \file
+/// What a group carries for all of its children.
 #ifndef VEKPrtGroupAttributes_H
 #define VEKPrtGroupAttributes_H
 

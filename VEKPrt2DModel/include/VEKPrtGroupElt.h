@@ -1,4 +1,5 @@
-// A container of elements.
+/// \file
+/// A container of elements.
 #ifndef VEKPrtGroupElt_H
 #define VEKPrtGroupElt_H
 

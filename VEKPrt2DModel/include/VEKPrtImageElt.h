@@ -1,4 +1,5 @@
-// A page or canvas.
+/// \file
+/// A page or canvas.
 #ifndef VEKPrtImageElt_H
 #define VEKPrtImageElt_H
 

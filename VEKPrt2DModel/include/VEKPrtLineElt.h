@@ -1,4 +1,5 @@
-// A straight segment.
+/// \file
+/// A straight segment.
 #ifndef VEKPrtLineElt_H
 #define VEKPrtLineElt_H
 

@@ -1,4 +1,5 @@
-// Which symbol a marker shows.
+/// \file
+/// Which symbol a marker shows.
 #ifndef VEKPrtMarkerAttributes_H
 #define VEKPrtMarkerAttributes_H
 

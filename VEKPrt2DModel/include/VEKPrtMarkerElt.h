@@ -1,4 +1,5 @@
-// A marker symbol at a point.
+/// \file
+/// A marker symbol at a point.
 #ifndef VEKPrtMarkerElt_H
 #define VEKPrtMarkerElt_H
 

@@ -1,4 +1,5 @@
-// The meta-object family that every element class declares.
+/// \file
+/// The meta-object family that every element class declares.
 #ifndef VEKPrtMetaFamily_H
 #define VEKPrtMetaFamily_H
 

@@ -1,4 +1,5 @@
-// The root of a drawing.
+/// \file
+/// The root of a drawing.
 #ifndef VEKPrtModel_H
 #define VEKPrtModel_H
 

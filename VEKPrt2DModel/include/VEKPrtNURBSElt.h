@@ -1,4 +1,5 @@
-// A rational B-spline curve.
+/// \file
+/// A rational B-spline curve.
 #ifndef VEKPrtNURBSElt_H
 #define VEKPrtNURBSElt_H
 

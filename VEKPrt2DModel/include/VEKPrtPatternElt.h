@@ -1,4 +1,5 @@
-// A tile of drawing.
+/// \file
+/// A tile of drawing.
 #ifndef VEKPrtPatternElt_H
 #define VEKPrtPatternElt_H
 

@@ -1,4 +1,5 @@
-// A sequence of cubic Bézier curves.
+/// \file
+/// A sequence of cubic Bézier curves.
 #ifndef VEKPrtPolyCubicBezierElt_H
 #define VEKPrtPolyCubicBezierElt_H
 

@@ -1,4 +1,5 @@
-// One shape made of several polygons.
+/// \file
+/// One shape made of several polygons.
 #ifndef VEKPrtPolyPolygonElt_H
 #define VEKPrtPolyPolygonElt_H
 

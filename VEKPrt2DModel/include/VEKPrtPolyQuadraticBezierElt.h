@@ -1,4 +1,5 @@
-// A sequence of quadratic Bézier curves.
+/// \file
+/// A sequence of quadratic Bézier curves.
 #ifndef VEKPrtPolyQuadraticBezierElt_H
 #define VEKPrtPolyQuadraticBezierElt_H
 

@@ -1,4 +1,5 @@
-// A closed polygon.
+/// \file
+/// A closed polygon.
 #ifndef VEKPrtPolygonElt_H
 #define VEKPrtPolygonElt_H
 

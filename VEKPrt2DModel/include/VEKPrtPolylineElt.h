@@ -1,4 +1,5 @@
-// An open polyline.
+/// \file
+/// An open polyline.
 #ifndef VEKPrtPolylineElt_H
 #define VEKPrtPolylineElt_H
 

@@ -1,4 +1,5 @@
-// A rectangle.
+/// \file
+/// A rectangle.
 #ifndef VEKPrtRectangleElt_H
 #define VEKPrtRectangleElt_H
 

@@ -1,4 +1,5 @@
-// How an outline is drawn.
+/// \file
+/// How an outline is drawn.
 #ifndef VEKPrtStrokeAttributes_H
 #define VEKPrtStrokeAttributes_H
 

@@ -1,4 +1,5 @@
-// A reusable piece of drawing.
+/// \file
+/// A reusable piece of drawing.
 #ifndef VEKPrtSymbolElt_H
 #define VEKPrtSymbolElt_H
 

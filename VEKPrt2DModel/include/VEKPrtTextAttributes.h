@@ -1,4 +1,5 @@
-// How a string of text is set.
+/// \file
+/// How a string of text is set.
 #ifndef VEKPrtTextAttributes_H
 #define VEKPrtTextAttributes_H
 

@@ -1,4 +1,5 @@
-// A string of text at a position.
+/// \file
+/// A string of text at a position.
 #ifndef VEKPrtTextElt_H
 #define VEKPrtTextElt_H
 

@@ -1,4 +1,5 @@
-// The ordered list of elementary transforms of an element.
+/// \file
+/// The ordered list of elementary transforms of an element.
 #ifndef VEKPrtTransformAttributes_H
 #define VEKPrtTransformAttributes_H
 

@@ -1,4 +1,5 @@
-// The reference-counted base of every framework object.
+/// \file
+/// The reference-counted base of every framework object.
 #ifndef VEKBaseUnknown_H
 #define VEKBaseUnknown_H
 

@@ -1,4 +1,5 @@
-// A font, by the name of its family.
+/// \file
+/// A font, by the name of its family.
 #ifndef VEKFont_H
 #define VEKFont_H
 

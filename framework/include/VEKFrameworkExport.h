@@ -1,4 +1,5 @@
-// Marks what the framework library exports, and names the framework.
+/// \file
+/// Marks what the framework library exports, and names the framework.
 #ifndef VEKFrameworkExport_H
 #define VEKFrameworkExport_H
 

@@ -1,4 +1,5 @@
-// A list of point pointers.
+/// \file
+/// A list of point pointers.
 #ifndef VEKListPtrVEKMathPoint2D_H
 #define VEKListPtrVEKMathPoint2D_H
 

@@ -1,4 +1,5 @@
-// A 2x2 matrix.
+/// \file
+/// A 2x2 matrix.
 #ifndef VEKMath2x2Matrix_H
 #define VEKMath2x2Matrix_H
 

@@ -1,4 +1,5 @@
-// A point in the plane.
+/// \file
+/// A point in the plane.
 #ifndef VEKMathPoint2D_H
 #define VEKMathPoint2D_H
 

@@ -1,4 +1,5 @@
-// A displacement in the plane.
+/// \file
+/// A displacement in the plane.
 #ifndef VEKMathVector2D_H
 #define VEKMathVector2D_H
 

@@ -1,4 +1,5 @@
-// Run-time class information and its registry.
+/// \file
+/// Run-time class information and its registry.
 #ifndef VEKMetaClass_H
 #define VEKMetaClass_H
 

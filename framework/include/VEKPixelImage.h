@@ -1,4 +1,5 @@
-// A raster picture.
+/// \file
+/// A raster picture.
 #ifndef VEKPixelImage_H
 #define VEKPixelImage_H
 

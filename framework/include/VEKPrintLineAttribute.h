@@ -1,4 +1,5 @@
-// How a line is drawn: type, style, cap and join share one enumeration.
+/// \file
+/// How a line is drawn: type, style, cap and join share one enumeration.
 #ifndef VEKPrintLineAttribute_H
 #define VEKPrintLineAttribute_H
 

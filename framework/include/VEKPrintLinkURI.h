@@ -1,4 +1,5 @@
-// The target of a hyperlink.
+/// \file
+/// The target of a hyperlink.
 #ifndef VEKPrintLinkURI_H
 #define VEKPrintLinkURI_H
 

@@ -1,4 +1,5 @@
-// The shape of a marker.
+/// \file
+/// The shape of a marker.
 #ifndef VEKPrintMarkerAttribute_H
 #define VEKPrintMarkerAttribute_H
 

@@ -1,4 +1,5 @@
-// Weight and anchor of a text share one enumeration.
+/// \file
+/// Weight and anchor of a text share one enumeration.
 #ifndef VEKPrintTextAttribute_H
 #define VEKPrintTextAttribute_H
 

@@ -1,4 +1,5 @@
-// The kinds of elementary transforms.
+/// \file
+/// The kinds of elementary transforms.
 #ifndef VEKPrintTransformType_H
 #define VEKPrintTransformType_H
 

@@ -1,4 +1,5 @@
-// A growable collection of untyped pointers.
+/// \file
+/// A growable collection of untyped pointers.
 #ifndef VEKRawCollPV_H
 #define VEKRawCollPV_H
 

@@ -1,4 +1,5 @@
-// A Unicode string value.
+/// \file
+/// A Unicode string value.
 #ifndef VEKUnicodeString_H
 #define VEKUnicodeString_H
 

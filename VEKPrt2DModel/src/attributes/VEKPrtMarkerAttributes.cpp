@@ -1,8 +1,8 @@
 #include "VEKPrtMarkerAttributes.h"
 
-#include "HostValues.h"
+#include "VEKPrtValues.h"
 
-VEKPrtMarkerAttributes::VEKPrtMarkerAttributes() : _style(vekprt::defaultMarkerStyle) {}
+VEKPrtMarkerAttributes::VEKPrtMarkerAttributes() : _style(vekprt::markerPlus) {}
 
 VEKPrtMarkerAttributes::VEKPrtMarkerAttributes(const VEKPrtMarkerAttributes& iOther)
     : VEKPrtMarkerAttributes() {

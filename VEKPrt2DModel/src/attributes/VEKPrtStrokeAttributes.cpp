@@ -1,11 +1,11 @@
 #include "VEKPrtStrokeAttributes.h"
 
-#include "HostValues.h"
 #include "OwnedArray.h"
+#include "VEKPrtValues.h"
 
 VEKPrtStrokeAttributes::VEKPrtStrokeAttributes()
-    : _type(vekprt::defaultLineType), _style(vekprt::defaultLineStyle), _cap(vekprt::defaultLineCap),
-      _join(vekprt::defaultLineJoin) {}
+    : _type(vekprt::lineTypeSolid), _style(vekprt::lineStyleScaled), _cap(vekprt::lineCapButt),
+      _join(vekprt::lineJoinMitre) {}
 
 VEKPrtStrokeAttributes::VEKPrtStrokeAttributes(const VEKPrtStrokeAttributes& iOther)
     : VEKPrtStrokeAttributes() {

@@ -1,9 +1,9 @@
 #include "VEKPrtTextAttributes.h"
 
-#include "HostValues.h"
+#include "VEKPrtValues.h"
 
 VEKPrtTextAttributes::VEKPrtTextAttributes()
-    : _weight(vekprt::defaultTextWeight), _anchor(vekprt::defaultTextAnchor) {}
+    : _weight(vekprt::textWeightRegular), _anchor(vekprt::textAnchorBaselineLeft) {}
 
 VEKPrtTextAttributes::VEKPrtTextAttributes(const VEKPrtTextAttributes& iOther) : VEKPrtTextAttributes() {
     *this = iOther;

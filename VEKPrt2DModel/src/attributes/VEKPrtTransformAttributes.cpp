@@ -1,7 +1,7 @@
 #include "VEKPrtTransformAttributes.h"
 
-#include "HostValues.h"
 #include "OwnedArray.h"
+#include "VEKPrtValues.h"
 
 namespace {
 

@@ -1,8 +1,9 @@
 #include "ElementProtocol.h"
 
-#include "HostValues.h"
-
 namespace vekprt {
+
+// By its number: hosts name it as they like.
+constexpr auto typeImplementation = static_cast<ENUMTypeOfClass>(1);
 
 VEKMetaClass* RegisterClass(VEKMetaClass*& oCache, const char* iClassName, VEKMetaClass* iBase,
                             const char* iLateType, long iSize) {

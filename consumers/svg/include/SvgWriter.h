@@ -1,4 +1,5 @@
-// Writes a page of a model as SVG.
+/// \file
+/// Writes a page of a model as SVG.
 #ifndef SvgWriter_H
 #define SvgWriter_H
 
