@@ -12,7 +12,8 @@ mkdir -p "$work"
 # project NAME: a client; the lines of its CMakeLists.txt are read.
 project() {
     mkdir -p "$work/$1"
-    { printf 'cmake_minimum_required(VERSION 3.22)\nproject(client CXX)\n'; cat; } > "$work/$1/CMakeLists.txt"
+    { printf 'cmake_minimum_required(VERSION 3.22)\nproject(client CXX)\nadd_executable(client main.cpp)\n'; cat; } \
+        > "$work/$1/CMakeLists.txt"
     cat > "$work/$1/main.cpp" << 'END'
 #include "VEKPrtStrokeAttributes.h"
 int main() {
@@ -24,10 +25,15 @@ int main() {
 }
 END
     cat >> "$work/$1/CMakeLists.txt" << 'END'
-add_executable(client main.cpp)
 target_link_libraries(client PRIVATE VEKPrt2DModel::VEKPrt2DModel)
 target_link_options(client PRIVATE LINKER:--as-needed,--gc-sections)
 END
+}
+# readme NAME NUMBER: the program of the README, with the README's lines for CMake, of which there are three.
+readme() {
+    awk -v wanted="$2" '/^```$/ { code = 0 } code; /^```cmake$/ { code = ++blocks == wanted }' "$source/README.md" |
+        sed 's/my_program/client/' | project "$1"
+    cp "$source/examples/quickstart/main.cpp" "$work/$1"
 }
 # run NAME [OPTION...]: configures, builds and runs it.
 run() {
@@ -36,7 +42,8 @@ run() {
     rm -rf "$work/$name/build"
     quietly cmake -G Ninja -S "$work/$name" -B "$work/$name/build" "$@"
     quietly cmake --build "$work/$name/build"
-    "$work/$name/build/client" || fail "$name does not run"
+    "$work/$name/build/client" > "$work/out" || fail "$name does not run"
+    if [ -s "$work/out" ]; then grep -q '<line .*stroke="#c81e28"' "$work/out" || fail "$name draws no line"; fi
     echo "package: $name"
 }
 # refused MISTAKE MESSAGE COMMAND...: the command fails, and says why.
@@ -80,34 +87,22 @@ extra=$(find "$work/runtime" ! -type d ! -name 'libVEK*.so.1*')
 [ -z "$extra" ] || fail "in the component Runtime: $extra"
 [ "$(find "$work/runtime" -name '*.so.1' | wc -l)" -eq 2 ] || fail "not two libraries in the component Runtime"
 
-# The program of the README with the installed consumer, by both ways.
-if [ -e "$libraries/libVEKPrt2DModelSvg.a" ]; then
-    project quick-start << 'END'
-find_package(VEKPrt2DModel 1 REQUIRED COMPONENTS Svg)
-link_libraries(VEKPrt2DModel::Svg)
-END
-    cp "$source/examples/quickstart/main.cpp" "$work/quick-start"
-    run quick-start -DCMAKE_PREFIX_PATH="$work/stage" > "$work/line.svg"
-    # shellcheck disable=SC2046
-    c++ "$work/quick-start/main.cpp" $(flags "$work/stage" VEKPrt2DModelSvg) -o "$work/quick-start/plain"
-    LD_LIBRARY_PATH=$libraries "$work/quick-start/plain" | grep -q '<line .*stroke="#c81e28"' || fail "no line is drawn"
-    grep -q '<line .*stroke="#c81e28"' "$work/line.svg" || fail "no line is drawn with find_package"
-    echo "package: the quick start"
-fi
+# The program of the README.
+readme quick-start 1
+run quick-start -DCMAKE_PREFIX_PATH="$work/stage"
+# shellcheck disable=SC2046
+c++ "$work/quick-start/main.cpp" $(flags "$work/stage" VEKPrt2DModelSvg) -o "$work/plain"
+LD_LIBRARY_PATH=$libraries "$work/plain" | grep -q '<line .*stroke="#c81e28"' || fail "no line is drawn"
 
 # A host with a framework of its own, installed beside the reference; each client finds its own.
-host() { # type of library, option...
-    type=$1
-    shift
-    quietly cmake -G Ninja -S "$source/examples/host" -B "$work/host-$type" -DCMAKE_BUILD_TYPE=Debug "$@"
-    quietly cmake --build "$work/host-$type"
-    quietly cmake --install "$work/host-$type" --prefix "$work/hosted-$type"
-    if find "$work/hosted-$type" | grep -E 'vekframework|libVEKFramework|\.so\.1' | grep -v -- -hostfw; then
-        fail "the host installs what is the reference's"
-    fi
-}
-host SHARED
-hosted=$work/hosted-SHARED
+hosted=$work/hosted
+quietly cmake -G Ninja -S "$source/examples/host" -B "$work/host" -DCMAKE_BUILD_TYPE=Debug
+quietly cmake --build "$work/host"
+if grep warning: "$work/log"; then fail "the host's headers are compiled with warnings"; fi
+quietly cmake --install "$work/host" --prefix "$hosted"
+if find "$hosted" | grep -E 'vekframework|libVEKFramework|\.so\.1' | grep -v -- -hostfw; then
+    fail "the host installs what is the reference's"
+fi
 own=$(dirname "$(find "$hosted" -name libVEKPrt2DModel-hostfw.so)")
 project host-client << 'END'
 find_package(hostfw REQUIRED)
@@ -116,8 +111,8 @@ END
 run host-client -DCMAKE_PREFIX_PATH="$work/stage;$hosted"
 run find-package -DCMAKE_PREFIX_PATH="$hosted;$work/stage"
 # shellcheck disable=SC2046
-c++ -std=c++17 "$client" $(flags "$hosted" VEKPrt2DModel-hostfw) -o "$work/hosted"
-LD_LIBRARY_PATH=$own "$work/hosted" || fail "a client of the host does not run"
+c++ -std=c++17 "$client" $(flags "$hosted" VEKPrt2DModel-hostfw) -o "$work/hosted-client"
+LD_LIBRARY_PATH=$own "$work/hosted-client" || fail "a client of the host does not run"
 
 # What was compiled on one framework is kept from what was compiled on another: by CMake, the compiler, the linker and
 # the loader.
@@ -136,23 +131,31 @@ mkdir "$work/wrong"
 ln -s "$libraries/libVEKPrt2DModel.so.1" "$work/wrong/libVEKPrt2DModel-hostfw.so.1"
 ln -s "$libraries/libVEKFramework.so.1" "$work/wrong"
 refused "the reference's library under the host's name" "undefined symbol: ${symbol}_hostfw" \
-    env LD_LIBRARY_PATH="$work/wrong:$own" "$work/hosted"
+    env LD_LIBRARY_PATH="$work/wrong:$own" "$work/hosted-client"
 
 # Where the framework is static, so is the library: a program would contain it twice.
-host STATIC -DBUILD_SHARED_LIBS=OFF
-[ -z "$(find "$work/hosted-STATIC" -name '*.so*')" ] || fail "a static framework beside a shared library"
-run host-client -DCMAKE_PREFIX_PATH="$work/hosted-STATIC"
-
-# Static libraries, embedded and installed.
-project embedded << END
+project static-host << END
+add_library(static_fw STATIC "$source/examples/host/HostFramework.cpp")
+add_library(VEK::Framework ALIAS static_fw)
 add_subdirectory("$source" model)
 END
-run embedded -DCMAKE_BUILD_TYPE=Debug -DBUILD_SHARED_LIBS=OFF -DCMAKE_DISABLE_FIND_PACKAGE_PNG=ON
+quietly cmake -S "$work/static-host" -B "$work/static-host/build"
+grep -q 'STATIC_LIBRARY on the framework static_fw' "$work/log" || fail "a static framework beside a shared library"
+
+# Embedded: with static libraries, which are then installed; and fetched, without any install.
+readme embedded 2
+ln -s "$source" "$work/embedded/VEKPrt2DModel"
+run embedded -DCMAKE_BUILD_TYPE=Debug -DBUILD_SHARED_LIBS=OFF
 quietly cmake --install "$work/embedded/build" --prefix "$work/static"
 [ -z "$(find "$work/static" -name '*.so*')" ] || fail "a static build installs shared libraries"
-run find-package -DCMAKE_PREFIX_PATH="$work/static"
+run quick-start -DCMAKE_PREFIX_PATH="$work/static"
 # shellcheck disable=SC2046
 c++ "$client" $(flags "$work/static" VEKPrt2DModel) -o "$work/plain" && "$work/plain"
-quietly cmake "$work/embedded/build" -DVEKPRT_INSTALL=OFF
-cmake --install "$work/embedded/build" --prefix "$work/nothing" > /dev/null
+readme fetched 3
+run fetched -DCMAKE_BUILD_TYPE=Debug -DVEKPRT_INSTALL=OFF -DFETCHCONTENT_SOURCE_DIR_VEKPRT2DMODEL="$source"
+cmake --install "$work/fetched/build" --prefix "$work/nothing" > /dev/null
 [ -z "$(find "$work/nothing" -type f 2> /dev/null)" ] || fail "installed in spite of VEKPRT_INSTALL=OFF"
+
+# Without the libraries of a consumer.
+quietly cmake -S "$source" -B "$work/bare" -DCMAKE_DISABLE_FIND_PACKAGE_PNG=ON
+grep -q 'consumer Svg: not built, PNG not found' "$work/log" || fail "no word of the missing consumer"

@@ -137,7 +137,6 @@ public:
     bool operator==(const VEKUnicodeString& iOther) const {
         return std::strcmp(ToUtf8(), iOther.ToUtf8()) == 0;
     }
-    bool operator!=(const VEKUnicodeString& iOther) const { return !(*this == iOther); }
     bool IsEmpty() const { return Length() == 0; }
     const char* ToUtf8() const {
         _utf8.clear();
@@ -173,7 +172,6 @@ public:
     double GetX() const { return _x; }
     double GetY() const { return _y; }
     bool operator==(const HostPair& iOther) const { return _x == iOther._x && _y == iOther._y; }
-    bool operator!=(const HostPair& iOther) const { return !(*this == iOther); }
 
 private:
     double _x = std::numeric_limits<double>::quiet_NaN();
@@ -190,7 +188,6 @@ public:
         return _values[static_cast<std::size_t>(2 * iRow + iColumn - 3)];
     }
     bool operator==(const VEKMath2x2Matrix& iOther) const { return _values == iOther._values; }
-    bool operator!=(const VEKMath2x2Matrix& iOther) const { return !(*this == iOther); }
 
 private:
     std::array<double, 4> _values;
@@ -233,7 +230,6 @@ public:
     VEKPrintLinkURI(const char* iURI = "") : _uri(iURI) {}
     const char* GetURI() const { return _uri.ToUtf8(); }
     bool operator==(const VEKPrintLinkURI& iOther) const { return _uri == iOther._uri; }
-    bool operator!=(const VEKPrintLinkURI& iOther) const { return !(*this == iOther); }
 
 private:
     VEKUnicodeString _uri;
