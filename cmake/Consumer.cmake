@@ -1,5 +1,6 @@
 # vekprt_add_consumer(NAME HEADER header SOURCES source... DESCRIPTION text
-#                     [PACKAGES package... TARGETS target...] [MODULES module...] [REQUIRES module...] [NEEDS consumer...])
+#                     [PACKAGES package... TARGETS target...] [MODULES module...] [REQUIRES module...] [NEEDS consumer...]
+#                     [DEBIAN package...])
 #
 # Declares a consumer: the static library VEKPrt2DModel::NAME, installed with its public header as the component NAME of
 # the package and the pkg-config module VEKPrt2DModelNAME.  It is built where its libraries are found.
@@ -8,8 +9,9 @@
 #   MODULES    what pkg-config looks for
 #   REQUIRES   the pkg-config modules of PACKAGES, for the consumer's own module
 #   NEEDS      other consumers that this one is built on, declared before it
+#   DEBIAN     what the Debian package of the headers depends on
 function(vekprt_add_consumer name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "HEADER;DESCRIPTION" "SOURCES;PACKAGES;TARGETS;MODULES;REQUIRES;NEEDS")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "HEADER;DESCRIPTION" "SOURCES;PACKAGES;TARGETS;MODULES;REQUIRES;NEEDS;DEBIAN")
   set(find "")
   set(missing "")
   foreach(package IN LISTS arg_PACKAGES)
@@ -68,6 +70,7 @@ function(vekprt_add_consumer name)
   list(JOIN needs " " needs)
   set_property(GLOBAL APPEND PROPERTY VEKPRT_CONSUMERS ${name})
   set_property(GLOBAL PROPERTY VEKPRT_${name}_TARGET ${target})
+  set_property(GLOBAL PROPERTY VEKPRT_${name}_DEBIAN "${arg_DEBIAN}")
   set_property(GLOBAL PROPERTY VEKPRT_${name}_DESCRIPTION "${arg_DESCRIPTION}")
   set_property(GLOBAL PROPERTY VEKPRT_${name}_FIND "${find}")
   set_property(GLOBAL PROPERTY VEKPRT_${name}_REQUIRES "VEKPrt2DModel${VEKPRT_SUFFIX} ${requires} ${modules} ${needs}")

@@ -1,6 +1,6 @@
 # Debian packages, for scripts/package: libvekprt2dmodel1 to run programs, libvekprt2dmodel-dev to build them.
 set(VEKPRT_MAINTAINER "VEKPrt2DModel maintainers <maintainers@vekprt2dmodel.example>" CACHE STRING
-  "Whom the Debian packages name as their maintainer")
+  "Maintainer of the Debian packages")
 set(runtime libvekprt2dmodel${PROJECT_VERSION_MAJOR})
 set(development libvekprt2dmodel-dev)
 
@@ -19,21 +19,29 @@ set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME ${runtime})
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
-# Debug information goes into a package of its own, and is stripped from the libraries for it.
-target_compile_options(VEKPrt2DModel PRIVATE -g)
-target_compile_options(VEKFramework PRIVATE -g)
+# Debug information is stripped from the libraries into a package of its own; that of the consumers stays.
 set(CPACK_DEBIAN_RUNTIME_DEBUGINFO_PACKAGE ON)
+# The prefix is /usr while CPack installs, too: the path of the printers contains it.
+set(CPACK_SET_DESTDIR ON)
 set(CPACK_DEBIAN_RUNTIME_DESCRIPTION "Holds pages of groups, lines, arcs, curves, text and bitmaps:
  client programs build a model; plot drivers, viewers and converters walk it.")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME ${development})
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
-  "${runtime} (= ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE}), libpng-dev")
-set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION "What it takes to build programs with ${runtime}:
- headers, what CMake and pkg-config look for, and a library that writes pages
- as SVG.")
+  "${runtime} (= ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})")
+get_property(consumers GLOBAL PROPERTY VEKPRT_CONSUMERS)
+foreach(name IN LISTS consumers)
+  get_property(packages GLOBAL PROPERTY VEKPRT_${name}_DEBIAN)
+  foreach(package IN LISTS packages)
+    string(APPEND CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS ", ${package}")
+  endforeach()
+endforeach()
+list(JOIN consumers ", " consumers)
+set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION "Development files for ${runtime}:
+ headers, what CMake and pkg-config look for, consumers (${consumers}),
+ printers for gdb, and the documents.")
 
-# What dpkg is told of the shared libraries, and the changes as Debian wants to see them.
+# dpkg metadata for the shared libraries, the documents, and the changes as Debian wants to see them.
 set(control ${PROJECT_BINARY_DIR}/debian)
 file(WRITE ${control}/triggers "activate-noawait ldconfig\n")
 file(WRITE ${control}/shlibs "libVEKPrt2DModel ${PROJECT_VERSION_MAJOR} ${runtime} (>= ${PROJECT_VERSION})
@@ -45,12 +53,14 @@ file(WRITE ${control}/changelog.Debian "vekprt2dmodel (${PROJECT_VERSION}-1) uns
   * Version ${PROJECT_VERSION}: see changelog.gz.
 
  -- ${VEKPRT_MAINTAINER}  ${now}\n")
-configure_file(${PROJECT_SOURCE_DIR}/CHANGELOG.md ${control}/changelog COPYONLY)
-foreach(file changelog changelog.Debian)
-  file(ARCHIVE_CREATE OUTPUT ${control}/${file}.gz PATHS ${control}/${file} FORMAT raw COMPRESSION GZip
-    COMPRESSION_LEVEL 9)
-endforeach()
+configure_file(CHANGELOG.md ${control}/changelog COPYONLY)
+# Without the time of compression, which would make each build another.
+execute_process(COMMAND gzip -9nf changelog changelog.Debian WORKING_DIRECTORY ${control} COMMAND_ERROR_IS_FATAL ANY)
 set(changes ${control}/changelog.gz ${control}/changelog.Debian.gz)
-install(FILES ${changes} DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${runtime} COMPONENT Runtime)
-install(FILES ${changes} DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${development} COMPONENT Development)
+set(documents ${CMAKE_INSTALL_DATADIR}/doc)
+install(FILES ${changes} DESTINATION ${documents}/${runtime} COMPONENT Runtime)
+install(FILES ${changes} README.md CHANGELOG.md CONTRIBUTING.md DESTINATION ${documents}/${development}
+  COMPONENT Development)
+install(DIRECTORY docs DESTINATION ${documents}/${development} COMPONENT Development
+  FILES_MATCHING PATTERN *.md PATTERN *.png)
 include(CPack)

@@ -9,9 +9,8 @@ skip() { printf '%s\n' "$*" >> "$skips"; }
 # finish TEXT: the last lines of a script: what was skipped, and TEXT.
 finish() {
     echo
-    sed 's/^/Skipped: /' "$skips"
+    [ -n "${VEKPRT_SKIPS:-}" ] || { sed 's/^/Skipped: /' "$skips"; rm -f "$skips"; }
     echo "Done: $*"
-    [ -n "${VEKPRT_SKIPS:-}" ] || rm -f "$skips"
 }
 
 # apt ARGUMENT...: apt-get, which waits while another process holds its locks.

@@ -5,7 +5,7 @@ set -eu
 printers=$1 program=$2 work=$3
 rm -rf "$work"
 mkdir -p "$work"
-gdb -nx -batch -ex run --args true 2>&1 | grep -q 'exited normally' || { echo "gdb: may run no program here"; exit 77; }
+gdb -nx -batch -ex run --args true 2>&1 | grep -q 'exited normally' || { echo "SKIPPED: gdb may run no program here"; exit 77; }
 gdb -nx -batch -ex 'break Stop' -ex run -ex "generate-core-file $work/core" "$program" > "$work/run.log" 2>&1
 [ -s "$work/core" ] || { cat "$work/run.log" >&2; echo "gdb: the program could not be run" >&2; exit 1; }
 
