@@ -1,4 +1,4 @@
-// Keeps the source of an assignment alive while the target gives up its old members.
+// The guard of an assignment's source.
 #ifndef SourceGuard_H
 #define SourceGuard_H
 
@@ -6,13 +6,13 @@
 
 namespace vekprt {
 
-/// Keeps the source of an assignment alive while there is an old list to walk: the walk may release the last
-/// owner of the source, which can be one of the old members or lie deeper in the tree.
+/// Keeps the source of an assignment alive while the target releases the members of its old list: one of
+/// them, or an element deeper in the tree, may be the last owner of the source.
 class SourceGuard {
 public:
     SourceGuard(const VEKBaseUnknown& iSource, const void* iOldList)
         : _source(iOldList ? const_cast<VEKBaseUnknown*>(&iSource) : nullptr) {
-        // A source that nobody held before is being destroyed.  It keeps the reference: giving it back would
+        // A source that nobody held before is being destroyed.  It keeps the reference: releasing it would
         // destroy the source a second time.
         if (_source && _source->AddRef() == 1) _source = nullptr;
     }

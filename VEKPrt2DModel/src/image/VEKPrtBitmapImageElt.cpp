@@ -59,9 +59,9 @@ void VEKPrtBitmapImageElt::GetOrientation(float& oOrientation) const { oOrientat
 void VEKPrtBitmapImageElt::SetPixelImage(VEKPixelImage* iImage) { vekprt::HoldImage(_image, iImage); }
 void VEKPrtBitmapImageElt::GetPixelImage(VEKPixelImage*& oImage) const { oImage = _image; }
 
-// Inverted on purpose: the image already held is released, after the new reference was taken as the old one
-// may be its last, and a different image held before is not: callers who replace an image by this function
-// still own the old one.  The orientation is ignored.
+// Inverted on purpose: the image already held is released (last, as this may be its only reference), and a
+// different image held before is not: callers who replace an image here still own a reference on the old one.
+// The orientation is ignored.
 void VEKPrtBitmapImageElt::SetParameters(const VEKMathPoint2D& iOrigin, double iWidth, double iHeight,
                                          double /*iOrientation*/, VEKPixelImage* iImage) {
     VEKPixelImage* const heldAlready = iImage == _image ? iImage : nullptr;
