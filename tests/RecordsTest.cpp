@@ -1,11 +1,9 @@
-#include <cstring>
-
-#include "Fields.h"
+#include "Rows.h"
 
 namespace {
 
-using Records =
-    testing::Types<Stroke, Fill, VEKPrtTextAttributes, VEKPrtMarkerAttributes, VEKPrtGroupAttributes>;
+using Records = testing::Types<Transform, Stroke, Fill, VEKPrtTextAttributes, VEKPrtMarkerAttributes,
+                               VEKPrtGroupAttributes>;
 SUITE_OF(EveryRecord, Records);
 
 // An image that notes what is in a copy when it is asked for a reference or for a copy of itself.
@@ -31,78 +29,80 @@ TYPED_TEST(EveryRecord, KeepsComparesAndCopiesItsFields) {
         for (std::size_t value = 0; value < field.count; ++value) {
             TypeParam record, assigned;
             if (value > 0) field.set(record, value);
-            TypeParam copied(record);
+            const TypeParam copied(record);
             assigned = record;
             assigned = *&assigned;
-            for (TypeParam* const each : {&record, &copied, &assigned})
+            for (const TypeParam* const each :
+                 std::initializer_list<const TypeParam*>{&record, &copied, &assigned})
                 for (const auto& other : fields)
-                    EXPECT_TRUE(other.has(*each, &other == &field ? value : 0))
-                        << other.name << ", when set: " << field.name;
+                    if (other.count > 0) {
+                        EXPECT_TRUE(other.has(*each, &other == &field ? value : 0))
+                            << "when set: " << field.name;
+                    }
             for (std::size_t second = 0; second < field.count; ++second) {
                 field.set(assigned, second);
                 EXPECT_EQ(record == assigned, value == second) << field.name << value << second;
                 EXPECT_EQ(copied == assigned, value == second) << field.name << value << second;
             }
         }
-    WithSelfCopy<TypeParam>([&](TypeParam& ioCopy) {
-        for (const auto& field : fields)
-            EXPECT_TRUE(field.has(ioCopy, 0)) << "copied from itself: " << field.name;
-    });
 }
 
-// Pairs of array and count in the order of the kinds' fields, as debuggers and other compilers see them.
-TEST(Transform, KeepsItsLayout) {
-    const Transform transform = OneOfEach();
-    struct Pair {
-        void* values;
-        unsigned count;
-    };
-    struct Layout {
-        void* table;
-        Pair pairs[8];
-    } layout;
-    static_assert(sizeof layout == sizeof transform, "nothing besides");
-    std::memcpy(&layout, static_cast<const void*>(&transform), sizeof layout);
-    for (int i = 0; i < 8; ++i)
-        EXPECT_EQ(layout.pairs[i].count, i == 0 ? 7U : 1U) << i;
-    EXPECT_EQ(static_cast<double*>(layout.pairs[2].values)[0], 13.0);
-    EXPECT_EQ(static_cast<float*>(layout.pairs[6].values)[0], 16.0F);
+TYPED_TEST(EveryRecord, CanFailToBeCopied) {
+    const TypeParam source = Changed<TypeParam>();
+    for (long nth = 0, hits = 1; hits > 0; ++nth)
+        for (const bool sticky : {false, true}) {
+            const long blocks = LiveBlocks();
+            {
+                AllocationFaults faults(nth, sticky);
+                TypeParam copied(source), assigned;
+                assigned = source;
+                hits = faults.Stop();
+                copied = source;
+                ExpectFields(copied, 1, "copied again");
+            }
+            EXPECT_EQ(LiveBlocks(), blocks) << nth;
+            ExpectFields(source, 1, "the source");
+        }
 }
 
-TEST(Transform, TakesItselfAndItsEntries) {
-    Transform transform = OneOfEach();
-    EXPECT_EQ(&(transform = *&transform), &transform);
-    EXPECT_TRUE(transform == OneOfEach());
-    EXPECT_EQ(Kinds(Transform(transform)), g_anyOrder);
-    unsigned count = 0;
-    VEKPrintTransformType* kinds = nullptr;
-    transform.GetTransformTab(count, kinds);
-    transform.AddTransform(kinds[0]);
-    EXPECT_EQ(Kinds(transform).back(), g_anyOrder[0])
-        << "the argument is an entry of the list that is replaced";
-    WithSelfCopy<Transform>([](const Transform& iCopy) { EXPECT_TRUE(Kinds(iCopy).empty()); });
+TEST(Transform, YieldsTheLatestValueUpToAPosition) {
+    Transform transform;
+    SetEntries(transform, {{3, 2}, {2, 30}, {3, 3}});
+    transform.AddTransform(Value<VEKPrintTransformType>(3)); // has no value
+    const std::optional<double> none;
+    const std::vector<std::optional<double>> scales = {2, 2, 3, none, none},
+                                             rotations = {none, 30, 30, 30, none};
+    for (unsigned i = 0; i < scales.size(); ++i) {
+        EXPECT_EQ(g_kinds[3].get(transform, i), scales[i]) << i;
+        EXPECT_EQ(g_kinds[2].get(transform, i), rotations[i]) << i;
+        for (const TransformKind& kind : g_kinds)
+            EXPECT_EQ(kind.get(Transform(), i), none) << kind.name;
+    }
 }
 
 TEST(Transform, AppendsInOrder) {
-    Transform target, expected;
-    for (Transform* const each : {&target, &expected})
-        each->AddRotation(1.0F);
-    for (const int kind : g_anyOrder)
-        g_kinds[kind].add(expected, 10.0 + kind);
-    Transform source = OneOfEach();
-    source.AddTransform(static_cast<VEKPrintTransformType>(77));
+    Transform target, source = Changed<Transform>();
+    Entries expected = g_oneOfEach;
+    expected.insert(expected.begin(), {2, 1});
+    target.AddRotation(1.0F);
+    source.AddTransform(Value<VEKPrintTransformType>(77));
     EXPECT_EQ(target.AddTransformAttributes(Transform()), 1);
     EXPECT_EQ(target.AddTransformAttributes(source), 1);
-    EXPECT_TRUE(target == expected) << "kinds without values are passed over";
+    EXPECT_EQ(EntriesOf(target), expected) << "kinds without values are passed over";
 
     Transform valueless, part;
     valueless.AddScaleX(4.0);
     valueless.AddTransform(Value<VEKPrintTransformType>(5));
     valueless.AddScaleX(5.0);
     EXPECT_EQ(part.AddTransformAttributes(valueless), -1);
-    EXPECT_EQ(Kinds(part), (std::vector<int>{3})) << "what was appended before the failure stays";
+    EXPECT_EQ(EntriesOf(part), (Entries{{3, 4}})) << "what was appended before the failure stays";
     EXPECT_EQ(source.AddTransformAttributes(*&source), -1) << "to itself: it stops after the first";
-    EXPECT_EQ(Kinds(source).size(), 9U);
+    EXPECT_EQ(EntriesOf(source).size(), 9U);
+    unsigned count = 0;
+    VEKPrintTransformType* kinds = nullptr;
+    source.GetTransformTab(count, kinds);
+    source.AddTransform(kinds[0]);
+    EXPECT_EQ(EntriesOf(source).back().first, 6) << "the argument is an entry of the list that is replaced";
 }
 
 TEST(Transform, CallsThroughTheVirtualTableAndHandsOnTheStatus) {
@@ -121,8 +121,11 @@ TEST(Transform, CallsThroughTheVirtualTableAndHandsOnTheStatus) {
             Transform::AddScaleX(10 * iScale);
             return add;
         }
+        int AddTransform(const VEKPrintTransformType& iKind) override {
+            return 1 + Transform::AddTransform(iKind);
+        }
     } source, target;
-    source.Transform::AddScaleX(2.0);
+    EXPECT_EQ(source.Transform::AddScaleX(2.0), -1) << "anything but 1 from AddTransform is a failure";
     const int rows[][4] = {{1, 1, 1, 1},   {0, 1, 1, 0}, {-7, 1, 1, -7}, {1, 0, 1, 0},
                            {1, -7, 1, -7}, {1, 1, 0, 0}, {1, 1, -7, -7}, {2, 3, 4, 1}};
     for (const auto& [tab, get, add, expected] : rows) {
@@ -131,13 +134,7 @@ TEST(Transform, CallsThroughTheVirtualTableAndHandsOnTheStatus) {
         target.add = add;
         EXPECT_EQ(target.AddTransformAttributes(source), expected) << tab << get << add;
     }
-    double scale = 0;
-    EXPECT_EQ(target.Transform::GetScaleX(0, scale), 1);
-    EXPECT_EQ(scale, 30.0);
-    struct Strange : Transform {
-        int AddTransform(const VEKPrintTransformType&) override { return 2; }
-    } strange;
-    EXPECT_EQ(strange.AddRotation(1.0F), -1) << "anything but 1 from AddTransform is a failure";
+    EXPECT_EQ(g_kinds[3].get(target, 0), 31);
 }
 
 // A Get that succeeds without a value leaves the value that the replay starts with.
@@ -151,40 +148,41 @@ TEST(Transform, ReplaysFromPresets) {
         int GetSkewY(unsigned, float&) const override { return 1; }
         int GetTranslation(unsigned, Vector&) const override { return 1; }
     } source;
-    Transform target, expected;
-    for (const int kind : g_anyOrder) {
-        g_kinds[kind].add(source, 10);
-        g_kinds[kind].add(expected, kind > 2 ? 1 : 0); // scales and skews are 1, the others blank
-    }
+    Transform target;
+    SetEntries(source, g_oneOfEach);
     EXPECT_EQ(target.AddTransformAttributes(source), 1);
-    EXPECT_TRUE(target == expected);
+    Entries expected = g_oneOfEach;
+    for (auto& [kind, value] : expected)
+        value = kind > 2 ? 1 : 0; // scales and skews are 1, the others blank
+    EXPECT_EQ(EntriesOf(target), expected);
 }
 
-// A first addition that failed leaves a count, which copies take along: it shows once a kind is added.
-TEST(Transform, CopiesTheCountOfLostValues) {
-    for (const int kind : g_anyOrder) {
-        Transform source, target;
-        WithFault(0, [&] { EXPECT_EQ(g_kinds[kind].add(source, 1.0), -1); });
-        target = source;
-        EXPECT_EQ(target.AddTransform(static_cast<VEKPrintTransformType>(kind)), 1);
-        EXPECT_TRUE(g_kinds[kind].get(target, 0)) << g_kinds[kind].name << ", a blank one";
+// A failed addition leaves a raised count, with which copies get blank values, and loses the old array.
+TEST(Transform, LosesItsValuesWhenAnAdditionFails) {
+    const DemandedLeak leak(0, 14);
+    for (const auto& [kind, value] : g_oneOfEach) {
+        Transform first, later = Changed<Transform>(), target;
+        WithFault(0, [&] { EXPECT_EQ(g_kinds[kind].add(first, 1), -1); });
+        WithFault(0, [&] { EXPECT_EQ(g_kinds[kind].add(later, 1), -1); });
+        EXPECT_EQ(EntriesOf(first).size(), 0U);
+        EXPECT_EQ(g_kinds[kind].get(later, 6), std::nullopt);
+        target = first;
+        EXPECT_EQ(target.AddTransform(Value<VEKPrintTransformType>(kind)), 1);
+        EXPECT_EQ(EntriesOf(target), (Entries{{kind, 0}})) << g_kinds[kind].name;
+        EXPECT_EQ(g_kinds[kind].add(later, 5), 1);
+        EXPECT_EQ(g_kinds[kind].get(later, 7), 0) << "blank: the added value is the third";
+        Transform kindless = Changed<Transform>();
+        WithFault(1, [&] { EXPECT_EQ(g_kinds[kind].add(kindless, 1), -1); });
+        EXPECT_EQ(target.AddTransformAttributes(kindless), 1);
+        EXPECT_EQ(EntriesOf(target).size(), 1U) << "nothing is appended without a list of kinds";
     }
-}
-
-TEST(Transform, ReplaysNothingWithoutItsListOfKinds) {
-    const DemandedLeak leak(0, 1);
-    Transform transform, target;
-    transform.AddScaleX(2.0);
-    WithFault(1, [&] { EXPECT_EQ(transform.AddScaleX(3.0), -1); });
-    EXPECT_EQ(target.AddTransformAttributes(transform), 1);
-    EXPECT_TRUE(Kinds(target).empty());
 }
 
 TEST(Stroke, OwnsItsPattern) {
     float values[] = {1, 2, 3}, poison = 0;
     float* untouched = &poison;
     unsigned char length = 9;
-    Stroke stroke;
+    Stroke stroke, lost;
     stroke.GetStrokeTypePattern(untouched, length);
     EXPECT_EQ(length, 0);
     EXPECT_EQ(untouched, &poison) << "without a pattern the pointer is not written";
@@ -199,15 +197,11 @@ TEST(Stroke, OwnsItsPattern) {
     const std::vector<float> longest(255, 1.5F);
     EXPECT_EQ(DashesOf(Dashed(longest)), longest);
     EXPECT_EQ(Dashed({0.0F}) == Dashed({-0.0F}), 1) << "entries compare as numbers";
-}
 
-TEST(StrokeFailure, AssignmentKeepsTheLength) {
-    Stroke lost, target;
-    const float values[] = {1, 0, 3};
     WithFault(0, [&] { lost.SetStrokeTypePattern(values, 3); });
     EXPECT_EQ(DashesOf(lost), (std::vector<float>{0, 0, 0})) << "the length stays, the values are zero";
-    target = lost;
-    EXPECT_TRUE(DashesOf(target).empty()) << "neither holds a pattern: not even the length is copied";
+    stroke = lost;
+    EXPECT_TRUE(DashesOf(stroke).empty()) << "neither holds a pattern: not even the length is assigned";
     EXPECT_EQ(DashesOf(Stroke(lost)).size(), 3U) << "the copy constructor copies it";
     EXPECT_EQ(lost == Dashed({0, 0, 0}), 1);
     EXPECT_EQ(lost == Dashed({0, 0, 1}), 0);
@@ -226,9 +220,8 @@ TEST(Fill, SharesItsImageByCount) {
     assigned = fill;
     assigned = fill;
     EXPECT_EQ(Count(image), 3UL);
-    auto copy = std::make_unique<Fill>(fill);
-    EXPECT_EQ(Count(image), 4UL);
-    copy.reset();
+    EXPECT_EQ((Fill(fill), Count(image)), 4UL) << "while a copy is there";
+    EXPECT_EQ(Count(image), 3UL);
     fill.SetPattern(Make<VEKPixelImage>(1, 1).Get(), a, b);
     fill.SetPattern(ImageOf(fill), a, b);
     EXPECT_EQ(Count(ImageOf(fill)), 1UL) << "the sole reference survives";
@@ -264,12 +257,10 @@ TEST(Text, CopiesItsRecordBeforeOrAfterTheFill) {
     using T = VEKPrtTextElt;
     const auto image = Make<Witness>();
     Fill fill;
-    VEKPrtTextAttributes attributes;
     fill.SetPattern(image.Get(), {0, 0}, {0, 0});
-    attributes.SetHeight(20.0);
     const auto source = Make<T>(), assigned = Make<T>();
     source->SetFillAttributes(fill);
-    source->SetTextAttributes(attributes);
+    source->SetTextAttributes(Changed<VEKPrtTextAttributes>());
     static T* target;
     image->look = [] {
         VEKPrtTextAttributes text;
@@ -283,7 +274,7 @@ TEST(Text, CopiesItsRecordBeforeOrAfterTheFill) {
     void* const place = VEKBaseUnknown::operator new(sizeof(T));
     target = static_cast<T*>(place);
     const auto copy = VEKRef<T>::Adopt(::new (place) T(*source));
-    EXPECT_EQ(image->seen, (std::vector<double>{10, 20})) << "assigned after it, constructed before it";
+    EXPECT_EQ(image->seen, (std::vector<double>{10, -1})) << "assigned after it, constructed before it";
     image->look = nullptr;
 }
 
@@ -295,21 +286,18 @@ TEST(Fill, DuplicateCopiesTheImageAndLosesTheTargets) {
     for (Fill* const each : {&target, &failed})
         each->SetPattern(old.Get(), up, across);
     fill.Duplicate(target);
-    EXPECT_EQ(Count(old), 3UL) << "its reference is lost";
     EXPECT_EQ(Count(image), 2UL);
     EXPECT_EQ(fill == target, 0) << "equal but for the image's identity";
     EXPECT_EQ(ImageOf(target)->GetWidth(), 2);
     EXPECT_EQ(Count(ImageOf(target)), 1UL);
     Fill().Duplicate(target);
     EXPECT_NE(ImageOf(target), nullptr) << "without an image the target's stays";
-
-    fill.SetPattern(Make<UncopyableImage>().Get(), across, up);
-    fill.Duplicate(failed);
-    EXPECT_EQ(Count(old), 3UL) << "lost to an image that cannot be copied, too";
+    WithFault(0, [&] { fill.Duplicate(failed); });
+    EXPECT_EQ(Count(old), 3UL) << "both references are lost";
     VEKPixelImage* copied = old.Get();
     Vector first, second;
     failed.GetPattern(copied, first, second);
-    EXPECT_EQ(copied, nullptr);
+    EXPECT_EQ(copied, nullptr) << "an image that cannot be copied";
     EXPECT_EQ(first, across);
     for (int lost = 0; lost < 2; ++lost)
         old->Release();

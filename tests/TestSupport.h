@@ -8,12 +8,57 @@
 #include <cstddef>
 #include <string>
 
-#include "AllElements.h"
+#include "VEKListPtrVEKMathPoint2D.h"
 #include "VEKPixelImage.h"
-#include "VEKPrtFillAttributes.h"
+#include "VEKPrtColourTable.h"
 #include "VEKPrtWalk.h"
 
 using namespace vekprt;
+
+// Type lists for typed tests, derived from the one list of element classes and from what each class has.
+
+template <class... Lists>
+struct Join {
+    using Result = testing::Types<>;
+};
+template <class... Classes>
+struct Join<testing::Types<Classes...>> {
+    using Result = testing::Types<Classes...>;
+};
+template <class... First, class... Second, class... Rest>
+struct Join<testing::Types<First...>, testing::Types<Second...>, Rest...>
+    : Join<testing::Types<First..., Second...>, Rest...> {};
+
+template <template <class> class Has, class... Classes>
+typename Join<std::conditional_t<Has<Classes>::value, testing::Types<Classes>, testing::Types<>>...>::Result
+    Filter(ClassList<Classes...>);
+template <template <class> class Has>
+using ElementsWith = decltype(Filter<Has>(ElementClasses()));
+
+/// An array of points that is set alone.
+template <class Class, class = void>
+struct HasPoints : std::false_type {};
+template <class Class>
+struct HasPoints<
+    Class, std::void_t<decltype(std::declval<Class&>().SetPoints(static_cast<const double*>(nullptr), 0))>>
+    : std::true_type {};
+/// Members by reference count, of whatever class.
+template <class Class, class = void>
+struct HasMembers : std::false_type {};
+template <class Class>
+struct HasMembers<Class, std::void_t<decltype(ListOf(std::declval<Class&>()))>> : std::true_type {};
+
+template <class>
+using Any = std::true_type;
+using AllElements = Join<testing::Types<VEKPrtGraphicPrimitiveElt>, ElementsWith<Any>>::Result;
+using Containers = ElementsWith<HasChildren>;
+using Holders = Join<ElementsWith<HasMembers>, testing::Types<VEKPrtModel>>::Result;
+
+/// A suite of typed tests.
+#define SUITE_OF(Name, Types)                                                                                \
+    template <class>                                                                                         \
+    class Name : public testing::Test {};                                                                    \
+    TYPED_TEST_SUITE(Name, Types, )
 
 /// Blocks that the process has from any form of operator new.
 long LiveBlocks();
@@ -78,17 +123,6 @@ VEKRef<Element> Duplicated(Element& ioSource) {
     return VEKRef<Element>::Adopt(static_cast<Element*>(copy));
 }
 
-/// A copy constructed from itself, in place; the memory is filled with junk first.
-template <class T, class Check>
-void WithSelfCopy(Check iCheck) {
-    alignas(T) unsigned char memory[sizeof(T)];
-    std::fill(std::begin(memory), std::end(memory), static_cast<unsigned char>(0xA5));
-    T* const object = reinterpret_cast<T*>(memory);
-    ::new (memory) T(*object);
-    iCheck(*object);
-    object->~T();
-}
-
 /// An image that cannot be copied.
 struct UncopyableImage : VEKPixelImage {
     UncopyableImage() : VEKPixelImage(1, 1) {}
@@ -115,27 +149,22 @@ template <class Holder>
 constexpr bool isModel = std::is_base_of_v<VEKPrtModel, Holder>;
 template <class Holder>
 constexpr bool isFigure = std::is_base_of_v<VEKPrtClosedFigureElt, Holder>;
-template <class Holder, class OfModel, class OfFigure, class OfContainer>
-using ByHolder =
-    std::conditional_t<isModel<Holder>, OfModel, std::conditional_t<isFigure<Holder>, OfFigure, OfContainer>>;
 template <class Holder>
-using MemberOf = ByHolder<Holder, VEKPrtImageElt, VEKPrtClosedFigureRegionElt, VEKPrtGraphicPrimitiveElt>;
+using MemberOf = typename decltype(ChildrenOf(std::declval<Holder&>()).begin())::value_type;
 
 template <class Holder>
-void AddTo(Holder& ioHolder, VEKBaseUnknown* iMember) {
-    auto* const member = static_cast<MemberOf<Holder>*>(iMember);
+void AddTo(Holder& ioHolder, MemberOf<Holder>* iMember) {
     if constexpr (isModel<Holder>)
-        ioHolder.AddImage(member);
+        ioHolder.AddImage(iMember);
     else
-        ioHolder.AddChild(member);
+        ioHolder.AddChild(iMember);
 }
 template <class Holder>
-void RemoveFrom(Holder& ioHolder, VEKBaseUnknown* iMember) {
-    auto* const member = static_cast<MemberOf<Holder>*>(iMember);
+void RemoveFrom(Holder& ioHolder, MemberOf<Holder>* iMember) {
     if constexpr (isModel<Holder>)
-        ioHolder.RemoveImage(member);
+        ioHolder.RemoveImage(iMember);
     else
-        ioHolder.RemoveChild(member);
+        ioHolder.RemoveChild(iMember);
 }
 
 #endif

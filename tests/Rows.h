@@ -1,0 +1,243 @@
+// A row for each record and each element class.  A new class needs one here, and nothing else in the tests.
+#ifndef Rows_H
+#define Rows_H
+
+#include <cfloat>
+#include <cmath>
+
+#include "Fields.h"
+#include "VEKFont.h"
+
+inline VEKFont g_font("Sans");
+inline const VEKRef<VEKPixelImage> g_image = Make<VEKPixelImage>(1, 1);
+
+/// What the rows take their values from.
+struct Samples {
+    inline static const Point origin{0, 0}, a{1, 2}, b{-3, 1};
+    inline static const Vector none{0, 0};
+};
+
+// The entries of a row, where C is the class: a field with its values, or virtual functions that are no
+// field's.
+#define FIELD(Name, ...) MakeField(#Name, &C::Set##Name, &C::Get##Name, {__VA_ARGS__})
+#define PAIR(Name) SlotOf(&C::Set##Name), SlotOf(&C::Get##Name)
+#define FUNCTIONS(Name, ...)                                                                                 \
+    Field<C> {                                                                                               \
+        Name, { __VA_ARGS__ }                                                                                \
+    }
+/// A constructor from values: the fields before it get their second values, the others their first.
+#define CONSTRUCTED(...)                                                                                     \
+    Field<C> {                                                                                               \
+        "constructor", {}, 0, {}, {}, {}, [] { return new C(__VA_ARGS__); }                                  \
+    }
+#define TRANSFORM FIELD(TransformAttributes, {Transform()}, {Changed<Transform>()})
+#define STROKE FIELD(StrokeAttributes, {Stroke()}, {Changed<Stroke>()})
+#define FILL FIELD(FillAttributes, {Fill()}, {Changed<Fill>()})
+#define STROKED STROKE, TRANSFORM
+#define PAINTED FIELD(DrawStyle, {1}, {-123456}), STROKE, FILL, TRANSFORM
+#define KIND_SLOTS(Name) SlotOf(&C::Add##Name), SlotOf(&C::Get##Name)
+#define CHILDREN FUNCTIONS("children", SlotOf(&C::AddChild), SlotOf(&C::RemoveChild), SlotOf(&C::GetChildren))
+
+/// A row of a class without class information of its own.
+#define PLAIN_ROW(Class, ...)                                                                                \
+    template <>                                                                                              \
+    struct Row<Class> : Samples {                                                                            \
+        using C = Class;                                                                                     \
+        static constexpr const char* name = #Class;                                                          \
+        static Fields<C> List() { return {__VA_ARGS__}; }                                                    \
+    };                                                                                                       \
+    inline void PrintTo(const Class& iRecord, std::ostream* ioStream) { PrintChanges(iRecord, ioStream); }
+/// A row of an element class.  The length is that of the name; what duplicates is explained in
+/// ElementProtocol.h.
+#define ROW(Class, Length, Recipe, ...)                                                                      \
+    template <>                                                                                              \
+    struct Row<Class> : Samples {                                                                            \
+        using C = Class;                                                                                     \
+        static constexpr const char* name = #Class;                                                          \
+        static constexpr Duplication recipe = Duplication::Recipe;                                           \
+        static VEKMetaClass*& Cache() { return meta_object__##Length##Class; }                               \
+        static Fields<C> List() { return {__VA_ARGS__}; }                                                    \
+    }
+enum class Duplication { ByAssignment, ByCopying, ByConstruction };
+
+PLAIN_ROW(VEKPrtTransformAttributes,
+          FieldBy<C, Entries>(
+              "Entries",
+              {SlotOf(&C::GetTransformTab), SlotOf(&C::AddTransformAttributes), KIND_SLOTS(Matrix),
+               KIND_SLOTS(ScaleX), KIND_SLOTS(ScaleY), KIND_SLOTS(Rotation), KIND_SLOTS(SkewX),
+               KIND_SLOTS(SkewY), KIND_SLOTS(Translation), SlotOf(&C::AddTransform)},
+              SetEntries, [](const C& iTransform, Entries& oEntries) { oEntries = EntriesOf(iTransform); },
+              {{}, {g_oneOfEach}, {{{3, 2}, {2, 30}, {3, 3}}}}));
+PLAIN_ROW(VEKPrtColourTable,
+          FUNCTIONS("all", SlotOf(&C::GetColourCount), SlotOf(&C::AddColour), SlotOf(&C::ModifyColour),
+                    SlotOf(&C::GetColourIndex), SlotOf(&C::GetColour)));
+PLAIN_ROW(VEKPrtModel,
+          FUNCTIONS("images", SlotOf(&C::AddImage), SlotOf(&C::RemoveImage), SlotOf(&C::GetImages)));
+PLAIN_ROW(VEKPrtStrokeAttributes, FIELD(StrokeColourIndex, {0}, {7}),
+          FIELD(StrokeColourTransparency, {255}, {254}), FIELD(StrokeType, {0}, {2}),
+          FieldBy<C, std::vector<float>>(
+              "Dashes", {PAIR(StrokeTypePattern)}, SetDashes,
+              [](const C& iStroke, auto& oDashes) { oDashes = DashesOf(iStroke); },
+              {{}, {{1, 2, 3}}, {{1}}, {{1, 2}}, {{2, 2, 3}}, {{1, 2, std::nextafter(3.0F, 4.0F)}}}),
+          FIELD(StrokeWidth, {static_cast<double>(0.1F)}, {-2.0}, {0.1}), FIELD(StrokeStyle, {8}, {9}),
+          FIELD(StrokeCap, {10}, {11}), FIELD(StrokeJoin, {13}, {15}));
+PLAIN_ROW(VEKPrtFillAttributes, FUNCTIONS("Duplicate", SlotOf(&C::Duplicate)), FIELD(FillStyle, {0}, {1}),
+          FIELD(FillRule, {1}, {0}), FIELD(FillColourIndex, {0}, {7}),
+          FIELD(FillColourTransparency, {255}, {0}),
+          FIELD(Pattern, {nullptr, none, none}, {nullptr, Vector(1, 2), Vector(3, 4)},
+                {nullptr, Vector(0, DBL_MIN), none}, {nullptr, none, Vector(1, 0)},
+                {g_image.Get(), none, none}),
+          FIELD(PatternRefPoint, {origin}, {Point(0, 1)}, {a}));
+PLAIN_ROW(VEKPrtTextAttributes, FIELD(Font, {nullptr}, {&g_font}), FIELD(Weight, {25}, {27}),
+          FIELD(Height, {10.0}, {-1.0}, {std::nextafter(10.0, 11.0)}), FIELD(Anchor, {29}, {35}),
+          FIELD(Slant, {0}, {2}), FIELD(Direction, {0}, {-3}), FIELD(ExtraSpacing, {0}, {0.5}),
+          FIELD(Expansion, {1}, {0.25}), FIELD(WritingMode, {0}, {-7}));
+PLAIN_ROW(VEKPrtMarkerAttributes, FIELD(MarkerStyle, {0}, {5}));
+PLAIN_ROW(VEKPrtGroupAttributes, FIELD(LinkURI, {""}, {"https://example.org"}));
+
+ROW(VEKPrtGraphicPrimitiveElt, 25, ByConstruction, FUNCTIONS("Duplicate", SlotOf(&C::Duplicate)),
+    FIELD(ID, {""}, {"id"}), FIELD(Description, {""}, {"description"}), FIELD(Title, {""}, {"title"}));
+
+ROW(VEKPrtLineElt, 13, ByAssignment, FIELD(StartPoint, {origin}, {a}), FIELD(EndPoint, {origin}, {b}),
+    FIELD(Parameters, {origin, origin}, {a, b}), CONSTRUCTED(a, b), STROKED);
+ROW(VEKPrtRectangleElt, 18, ByCopying, FIELD(Points, {origin, origin}, {a, b}, {b, Point(7, 9)}),
+    CONSTRUCTED(a, b), PAINTED);
+ROW(VEKPrtCircleElt, 15, ByAssignment, FIELD(Center, {origin}, {a}), FIELD(Radius, {0}, {-3}),
+    FIELD(Parameters, {origin, 0}, {a, -3}), CONSTRUCTED(a, -3.0), PAINTED);
+ROW(VEKPrtCircularArcElt, 20, ByAssignment, FIELD(Center, {origin}, {a}), FIELD(Radius, {0}, {3}),
+    FIELD(StartAngle, {0}, {400}), FIELD(EndAngle, {0}, {-5}),
+    FIELD(Parameters, {origin, 0, 0, 0}, {a, 3, 400, -5}), CONSTRUCTED(a, 3.0, 400.0F, -5.0F), PAINTED);
+ROW(VEKPrtEllipseElt, 16, ByAssignment, FIELD(Center, {origin}, {a}), FIELD(HorzRadius, {0}, {3}),
+    FIELD(VertRadius, {0}, {-4}), FIELD(Slope, {0}, {5}), FIELD(Parameters, {origin, 0, 0, 0}, {a, 3, -4, 5}),
+    CONSTRUCTED(a, 3.0, -4.0, 5.0F), PAINTED);
+ROW(VEKPrtEllipticalArcElt, 22, ByAssignment, FIELD(Center, {origin}, {a}), FIELD(HorzRadius, {0}, {3}),
+    FIELD(VertRadius, {0}, {2}), FIELD(StartAngle, {0}, {20}), FIELD(EndAngle, {0}, {10}),
+    FIELD(Slope, {0}, {30}), FIELD(Parameters, {origin, 0, 0, 0, 0, 0}, {a, 3, 2, 20, 10, 30}),
+    CONSTRUCTED(a, 3.0, 2.0, 20.0F, 10.0F, 30.0F), PAINTED);
+ROW(VEKPrtMarkerElt, 15, ByAssignment, FIELD(Point, {origin}, {a}), FIELD(Size, {0}, {-3}),
+    FIELD(Parameters, {origin, 0}, {a, -3}), CONSTRUCTED(a, -3.0),
+    FIELD(MarkerAttributes, {VEKPrtMarkerAttributes()}, {Changed<VEKPrtMarkerAttributes>()}), STROKED);
+ROW(VEKPrtTextElt, 13, ByAssignment, FIELD(Position, {origin}, {a}), FIELD(Text, {""}, {"x"}),
+    FIELD(Parameters, {origin, ""}, {a, "x"}), CONSTRUCTED(a, "x"), FIELD(DrawStyle, {1}, {-123456}), STROKE,
+    FILL, FIELD(TextAttributes, {VEKPrtTextAttributes()}, {Changed<VEKPrtTextAttributes>()}), TRANSFORM);
+
+/// The width of the image that is held, which it shares with its copies.
+inline Field<VEKPrtBitmapImageElt> PixelImageField() {
+    using C = VEKPrtBitmapImageElt;
+    return FieldBy<C, int>(
+        "PixelImage", {PAIR(PixelImage)},
+        [](C& ioBitmap, int iWidth) { ioBitmap.SetPixelImage(iWidth > 0 ? g_image.Get() : nullptr); },
+        [](const C& iBitmap, int& oWidth) {
+            VEKPixelImage* image = nullptr;
+            iBitmap.GetPixelImage(image);
+            oWidth = image ? image->GetWidth() : 0;
+        },
+        {{0}, {1}});
+}
+ROW(VEKPrtBitmapImageElt, 20, ByAssignment, FIELD(Origin, {origin}, {a}), FIELD(Size, {0, 0}, {3, 4}),
+    FIELD(Orientation, {0}, {0.1F}), CONSTRUCTED(a, 3.0, 4.0, 0.1, nullptr), PixelImageField(),
+    FUNCTIONS("Parameters", PAIR(Parameters)), TRANSFORM);
+
+/// The reds of a colour table; none without a table.
+inline Field<VEKPrtImageElt> ColourTableField() {
+    using C = VEKPrtImageElt;
+    return FieldBy<C, std::vector<int>>(
+        "ColourTable", {PAIR(ColourTable)},
+        [](C& ioPage, const std::vector<int>& iReds) {
+            auto* const table = iReds.empty() ? nullptr : new (std::nothrow) VEKPrtColourTable;
+            unsigned index = 0;
+            for (const int red : iReds)
+                if (table) table->AddColour(static_cast<unsigned char>(red), 0, 0, index);
+            ioPage.SetColourTable(table);
+        },
+        [](C& ioPage, std::vector<int>& oReds) {
+            VEKPrtColourTable* table = nullptr;
+            unsigned char red = 0, green = 0, blue = 0;
+            ioPage.GetColourTable(table);
+            oReds.clear();
+            for (unsigned i = 0; table && table->GetColour(i, red, green, blue) == 1; ++i)
+                oReds.push_back(red);
+        },
+        {{}, {{7, 8}}});
+}
+ROW(VEKPrtImageElt, 14, ByConstruction, FIELD(Origin, {origin}, {a}), FIELD(Size, {0, 0}, {3, 4}),
+    FIELD(Units, {4}, {-123456}), FIELD(Matrix, {Matrix()}, {Matrix(1, 2, 3, 4)}),
+    CONSTRUCTED(a, 3.0, 4.0, Value<VEKPrtImageUnits>(-123456), Matrix(1, 2, 3, 4)), ColourTableField(),
+    CHILDREN);
+ROW(VEKPrtGroupElt, 14, ByConstruction,
+    FIELD(GroupAttributes, {VEKPrtGroupAttributes()}, {Changed<VEKPrtGroupAttributes>()}), TRANSFORM,
+    CHILDREN);
+ROW(VEKPrtPatternElt, 16, ByConstruction, FIELD(Origin, {origin}, {a}), FIELD(Size, {0, 0}, {3, 4}),
+    CONSTRUCTED(a, 3.0, 4.0), TRANSFORM, CHILDREN);
+ROW(VEKPrtSymbolElt, 15, ByConstruction, FIELD(Origin, {origin}, {a}), FIELD(Size, {0, 0}, {3, 4}),
+    CONSTRUCTED(a, 3.0, 4.0), TRANSFORM, CHILDREN);
+ROW(VEKPrtClosedFigureElt, 21, ByConstruction, PAINTED, CHILDREN);
+ROW(VEKPrtClosedFigureRegionElt, 27, ByConstruction,
+    FUNCTIONS("Duplicate", SlotOf(static_cast<void (C::*)(C*&)>(&C::Duplicate))), TRANSFORM, CHILDREN);
+
+using Coordinates = std::vector<double>;
+template <class C>
+Field<C> PointsField() {
+    return FieldBy<C, Coordinates>(
+        "Points", {PAIR(Points)},
+        [](C& ioElement, const Coordinates& iPoints) {
+            ioElement.SetPoints(iPoints.data(), static_cast<int>(iPoints.size() / 2));
+        },
+        [](const C& iElement, Coordinates& oPoints) {
+            double* points = nullptr;
+            int count = 0;
+            iElement.GetPoints(points, count);
+            oPoints.assign(points, points + (points ? 2 * count : 0));
+        },
+        {{}, {{1, 2, 3, 4}}, {{5, 6}}});
+}
+ROW(VEKPrtPolylineElt, 17, ByCopying, PointsField<C>(), STROKED);
+ROW(VEKPrtPolyCubicBezierElt, 24, ByCopying, PointsField<C>(), STROKED);
+ROW(VEKPrtPolyQuadraticBezierElt, 28, ByCopying, PointsField<C>(), STROKED);
+ROW(VEKPrtDisjointPolylineElt, 25, ByAssignment, PointsField<C>(), STROKED);
+ROW(VEKPrtPolygonElt, 16, ByCopying, PointsField<C>(), PAINTED);
+
+inline Field<VEKPrtPolyPolygonElt> PolygonsField() {
+    using C = VEKPrtPolyPolygonElt;
+    return FieldBy<C, Coordinates, std::vector<int>>(
+        "Points", {PAIR(Points)},
+        [](C& ioElement, const Coordinates& iPoints, const std::vector<int>& iCounts) {
+            ioElement.SetPoints(iPoints.data(), iCounts.data(), static_cast<int>(iCounts.size()));
+        },
+        [](const C& iElement, Coordinates& oPoints, std::vector<int>& oCounts) {
+            double* points = nullptr;
+            int *counts = nullptr, count = 0;
+            iElement.GetPoints(points, counts, count);
+            oCounts.assign(counts, counts + (counts ? count : 0));
+            oPoints.assign(points,
+                           points + (points ? 2 * std::accumulate(oCounts.begin(), oCounts.end(), 0) : 0));
+        },
+        {{}, {{1, 2, 3, 4, 5, 6}, {2, 1}}});
+}
+ROW(VEKPrtPolyPolygonElt, 20, ByCopying, PolygonsField(), PAINTED);
+
+/// The bounds stay those of a new curve: copies reset them.
+inline Field<VEKPrtNURBSElt> CurveField() {
+    using C = VEKPrtNURBSElt;
+    return FieldBy<C, int, Coordinates, Coordinates, Coordinates>(
+        "Curve", {PAIR(Parameters)},
+        [](C& ioCurve, int iOrder, const Coordinates& iPoints, const Coordinates& iKnots,
+           const Coordinates& iWeights) {
+            ioCurve.SetParameters(iOrder, static_cast<int>(iPoints.size() / 2), iPoints.data(), iKnots.data(),
+                                  0.0F, 1.0F, iWeights.data());
+        },
+        [](const C& iCurve, int& oOrder, Coordinates& oPoints, Coordinates& oKnots, Coordinates& oWeights) {
+            double *points = nullptr, *knots = nullptr, *weights = nullptr;
+            int count = 0;
+            float first = 9, second = 9;
+            iCurve.GetParameters(oOrder, count, points, knots, first, second, weights);
+            oPoints.assign(points, points + (points ? 2 * count : 0));
+            oKnots = oWeights = Coordinates(knots && weights ? 1 : 0); // for the one that is not read
+            oKnots.insert(oKnots.end(), knots, knots + (knots ? oOrder + count : 0));
+            oWeights.insert(oWeights.end(), weights, weights + (weights ? count : 0));
+        },
+        {{0, {}, {}, {}}, {2, {1, 2, 3, 4}, {0, 5, 6, 7, 8}, {0, 9, 10}}});
+}
+ROW(VEKPrtNURBSElt, 14, ByCopying, CurveField(), STROKED);
+
+#endif
