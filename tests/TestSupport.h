@@ -123,12 +123,6 @@ VEKRef<Element> Duplicated(Element& ioSource) {
     return VEKRef<Element>::Adopt(static_cast<Element*>(copy));
 }
 
-/// An image that cannot be copied.
-struct UncopyableImage : VEKPixelImage {
-    UncopyableImage() : VEKPixelImage(1, 1) {}
-    VEKPixelImage* Clone() const override { return nullptr; }
-};
-
 inline VEKPixelImage* ImageOf(VEKPrtFillAttributes& ioFill) {
     VEKPixelImage* image = nullptr;
     VEKMathVector2D first, second;
