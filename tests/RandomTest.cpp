@@ -12,18 +12,13 @@ namespace {
 
 using Object = VEKBaseUnknown;
 using Base = VEKPrtGraphicPrimitiveElt;
+const std::string g_parameters = "Parameters";
 
 // What a class can do, with its objects untyped.
 struct Kind {
-    struct Property {
-        std::string name;
-        std::size_t count;
-        std::function<void(Object&, std::size_t)> set;
-        std::function<testing::AssertionResult(const Object&, std::size_t)> has;
-    };
     const char* name;
-    std::vector<Property> properties = {}; // of an element the identity strings first
-    std::size_t identity = 0;              // how many of them copies do not carry
+    Fields<Object> fields = {}; // of an element the identity strings first
+    std::size_t identity = 0;   // how many of them copies do not carry
     bool duplicatesIdentity = false;
     bool keepsLast = false; // whether an assignment passes over the last of the old members
     std::function<Object*()> make = {};
@@ -36,17 +31,19 @@ struct Kind {
 };
 
 template <class Class, class Fielded>
-void AddProperties(Kind& ioKind) {
-    for (const Field<Fielded>& field : FieldsOf<Fielded>()) {
-        if (field.count == 0) continue;
-        const auto set = [=](Object& ioObject, std::size_t iValue) {
-            field.set(static_cast<Class&>(ioObject), iValue);
-        };
-        const auto has = [=](const Object& iObject, std::size_t iValue) {
-            return field.has(static_cast<const Class&>(iObject), iValue);
-        };
-        ioKind.properties.push_back({field.name, field.count, set, has});
-    }
+void AddFields(Kind& ioKind) {
+    for (const Field<Fielded>& field : FieldsOf<Fielded>())
+        if (field.count > 0)
+            ioKind.fields.push_back({field.name,
+                                     {},
+                                     field.count,
+                                     [=](Object& ioObject, std::size_t iValue) {
+                                         field.set(static_cast<Class&>(ioObject), iValue);
+                                     },
+                                     {},
+                                     [=](const Object& iObject, std::size_t iValue) {
+                                         return field.has(static_cast<const Class&>(iObject), iValue);
+                                     }});
 }
 
 template <class Class>
@@ -60,9 +57,9 @@ Kind KindOf() {
         constexpr bool isBase = std::is_same_v<Class, Base>;
         kind.duplicate = [=](Object& ioSource) { return Duplicated(typed(ioSource)).Detach(); };
         kind.duplicatesIdentity = isBase || Row<Class>::recipe != Duplication::ByConstruction;
-        AddProperties<Class, Base>(kind);
-        if (!isBase) kind.identity = kind.properties.size();
-        if (!isBase) AddProperties<Class, Class>(kind);
+        AddFields<Class, Base>(kind);
+        if (!isBase) kind.identity = kind.fields.size();
+        if (!isBase) AddFields<Class, Class>(kind);
     }
     if constexpr (HasMembers<Class>::value) {
         using Member = MemberOf<Class>;
@@ -88,7 +85,7 @@ struct Node {
     const Kind* kind;
     Object* real = nullptr;
     long references = 1;
-    std::vector<std::size_t> values = std::vector<std::size_t>(kind->properties.size());
+    std::vector<std::size_t> values = std::vector<std::size_t>(kind->fields.size());
     bool hasList = false;
     std::vector<Node*> members = {};
 
@@ -127,8 +124,8 @@ public:
             const Kind& kind = *node->kind;
             EXPECT_EQ(Count(node->real), static_cast<unsigned long>(node->references)) << kind.name;
             for (std::size_t i = 0; i < node->values.size(); ++i)
-                if (kind.properties[i].name != "Parameters") { // several fields, which are looked at alone
-                    EXPECT_TRUE(kind.properties[i].has(*node->real, node->values[i])) << kind.name;
+                if (kind.fields[i].name != g_parameters) { // several fields, which are looked at alone
+                    EXPECT_TRUE(kind.fields[i].has(*node->real, node->values[i])) << kind.name;
                 }
             std::vector<const void*> expected, found;
             for (const Node* const member : node->members)
@@ -221,14 +218,14 @@ private:
         return std::string("new ") + kind.name;
     }
     std::string Change(Node& ioNode) {
-        const auto& properties = ioNode.kind->properties;
-        if (properties.empty()) return "nothing";
-        const std::size_t at = Any(properties.size()), value = Any(properties[at].count);
-        properties[at].set(*ioNode.real, value);
-        // Parameters are all the properties of its own that come before.
-        for (std::size_t i = properties[at].name == "Parameters" ? 3 : at; i <= at; ++i)
+        const Fields<Object>& fields = ioNode.kind->fields;
+        if (fields.empty()) return "nothing";
+        const std::size_t at = Any(fields.size()), value = Any(fields[at].count);
+        fields[at].set(*ioNode.real, value);
+        // Parameters are all the fields of its own that come before.
+        for (std::size_t i = fields[at].name == g_parameters ? 3 : at; i <= at; ++i)
             ioNode.values[i] = value;
-        return ioNode.kind->name + (" set " + properties[at].name);
+        return ioNode.kind->name + (std::string(" set ") + fields[at].name);
     }
     std::string AddOrRemove() {
         Node& holder = *AnyOf(_held);

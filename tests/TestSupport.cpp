@@ -62,18 +62,13 @@ void Deallocate(void* iBlock) noexcept {
     std::free(iBlock);
 }
 
-template <class... Elements>
-void Register(testing::Types<Elements...>) {
-    for (const VEKMetaClass* const meta : {Elements::MetaObject()...})
-        if (!meta) std::abort();
-}
-
 // After every test: no framework object and no memory block is left that the behaviour does not demand.
 class LeakCheck : public testing::EmptyTestEventListener {
     void OnTestStart(const testing::TestInfo& iTest) override {
         // A class is registered once in a process, here so that no test seems to lose the block; the tests of
         // registration itself run in processes of their own.
-        if (!IsRegistration(iTest)) Register(AllElements());
+        const bool registered = IsRegistration(iTest) || RegisterElements();
+        EXPECT_TRUE(registered);
         { SCOPED_TRACE("makes room for the traces of the tests"); }
         g_demandedObjects = g_demandedBlocks = 0;
         _objects = VEKBaseUnknown::CountLiveObjects();
