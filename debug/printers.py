@@ -4,6 +4,7 @@
 # called, so that core dumps work, and what a framework lays out otherwise is left to gdb.  Where there is garbage
 # a line says so: each printer hands errors of reading on as text.
 import re
+import sys
 from itertools import islice
 
 import gdb
@@ -37,9 +38,8 @@ LINES = {
     "VEKFont": [("", "_family")],
 }
 
-# By the number of the kind: the names of the enumerators are the framework's.
-TRANSFORMS = [("matrix", "_matrices"), ("translation", "_translations"), ("rotation", "_rotations"),
-              ("scale-x", "_scalesX"), ("scale-y", "_scalesY"), ("skew-x", "_skewsX"), ("skew-y", "_skewsY")]
+# Where the values of transforms are, in the order of the kinds; the names of these are the framework's.
+TRANSFORMS = ["_matrices", "_translations", "_rotations", "_scalesX", "_scalesY", "_skewsX", "_skewsY"]
 
 
 def plain(type_):
@@ -66,8 +66,19 @@ def fields(value):
             yield class_.name, field.name, value[field]
 
 
+def limit(setting):
+    """A limit that is set in gdb, where none is None, 0 or -1."""
+    number = gdb.parameter(setting)
+    return number if number and number > 0 else sys.maxsize
+
+
 def counted(number, noun):
     return "%d %s%s" % (number, noun, "" if number == 1 else "s")
+
+
+def named(value):
+    """The name of an enumerator, if the framework has one for it."""
+    return next((field.name for field in plain(value.type).fields() if field.enumval == int(value)), None)
 
 
 def show(value):
@@ -79,8 +90,8 @@ def show(value):
         return text[:-2] if text.endswith(".0") else text
     if type_.code == gdb.TYPE_CODE_PTR and not int(value):
         return ""
-    if type_.code == gdb.TYPE_CODE_ENUM and not type_.fields():
-        return str(int(value))
+    if type_.code == gdb.TYPE_CODE_ENUM:
+        return named(value) or "value %d" % int(value)
     printer = find_printer(type_)
     return printer(value).to_string() if printer else value.format_string(pretty_structs=False)
 
@@ -109,7 +120,7 @@ def array(owner, class_, name, value):
     if not columns or value.type.code != gdb.TYPE_CODE_PTR or not int(value):
         return pointee(value)
     type_ = value.type.target()
-    most = (gdb.parameter("max-value-size") or 65536) // (columns * type_.sizeof)
+    most = limit("max-value-size") // (columns * type_.sizeof)
     count = min(sum(total(owner, class_, field) for field in rows), most)
     if count <= 0:
         return "{}"
@@ -171,6 +182,14 @@ class Line:
             return "<%s>" % error
 
 
+class Missing(Line):
+    """A class that the debug information only names."""
+
+    def line(self):
+        return "<no debug information on %s: install libvekprt2dmodel1-dbgsym, or build the library with -g>" % (
+            plain(self.value.type).name)
+
+
 class Tree(Line):
     """A value that has parts, too."""
 
@@ -220,18 +239,18 @@ class Transform(Line):
         if not int(kinds["array"]):
             return "%s, lost" % counted(count, "transform")
         words, seen = [], {}
-        limit = gdb.parameter("print elements") or count
-        for position in range(min(count, limit)):
+        most = limit("print elements")
+        for position in range(min(count, most)):
             kind = int(kinds["array"][position])
             nth = seen[kind] = seen.get(kind, 0) + 1
             if not 0 <= kind < len(TRANSFORMS):
                 words.append("kind %d" % kind)
                 continue
-            name, field = TRANSFORMS[kind]
-            values = self.value[field]
+            values = self.value[TRANSFORMS[kind]]
+            name = named(kinds["array"][position]) or TRANSFORMS[kind].strip("_")
             there = int(values["array"]) and nth <= int(values["count"])
             words.append("%s %s" % (name, show(values["array"][nth - 1]) if there else "without a value"))
-        return ", ".join(words + ["..."] * (count > limit))
+        return ", ".join(words + ["..."] * (count > most))
 
 
 class ColourTable(Tree):
@@ -316,7 +335,7 @@ def holds_itself(part):
             return True
         if int(holder.address) not in seen:
             seen.add(int(holder.address))
-            left += [held for _, held in islice(members(holder), gdb.parameter("print elements"))]
+            left += [held for _, held in islice(members(holder), limit("print elements"))]
     return False
 
 
@@ -357,6 +376,8 @@ def find_printer(type_):
         return None
     if type_.name.startswith("vekprt::VEKRef<"):
         return Reference
+    if not type_.sizeof and (type_.name in PRINTERS or type_.name.startswith("VEKPrt")):
+        return Missing
     if type_.name in PRINTERS:
         printer, needed = PRINTERS[type_.name]
         found = {field.name: field.type.code for field in type_.fields()}

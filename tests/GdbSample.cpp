@@ -12,6 +12,7 @@
 #include "VEKPrtPolyPolygonElt.h"
 #include "VEKPrtPolylineElt.h"
 #include "VEKPrtTextAttributes.h"
+#include "VEKPrtValues.h"
 #include "VEKPrtWalk.h"
 #include "VEKRef.h"
 
@@ -37,7 +38,7 @@ int main() {
     VEKMathPoint2D point(1.5, -2);
     VEKMathVector2D vector(0.1, 1e300);
     VEKMath2x2Matrix matrix(1, 0.5, 0, 1);
-    VEKListPtrVEKMathPoint2D points;
+    VEKListPtrVEKMathPoint2D points(2);
     points.Append(&point);
     points.Append(nullptr);
 
@@ -65,7 +66,7 @@ int main() {
     transform.AddRotation(30);
     transform.AddMatrix(matrix);
     transform.AddTranslation({0, 5});
-    transform.AddTransform(VEKPrintTransformSkewX);
+    transform.AddTransform(vekprt::transformSkewX);
 
     const double coordinates[] = {0, 0, 1, 1, 2, 0}, knots[] = {9, 0, 0, 0, 1, 1, 1},
                  weights[] = {9, 1, 0.5, 1};
@@ -74,10 +75,13 @@ int main() {
     VEKPrtNURBSElt curve;
     curve.SetParameters(3, 3, coordinates, knots, 0, 1, weights);
     VEKPrtPolylineElt polyline(coordinates, 3), noPolyline(coordinates, -2);
+    const double zeros[80] = {};
+    VEKPrtPolylineElt longPolyline(zeros, 40);
 
     auto line = Make<VEKPrtLineElt>(VEKMathPoint2D(0, 0), VEKMathPoint2D(30, 40));
     line->SetID("wall");
     line->SetTitle("A wall");
+    VEKPrtLineElt& lineReference = *line;
     Arrow arrow;
     VEKPrtGroupElt group;
     group.SetGroupAttributes(link);
@@ -108,5 +112,7 @@ int main() {
     VEKRawCollPV raw(2);
     raw.Append(&arrow);
     raw.Append(reinterpret_cast<void*>(16));
+    // Not used otherwise, as far as the compiler sees.
+    static_cast<void>(lineReference);
     Stop();
 }
