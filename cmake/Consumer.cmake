@@ -8,7 +8,7 @@
 #   PACKAGES   what find_package looks for, and TARGETS, what is then linked; or
 #   MODULES    what pkg-config looks for
 #   REQUIRES   the pkg-config modules of PACKAGES, for the consumer's own module
-#   NEEDS      other consumers that this one is built on, declared before it
+#   NEEDS      other consumers that this one and its header are built on, declared before it
 #   DEBIAN     what the Debian package of the headers depends on
 function(vekprt_add_consumer name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "HEADER;DESCRIPTION" "SOURCES;PACKAGES;TARGETS;MODULES;REQUIRES;NEEDS;DEBIAN")
@@ -35,11 +35,12 @@ function(vekprt_add_consumer name)
       "pkg_check_modules(VEKPRT_${name} REQUIRED QUIET IMPORTED_TARGET ${modules})\n")
   endif()
   set(needs "")
+  set(needed "")
   foreach(other IN LISTS arg_NEEDS)
     if(NOT TARGET VEKPrt2DModel::${other})
       list(APPEND missing ${other})
     endif()
-    list(APPEND arg_TARGETS VEKPrt2DModel::${other})
+    list(APPEND needed VEKPrt2DModel::${other})
     list(APPEND needs VEKPrt2DModel${other}${VEKPRT_SUFFIX})
     string(APPEND find "include(\${CMAKE_CURRENT_LIST_DIR}/VEKPrt2DModel${other}.cmake)\n")
   endforeach()
@@ -58,7 +59,7 @@ function(vekprt_add_consumer name)
   target_include_directories(${target} PUBLIC
     $<BUILD_INTERFACE:${include}> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/vekprt2dmodel>)
   target_compile_features(${target} INTERFACE cxx_std_11)
-  target_link_libraries(${target} PUBLIC VEKPrt2DModel PRIVATE ${arg_TARGETS})
+  target_link_libraries(${target} PUBLIC ${needed} VEKPrt2DModel PRIVATE ${arg_TARGETS})
   # Position-independent: a host may link it into a library of its own.
   set_target_properties(${target} PROPERTIES
     EXPORT_NAME ${name} OUTPUT_NAME VEKPrt2DModel${name}${VEKPRT_SUFFIX} POSITION_INDEPENDENT_CODE ON

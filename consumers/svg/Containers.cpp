@@ -1,192 +1,119 @@
 // Elements that hold others.
-#include <algorithm>
-#include <cmath>
-
-#include "Handlers.h"
+#include "ElementWriter.h"
 #include "VEKPrtChildren.h"
-#include "VEKPrtClosedFigureElt.h"
-#include "VEKPrtClosedFigureRegionElt.h"
-#include "VEKPrtGroupElt.h"
-#include "VEKPrtImageElt.h"
-#include "VEKPrtPatternElt.h"
-#include "VEKPrtSymbolElt.h"
 
 namespace vekprt::svg {
 
 namespace {
 
-template <class Container>
-Area BoxOf(const SvgPage& iPage, const Container& iContainer) {
-    VEKMathPoint2D origin;
-    Area box = {};
-    iContainer.GetOrigin(origin);
-    iContainer.GetSize(box.width, box.height);
-    box.x = origin.GetX();
-    box.y = origin.GetY();
-    box.map = iPage.place.map;
-    return box;
-}
-
 // Not rounded to the grid: the error of a tile would grow with every repetition.
-void BoxAttributes(XmlWriter& ioXml, const Area& iBox) {
+void BoxAttributes(XmlWriter& ioXml, const Box& iBox) {
     ioXml.Attribute("x", Number(iBox.x));
     ioXml.Attribute("y", Number(iBox.y));
     ioXml.Attribute("width", Number(iBox.width));
     ioXml.Attribute("height", Number(iBox.height));
 }
 
-// What covers the area, in the coordinates of iMap.
-Area Covering(const Area& iArea, const Affine& iMap) {
-    const Affine toLocal = iMap.Inverse() * iArea.map;
-    double low[2] = {INFINITY, INFINITY}, high[2] = {-INFINITY, -INFINITY};
-    for (const double x : {iArea.x, iArea.x + iArea.width}) {
-        for (const double y : {iArea.y, iArea.y + iArea.height}) {
-            const VEKMathPoint2D corner = toLocal(x, y);
-            const double xy[2] = {corner.GetX(), corner.GetY()};
-            for (int i = 0; i < 2; ++i) {
-                low[i] = std::min(low[i], xy[i]);
-                high[i] = std::max(high[i], xy[i]);
-            }
-        }
-    }
-    return {low[0], low[1], high[0] - low[0], high[1] - low[1], iMap};
-}
-
 template <class Container>
-void WriteChildren(SvgPage& ioPage, Container& ioContainer) {
+void WriteChildren(SvgPage& ioPage, Container& ioContainer, int iNesting = 1) {
+    if (ioPage.nesting + iNesting > maxNesting)
+        return ioPage.reporter.Warn(ioContainer, "nested too deeply");
+    ioPage.nesting += iNesting;
     for (VEKPrtGraphicPrimitiveElt& child : ChildrenOf(ioContainer))
         WriteElement(ioPage, child);
+    ioPage.nesting -= iNesting;
 }
 
 template <class Container>
-void OutlineChildren(SvgPage& ioPage, PathData& ioPath, VEKPrtGraphicPrimitiveElt& ioElement,
-                     const Affine& iMap) {
-    auto& container = static_cast<Container&>(ioElement);
-    const Affine map = iMap * Compose(TransformOf(container));
-    for (VEKPrtGraphicPrimitiveElt& child : ChildrenOf(container))
-        AppendToRegion(ioPage, ioPath, child, map);
-}
-
-template <class Container>
-void AppendChildren(VEKPrtGraphicPrimitiveElt& ioElement,
-                    std::vector<VEKPrtGraphicPrimitiveElt*>& ioChildren) {
-    for (auto& child : ChildrenOf(static_cast<Container&>(ioElement)))
-        ioChildren.push_back(&child);
-}
-template <class... Containers>
-void AddWithChildren(SvgPage& ioPage) {
-    AddHandlers<Containers...>(ioPage);
-    ((ioPage.handlers[Containers::MetaObject()].appendChildren = &AppendChildren<Containers>), ...);
+void WriteGroup(SvgPage& ioPage, Container& ioContainer) {
+    const Placement placement(ioPage, ioContainer, PlacementOf(ioContainer));
+    if (!placement) return;
+    SvgElement element(ioPage, ioContainer, "g", placement);
+    element.Content();
+    WriteChildren(ioPage, ioContainer);
+    element.End();
 }
 
 } // namespace
 
-static void Write(SvgPage& ioPage, VEKPrtGraphicPrimitiveElt& ioBare) {
-    SvgElement(ioPage, ioBare, "g", Placement(ioPage));
+void ElementWriter::operator()(VEKPrtGroupElt& ioGroup) const {
+    const Placement placement(page, ioGroup, PlacementOf(ioGroup));
+    if (!placement) return;
+    std::string link = LinkOf(page.reporter, ioGroup);
+    if (!link.empty() && link.front() == '#') link = "#" + XmlName(DecodedUri(link.substr(1)));
+    SvgElement element(page, ioGroup, link.empty() ? "g" : "a", placement);
+    page.xml.OptionalAttribute("xlink:href", link);
+    element.Content();
+    WriteChildren(page, ioGroup);
+    element.End();
 }
 
-static void Write(SvgPage& ioPage, VEKPrtGroupElt& ioGroup) {
-    const Placement placement(ioPage, TransformOf(ioGroup));
-    VEKPrtGroupAttributes attributes;
-    VEKPrintLinkURI uri;
-    ioGroup.GetGroupAttributes(attributes);
-    attributes.GetLinkURI(uri);
-    const std::string link = ioPage.LinkTo(ioGroup, uri.GetURI());
-    SvgElement element(ioPage, ioGroup, link.empty() ? "g" : "a", placement);
-    ioPage.xml.OptionalAttribute("xlink:href", link);
-    element.Content();
-    WriteChildren(ioPage, ioGroup);
-}
+// A region on its own has no appearance but that of its children.
+void ElementWriter::operator()(VEKPrtClosedFigureRegionElt& ioRegion) const { WriteGroup(page, ioRegion); }
 
 // A page on a page: its children, under its matrix and, if it has them, in its own colours.
-static void Write(SvgPage& ioPage, VEKPrtImageElt& ioNestedImage) {
-    VEKMath2x2Matrix matrix;
-    ioNestedImage.GetMatrix(matrix);
-    Placement placement(ioPage);
-    if (matrix != VEKMath2x2Matrix()) placement.Add(Linear(matrix));
-    SvgElement element(ioPage, ioNestedImage, "g", placement);
-    element.Content();
+void ElementWriter::operator()(VEKPrtImageElt& ioNested) const {
     VEKPrtColourTable* own = nullptr;
-    ioNestedImage.GetColourTable(own);
-    const unsigned outerUses = ioPage.uses;
-    if (own) ioPage.place.colours = own;
-    WriteChildren(ioPage, ioNestedImage);
-    if (own) ioPage.uses = (ioPage.uses & ~usesColours) | outerUses;
+    ioNested.GetColourTable(own);
+    if (!own) return WriteGroup(page, ioNested);
+    VEKPrtColourTable* const outer = std::exchange(page.place.colours, own);
+    const unsigned outerUses = page.uses;
+    WriteGroup(page, ioNested);
+    page.uses = (page.uses & ~usesColours) | outerUses;
+    page.place.colours = outer;
 }
 
-static void Write(SvgPage& ioPage, VEKPrtSymbolElt& ioSymbol) {
-    const Placement placement(ioPage, TransformOf(ioSymbol));
-    SvgElement element(ioPage, ioSymbol, "g", placement);
-    const Area box = BoxOf(ioPage, ioSymbol);
-    if (box.IsEmpty()) {
-        element.Content();
-        return WriteChildren(ioPage, ioSymbol);
-    }
-    const std::string clip = ioPage.NewId("clip");
+void ElementWriter::operator()(VEKPrtSymbolElt& ioSymbol) const {
+    const Box box = BoxOf(ioSymbol);
+    if (box.IsEmpty()) return WriteGroup(page, ioSymbol);
+    const Placement placement(page, ioSymbol, PlacementOf(ioSymbol));
+    if (!placement) return;
+    SvgElement element(page, ioSymbol, "g", placement);
+    const std::string clip = page.NewId("clip");
     element.Attribute("clip-path", "url(#" + clip + ")").Content();
-    ioPage.xml.Start("clipPath", {{"id", clip}});
-    ioPage.xml.Start("rect");
-    BoxAttributes(ioPage.xml, box);
-    ioPage.xml.End(2);
-    const unsigned outerUses = ioPage.uses;
-    ioPage.place.area = box;
-    WriteChildren(ioPage, ioSymbol);
-    ioPage.uses = (ioPage.uses & ~usesArea) | outerUses;
+    page.xml.Start("clipPath", {{"id", clip}});
+    page.xml.Start("rect");
+    BoxAttributes(page.xml, box);
+    page.xml.End(2);
+    const unsigned outerUses = page.uses;
+    page.place.area = box;
+    page.place.areaMap = page.place.map;
+    WriteChildren(page, ioSymbol);
+    page.uses = (page.uses & ~usesArea) | outerUses;
+    element.End();
 }
 
-static void Write(SvgPage& ioPage, VEKPrtPatternElt& ioPattern) {
-    SvgElement element(ioPage, ioPattern, "g", Placement(ioPage));
+void ElementWriter::operator()(VEKPrtPatternElt& ioPattern) const {
+    SvgElement element(page, ioPattern, "g", Placement(page, ioPattern));
     element.Content();
-    const Affine& map = ioPage.place.map;
-    const Area tile = BoxOf(ioPage, ioPattern);
-    if (tile.IsEmpty() || map.Determinant() == 0.0)
-        return ioPage.Warn(ioPattern, "a pattern whose box has no area");
-    ioPage.uses |= usesArea;
-    const Area covered = Covering(ioPage.place.area, map);
-    const std::string id = ioPage.NewId("pattern");
-    XmlWriter& xml = ioPage.xml;
+    const Affine& map = page.place.map;
+    const Box tile = BoxOf(ioPattern);
+    const std::vector<Elementary> transforms = PlacementOf(ioPattern);
+    if (tile.IsEmpty() || Compose(transforms).Determinant() == 0.0 || map.Determinant() == 0.0) {
+        page.reporter.Warn(ioPattern, "pattern whose box has no area");
+        return element.End();
+    }
+    page.uses |= usesArea;
+    const Box covered = Around(page.place.area, map.Inverse() * page.place.areaMap);
+    const std::string id = page.NewId("pattern");
+    XmlWriter& xml = page.xml;
     {
-        const Placement placement(ioPage, TransformOf(ioPattern));
+        const Placement placement(page, ioPattern, transforms);
+        if (!placement) return element.End();
         xml.Start("defs");
         xml.Start("pattern", {{"id", id}, {"patternUnits", "userSpaceOnUse"}});
         BoxAttributes(xml, tile);
         xml.OptionalAttribute("patternTransform", placement.Text());
         // The content keeps the coordinates of its surroundings, not of the tile.
         xml.Start("g", {{"transform", "translate(" + Number(-tile.x) + "," + Number(-tile.y) + ")"}});
-        WriteChildren(ioPage, ioPattern);
+        WriteChildren(page, ioPattern, nestingOfPattern);
         xml.End(3);
     }
     xml.Start("rect");
     BoxAttributes(xml, covered);
     xml.Attribute("fill", "url(#" + id + ")");
     xml.End();
-}
-
-static void Write(SvgPage& ioPage, VEKPrtClosedFigureElt& ioFigure) {
-    const Placement placement(ioPage, TransformOf(ioFigure));
-    PathData path;
-    for (VEKPrtClosedFigureRegionElt& region : ChildrenOf(ioFigure)) {
-        AppendToRegion(ioPage, path, region, Affine());
-        path.Close();
-    }
-    WritePath(ioPage, ioFigure, placement, path, AppearanceOf(ioPage, ioFigure));
-}
-
-// A region on its own has no appearance but that of its children.
-static void Write(SvgPage& ioPage, VEKPrtClosedFigureRegionElt& ioRegion) {
-    const Placement placement(ioPage, TransformOf(ioRegion));
-    SvgElement element(ioPage, ioRegion, "g", placement);
-    element.Content();
-    WriteChildren(ioPage, ioRegion);
-}
-
-void AddContainers(SvgPage& ioPage) {
-    AddHandlers<VEKPrtGraphicPrimitiveElt>(ioPage);
-    AddWithChildren<VEKPrtClosedFigureElt, VEKPrtClosedFigureRegionElt, VEKPrtGroupElt, VEKPrtImageElt,
-                    VEKPrtPatternElt, VEKPrtSymbolElt>(ioPage);
-    ioPage.handlers[VEKPrtGroupElt::MetaObject()].outline = &OutlineChildren<VEKPrtGroupElt>;
-    ioPage.handlers[VEKPrtClosedFigureRegionElt::MetaObject()].outline =
-        &OutlineChildren<VEKPrtClosedFigureRegionElt>;
+    element.End();
 }
 
 } // namespace vekprt::svg

@@ -22,9 +22,9 @@ std::string Number(double iValue) { return Text(iValue, std::chars_format::gener
 std::string Number(float iValue) { return Text(iValue); }
 
 Grid::Grid(double iStep) {
-    constexpr int most = 15;
+    constexpr int maxDigits = 15;
     const double digits = std::ceil(-std::log10(iStep) - 1e-9);
-    if (!(std::fabs(digits) <= most)) return;
+    if (!(std::fabs(digits) <= maxDigits)) return;
     _digits = static_cast<int>(digits);
     _unitsInOne = std::pow(10.0, std::max(_digits, 0));
 }

@@ -1,4 +1,4 @@
-// Numbers as text, no longer than their use demands.
+// Formats numbers as short as the output allows.
 #ifndef Number_H
 #define Number_H
 

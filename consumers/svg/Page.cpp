@@ -1,64 +1,23 @@
 #include "Page.h"
 
-#include <algorithm>
-#include <cctype>
-#include <charconv>
 #include <cmath>
 
+#include "PngDataUri.h"
 #include "VEKPrtColourTable.h"
-#include "VEKPrtGraphicPrimitiveElt.h"
 
 namespace vekprt::svg {
 
-namespace {
-
-// With %20 and its like resolved.
-std::string Decoded(std::string_view iText) {
-    std::string text;
-    for (std::size_t i = 0; i < iText.size(); ++i) {
-        unsigned char code = 0;
-        const char* const digits = iText.data() + i + 1;
-        const bool coded = iText[i] == '%' && i + 2 < iText.size() &&
-                           std::from_chars(digits, digits + 2, code, 16).ptr == digits + 2;
-        text += coded ? static_cast<char>(code) : iText[i];
-        if (coded) i += 2;
-    }
-    return text;
-}
-
-bool Agree(double iA, double iB) { return std::fabs(iA - iB) <= 1e-6 * iA; }
-
-} // namespace
-
-bool Area::IsEmpty() const { return !(width > 0.0 && height > 0.0 && std::isfinite(x + y + width + height)); }
-
-bool Area::operator==(const Area& iOther) const {
-    return x == iOther.x && y == iOther.y && width == iOther.width && height == iOther.height &&
-           map == iOther.map;
-}
+static bool Agree(double iA, double iB) { return std::fabs(iA - iB) <= 1e-6 * iA; }
 
 bool Written::Suits(const Place& iPlace) const {
     return place.grid.IsAsFineAs(iPlace.grid) && (!(uses & usesColours) || place.colours == iPlace.colours) &&
            (!(uses & usesScale) || Agree(place.map.Scale(), iPlace.map.Scale())) &&
-           (!(uses & usesArea) || (place.map == iPlace.map && place.area == iPlace.area));
-}
-
-void SvgPage::Warn(const VEKPrtGraphicPrimitiveElt& iElement, const std::string& iProblem) const {
-    VEKUnicodeString id;
-    iElement.GetID(id);
-    warnings << "svg: " << iElement.IsA() << (id.IsEmpty() ? "" : " ") << id.ToUtf8() << ": " << iProblem
-             << '\n';
-}
-
-bool SvgPage::AreFinite(const VEKPrtGraphicPrimitiveElt& iElement,
-                        std::initializer_list<double> iValues) const {
-    const bool finite =
-        std::all_of(iValues.begin(), iValues.end(), [](double iValue) { return std::isfinite(iValue); });
-    if (!finite) Warn(iElement, "values that are not finite");
-    return finite;
+           (!(uses & usesArea) ||
+            (place.map == iPlace.map && place.area == iPlace.area && place.areaMap == iPlace.areaMap));
 }
 
 Shared* SvgPage::SharedOf(const VEKPrtGraphicPrimitiveElt& iElement) {
+    if (shared.empty()) return nullptr;
     const auto found = shared.find(&iElement);
     return found != shared.end() ? &found->second : nullptr;
 }
@@ -75,11 +34,12 @@ std::string SvgPage::IdOf(const VEKPrtGraphicPrimitiveElt& iElement) {
     VEKUnicodeString id;
     iElement.GetID(id);
     std::string name;
-    if (!id.IsEmpty() && !again) {
+    if (!id.IsEmpty() && !isAgain) {
         name = XmlName(id.ToUtf8());
-        if (name != id.ToUtf8()) Warn(iElement, "the identifier is no XML name, " + name + " is written");
+        if (name != id.ToUtf8())
+            reporter.Warn(iElement, "identifier is not a valid XML name; written as " + name);
         if (!ids.insert(name).second) {
-            Warn(iElement, "the identifier stands already, it is left out");
+            reporter.Warn(iElement, "duplicate identifier; omitted");
             name.clear();
         }
     }
@@ -90,51 +50,38 @@ std::string SvgPage::IdOf(const VEKPrtGraphicPrimitiveElt& iElement) {
     return name;
 }
 
-std::string SvgPage::LinkTo(const VEKPrtGraphicPrimitiveElt& iElement, const std::string& iURI) const {
-    if (!iURI.empty() && iURI.front() == '#') return "#" + XmlName(Decoded(iURI.substr(1)));
-    std::string start;
-    for (const char c : iURI.substr(0, iURI.find(':') + 1))
-        if (static_cast<unsigned char>(c) > ' ')
-            start += static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-    // As browsers see it: in lower case, without blanks and control characters.
-    if (start != "javascript:" && start != "vbscript:" && start != "data:") return iURI;
-    Warn(iElement, "a link that begins with " + start + " is not written");
-    return {};
-}
-
 std::string SvgPage::Colour(const VEKPrtGraphicPrimitiveElt& iElement, unsigned iIndex) {
     uses |= usesColours;
-    unsigned char rgb[3] = {0, 0, 0};
-    if (!place.colours || place.colours->GetColour(iIndex, rgb[0], rgb[1], rgb[2]) != 1)
-        Warn(iElement, "colour " + std::to_string(iIndex) + " is not in the page's table, black is used");
+    const Rgb colour = ColourOf(reporter, iElement, place.colours, iIndex);
     static const char digits[] = "0123456789abcdef";
     std::string text = "#";
-    for (const unsigned char component : rgb) {
+    for (const unsigned component : {colour.red, colour.green, colour.blue}) {
         text += digits[component / 16];
         text += digits[component % 16];
     }
     return text;
 }
 
-Placement::Placement(SvgPage& ioPage, const VEKPrtTransformAttributes& iTransforms)
-    : _page(ioPage), _outer(ioPage.place) {
-    for (const Elementary& transform : TransformsOf(iTransforms))
-        Add(transform);
-    _added = Affine();
+std::string SvgPage::ImageReference(const VEKPixelImage& iImage) {
+    std::string& id = images[&iImage];
+    if (id.empty()) {
+        const std::string uri = PngDataUri(iImage);
+        std::string name = NewId("image");
+        xml.Start("defs");
+        xml.Start("image", {{"id", name},
+                            {"width", "1"},
+                            {"height", "1"},
+                            {"preserveAspectRatio", "none"},
+                            {"xlink:href", uri}});
+        xml.End(2);
+        id = std::move(name);
+    }
+    return "#" + id;
 }
 
-Placement::~Placement() { _page.place = _outer; }
-
-void Placement::Add(const Elementary& iTransform) {
-    const Affine& map = iTransform.map;
-    if (map == Affine()) return;
-    Place& place = _page.place;
-    if (!_text.empty()) _text += ' ';
-    _text += !iTransform.text.empty() ? iTransform.text
-                                      : "translate(" + place.grid(map.e) + "," + place.grid(map.f) + ")";
-    place.map = place.map * map;
-    place.grid = Grid(_page.step / place.map.Stretch());
-    _added = _added * map;
+double SvgPage::Tolerance() const {
+    const double stretch = place.map.Stretch();
+    return stretch > 0.0 ? 10.0 * step / stretch : 0.0;
 }
 
 } // namespace vekprt::svg

@@ -1,9 +1,10 @@
-// Pixel images as PNG in a data URI.
+#include "PngDataUri.h"
 
 #include <png.h>
+
+#include <new>
 #include <vector>
 
-#include "Style.h"
 #include "VEKPixelImage.h"
 
 namespace vekprt::svg {
@@ -29,7 +30,6 @@ std::string Base64(const std::vector<unsigned char>& iBytes) {
 } // namespace
 
 std::string PngDataUri(const VEKPixelImage& iImage) {
-    if (!iImage.GetRow(0)) return {};
     png_image png = {};
     png.version = PNG_IMAGE_VERSION;
     png.width = static_cast<png_uint_32>(iImage.GetWidth());
@@ -37,9 +37,9 @@ std::string PngDataUri(const VEKPixelImage& iImage) {
     png.format = PNG_FORMAT_RGBA;
     // Rows follow one another, so the first one is the start of the whole picture.
     png_alloc_size_t size = 0;
-    if (!png_image_write_get_memory_size(png, size, 0, iImage.GetRow(0), 0, nullptr)) return {};
+    if (!png_image_write_get_memory_size(png, size, 0, iImage.GetRow(0), 0, nullptr)) throw std::bad_alloc();
     std::vector<unsigned char> bytes(size);
-    if (!png_image_write_to_memory(&png, bytes.data(), &size, 0, iImage.GetRow(0), 0, nullptr)) return {};
+    if (!png_image_write_to_memory(&png, bytes.data(), &size, 0, iImage.GetRow(0), 0, nullptr)) throw std::bad_alloc();
     bytes.resize(size);
     return "data:image/png;base64," + Base64(bytes);
 }

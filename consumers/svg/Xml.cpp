@@ -2,25 +2,15 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <iterator>
+
+#include "Utf8.h"
 
 namespace vekprt::svg {
 
+using namespace drawing;
+
 namespace {
 
-struct Range {
-    char32_t first, last;
-};
-
-template <std::size_t Count>
-bool IsIn(const Range (&iRanges)[Count], char32_t iCharacter) {
-    return std::any_of(std::begin(iRanges), std::end(iRanges), [&](const Range& iRange) {
-        return iRange.first <= iCharacter && iCharacter <= iRange.last;
-    });
-}
-
-constexpr Range g_characters[] = {
-    {'\t', '\n'}, {'\r', '\r'}, {' ', 0xD7FF}, {0xE000, 0xFFFD}, {0x10000, 0x10FFFF}};
 constexpr Range g_nameStarts[] = {{'A', 'Z'},       {'_', '_'},       {'a', 'z'},        {0xC0, 0xD6},
                                   {0xD8, 0xF6},     {0xF8, 0x2FF},    {0x370, 0x37D},    {0x37F, 0x1FFF},
                                   {0x200C, 0x200D}, {0x2070, 0x218F}, {0x2C00, 0x2FEF},  {0x3001, 0xD7FF},
@@ -33,25 +23,6 @@ bool NeedsNoEscape(char iCharacter) {
 }
 
 } // namespace
-
-char32_t NextCharacter(std::string_view& ioText) {
-    // By the first four bits of the first byte, and by the length.
-    constexpr std::size_t lengths[] = {1, 1, 1, 1, 1, 1, 1, 1, 0, 0, 0, 0, 2, 2, 3, 4};
-    constexpr char32_t least[] = {0, 0, 0x80, 0x800, 0x10000};
-    const auto byte = [&](std::size_t i) {
-        return i < ioText.size() ? static_cast<unsigned char>(ioText[i]) : 0U;
-    };
-    const std::size_t length = lengths[byte(0) >> 4];
-    char32_t character = byte(0) & (0xFFU >> length);
-    bool sound = length > 0;
-    for (std::size_t i = 1; i < length; ++i) {
-        sound = sound && (byte(i) & 0xC0U) == 0x80U;
-        character = character << 6 | (byte(i) & 0x3FU);
-    }
-    sound = sound && character >= least[length] && IsIn(g_characters, character);
-    ioText.remove_prefix(sound ? length : 1);
-    return sound ? character : 0xFFFD;
-}
 
 std::string XmlName(std::string_view iIdentifier) {
     std::string name;
@@ -117,19 +88,19 @@ void XmlWriter::Leaf(std::string_view iName, std::string_view iText) {
     End();
 }
 
-bool XmlWriter::HandOver() {
-    constexpr std::size_t much = 1 << 16;
-    if (_text.size() >= much) {
+bool XmlWriter::FlushIfLarge() {
+    constexpr std::size_t flushThreshold = 1 << 16;
+    if (_text.size() >= flushThreshold) {
         _stream.write(_text.data(), static_cast<std::streamsize>(_text.size()));
         _text.clear();
     }
-    return !_stream.fail();
+    return _stream.good();
 }
 
 bool XmlWriter::Finish() {
     _stream.write(_text.data(), static_cast<std::streamsize>(_text.size()));
     _stream.flush();
-    return !_stream.fail();
+    return _stream.good();
 }
 
 void XmlWriter::CloseTag() {
@@ -139,10 +110,10 @@ void XmlWriter::CloseTag() {
 
 // No white space is added where text stands: it would become part of it.
 void XmlWriter::NewLine() {
-    constexpr std::size_t deepest = 20;
+    constexpr std::size_t maxIndent = 20;
     if (!_open.empty() && _open.back().hasText) return;
     _text += '\n';
-    _text.append(std::min(_open.size(), deepest), ' ');
+    _text.append(std::min(_open.size(), maxIndent), ' ');
 }
 
 // What is not a character of XML becomes the replacement character.

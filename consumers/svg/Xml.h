@@ -11,15 +11,11 @@
 
 namespace vekprt::svg {
 
-/// Takes the next character off a UTF-8 text that is not empty; U+FFFD for a byte that begins none, or none
-/// that XML allows.
-char32_t NextCharacter(std::string_view& ioText);
-
 /// A valid name (without colons) for an identifier.  Characters that a name cannot have there give way to
 /// their code: "2 b" becomes "_x32__x20_b".  A valid one stays as it is.
 std::string XmlName(std::string_view iIdentifier);
 
-/// Gathers the document, and hands it to the stream in large pieces.
+/// Buffers the document, and writes it to the stream in large pieces.
 class XmlWriter {
 public:
     explicit XmlWriter(std::ostream& ioStream) : _stream(ioStream) {}
@@ -37,9 +33,9 @@ public:
     /// An element that holds nothing but text.
     void Leaf(std::string_view iName, std::string_view iText);
 
-    /// Hands over what there is once it is much.  False when the stream has failed.
-    bool HandOver();
-    /// Hands over the rest, down to where the stream leads.  False when the stream has failed.
+    /// Flushes the buffer to the stream once it is large.  False when the stream has failed.
+    bool FlushIfLarge();
+    /// Flushes the rest, and the stream.  False when the stream has failed.
     bool Finish();
 
 private:

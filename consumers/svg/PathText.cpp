@@ -1,0 +1,51 @@
+#include "PathText.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace vekprt::svg {
+
+static int PointCount(char iCommand) {
+    return iCommand == 'Z' ? 0 : iCommand == 'Q' ? 2 : iCommand == 'C' ? 3 : 1;
+}
+
+// Differences of rounded coordinates, which add up to rounded coordinates.  Readers add in single precision:
+// periodic absolute segments stop the error from accumulating.
+std::string PathText(const drawing::Path& iPath, const Grid& iGrid) {
+    constexpr int maxRelativeSegments = 64;
+    double extent = 0;
+    for (const VEKMathPoint2D& point : iPath.Points())
+        extent = std::max({extent, std::fabs(point.GetX()), std::fabs(point.GetY())});
+    const bool isOnGrid = iGrid.Holds(2.0 * extent);
+
+    std::string text;
+    text.reserve(iPath.Points().size() * 16);
+    std::int64_t from[2] = {0, 0}, to[2] = {0, 0};
+    char last = 0;
+    int differences = 0;
+    const VEKMathPoint2D* point = iPath.Points().data();
+    for (const char command : iPath.Commands()) {
+        const bool isRelative = isOnGrid && command != 'M' && differences < maxRelativeSegments;
+        differences = isRelative ? differences + 1 : 0;
+        const char letter = isRelative && command != 'Z' ? static_cast<char>(command - 'A' + 'a') : command;
+        text += letter != last || command == 'M' ? letter : ' ';
+        last = letter;
+        for (int i = 0; i < PointCount(command); ++i, ++point) {
+            if (i > 0) text += ' ';
+            for (const int axis : {0, 1}) {
+                const double value = axis == 0 ? point->GetX() : point->GetY();
+                if (axis > 0) text += ',';
+                if (isOnGrid) {
+                    to[axis] = iGrid.Units(value);
+                    iGrid.AppendUnits(text, isRelative ? to[axis] - from[axis] : to[axis]);
+                } else {
+                    text += iGrid(value);
+                }
+            }
+        }
+        std::copy(to, to + 2, from);
+    }
+    return text;
+}
+
+} // namespace vekprt::svg
