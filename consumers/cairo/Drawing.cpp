@@ -131,7 +131,11 @@ private:
 };
 
 Drawing::Drawing(cairo_t* iCairo, const Reporter& iReporter, Images& ioImages, Destinations& ioDestinations)
-    : _cairo(iCairo), _reporter(iReporter), _images(ioImages), _destinations(ioDestinations) {}
+    : _cairo(iCairo), _reporter(iReporter), _images(ioImages), _destinations(ioDestinations) {
+    const cairo_surface_type_t type = cairo_surface_get_type(cairo_get_target(iCairo));
+    _keepsText = type == CAIRO_SURFACE_TYPE_PDF || type == CAIRO_SURFACE_TYPE_PS ||
+                 type == CAIRO_SURFACE_TYPE_SVG || type == CAIRO_SURFACE_TYPE_RECORDING;
+}
 
 Box SizeInPoints(const Reporter& iReporter, const VEKPrtImageElt& iPage) {
     static const double points[] = {0.75, 1.0, 12.0, 72.0, 72.0 / 25.4, 72.0 / 2.54, 72.0 / 0.0254};
@@ -357,20 +361,21 @@ bool Drawing::SetFillSource(const VEKPrtGraphicPrimitiveElt& iElement, const Fil
     return surface;
 }
 
-void Drawing::Paint(const VEKPrtGraphicPrimitiveElt& iElement, const Look& iLook) {
-    const Fill& fill = iLook.fill;
-    if (fill.kind != Fill::None) {
-        const bool isImage = SetFillSource(iElement, fill);
-        cairo_set_fill_rule(_cairo, fill.isEvenOdd ? CAIRO_FILL_RULE_EVEN_ODD : CAIRO_FILL_RULE_WINDING);
-        if (isImage && fill.opacity != 255) {
-            cairo_save(_cairo);
-            cairo_clip_preserve(_cairo);
-            cairo_paint_with_alpha(_cairo, fill.opacity / 255.0);
-            cairo_restore(_cairo);
-        } else {
-            cairo_fill_preserve(_cairo);
-        }
+// The source is set already.
+void Drawing::PaintInside(const Fill& iFill, bool iIsImage) {
+    cairo_set_fill_rule(_cairo, iFill.isEvenOdd ? CAIRO_FILL_RULE_EVEN_ODD : CAIRO_FILL_RULE_WINDING);
+    if (iIsImage && iFill.opacity != 255) {
+        cairo_save(_cairo);
+        cairo_clip_preserve(_cairo);
+        cairo_paint_with_alpha(_cairo, iFill.opacity / 255.0);
+        cairo_restore(_cairo);
+    } else {
+        cairo_fill_preserve(_cairo);
     }
+}
+
+void Drawing::Paint(const VEKPrtGraphicPrimitiveElt& iElement, const Look& iLook) {
+    if (iLook.fill.kind != Fill::None) PaintInside(iLook.fill, SetFillSource(iElement, iLook.fill));
     PaintStroke(iElement, iLook.stroke);
     cairo_new_path(_cairo);
 }

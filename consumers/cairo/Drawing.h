@@ -91,6 +91,7 @@ private:
 
     // The path is painted and then dropped.
     void Paint(const VEKPrtGraphicPrimitiveElt& iElement, const Look& iLook);
+    void PaintInside(const Fill& iFill, bool iIsImage);
     void PaintStroke(const VEKPrtGraphicPrimitiveElt& iElement, const Stroke& iStroke);
     bool SetFillSource(const VEKPrtGraphicPrimitiveElt& iElement, const Fill& iFill);
     void SetColour(const VEKPrtGraphicPrimitiveElt& iElement, unsigned iIndex, unsigned char iOpacity);
@@ -117,6 +118,9 @@ private:
     std::vector<const VEKPrtGraphicPrimitiveElt*> _open = {};
     std::string _link = {};
     bool _inPattern = false;
+    /// Whether the target has text as such.  On others, letters would move to whole pixels: their outlines do
+    /// not.
+    bool _keepsText;
 };
 
 /// The size of a page in points; A4, with a warning, for a page without size.

@@ -14,8 +14,9 @@ struct Unref {
 // Fonts are laid out at this size and scaled: Pango counts in 1024ths of a unit.
 constexpr double layoutSize = 100.0;
 
-std::unique_ptr<PangoLayout, Unref> NewLayout(cairo_t* iCairo, const Lettering& iLettering) {
-    const std::unique_ptr<PangoContext, Unref> context(pango_cairo_create_context(iCairo));
+std::unique_ptr<PangoLayout, Unref> NewLayout(const Lettering& iLettering) {
+    const std::unique_ptr<PangoContext, Unref> context(
+        pango_font_map_create_context(pango_cairo_font_map_get_default()));
     cairo_font_options_t* const options = cairo_font_options_create();
     cairo_font_options_set_hint_style(options, CAIRO_HINT_STYLE_NONE);
     cairo_font_options_set_hint_metrics(options, CAIRO_HINT_METRICS_OFF);
@@ -33,13 +34,12 @@ std::unique_ptr<PangoLayout, Unref> NewLayout(cairo_t* iCairo, const Lettering& 
     pango_font_description_free(font);
     pango_layout_set_auto_dir(layout.get(), FALSE);
     pango_layout_set_single_paragraph_mode(layout.get(), TRUE);
-    if (iLettering.spacing != 0.0 && !iLettering.isVertical) {
-        PangoAttrList* const attributes = pango_attr_list_new();
-        pango_attr_list_insert(attributes, pango_attr_letter_spacing_new(static_cast<int>(
-                                               iLettering.spacing / iLettering.height * layoutSize * PANGO_SCALE)));
-        pango_layout_set_attributes(layout.get(), attributes);
-        pango_attr_list_unref(attributes);
-    }
+    // Set in any case: without it, Pango makes ligatures of letters that stand close.
+    const double spacing = iLettering.isVertical ? 0.0 : iLettering.spacing / iLettering.height * layoutSize;
+    PangoAttrList* const attributes = pango_attr_list_new();
+    pango_attr_list_insert(attributes, pango_attr_letter_spacing_new(pango_units_from_double(spacing)));
+    pango_layout_set_attributes(layout.get(), attributes);
+    pango_attr_list_unref(attributes);
     return layout;
 }
 
@@ -47,9 +47,8 @@ std::unique_ptr<PangoLayout, Unref> NewLayout(cairo_t* iCairo, const Lettering& 
 
 void Drawing::PaintText(const VEKPrtTextElt& iText, const Lettering& iLettering, const Look& iLook,
                         bool iIsImageFill) {
-    const std::unique_ptr<PangoLayout, Unref> layout = NewLayout(_cairo, iLettering);
+    const std::unique_ptr<PangoLayout, Unref> layout = NewLayout(iLettering);
     const double scale = iLettering.height / layoutSize;
-    const double spacing = iLettering.isVertical ? 0.0 : iLettering.spacing / scale;
     const auto eachLine = [&](void (*iUse)(cairo_t*, PangoLayoutLine*)) {
         cairo_save(_cairo);
         cairo_scale(_cairo, scale, scale);
@@ -59,22 +58,18 @@ void Drawing::PaintText(const VEKPrtTextElt& iText, const Lettering& iLettering,
             PangoLayoutLine* const line = pango_layout_get_line_readonly(layout.get(), 0);
             PangoRectangle logical = {};
             pango_layout_line_get_extents(line, nullptr, &logical);
-            // Pango puts half of the spacing before the first letter, and half after the last one.
-            const double width = pango_units_to_double(logical.width) - spacing;
-            cairo_move_to(_cairo, -iLettering.left * width - spacing / 2.0, y);
+            cairo_move_to(_cairo, -iLettering.left * pango_units_to_double(logical.width), y);
             iUse(_cairo, line);
             y += iLettering.lineFeed / scale;
         }
         cairo_restore(_cairo);
     };
-    if (iIsImageFill) {
-        eachLine(pango_cairo_layout_line_path);
-        cairo_save(_cairo);
-        cairo_clip(_cairo);
-        cairo_paint_with_alpha(_cairo, iLook.fill.opacity / 255.0);
-        cairo_restore(_cairo);
-    } else if (iLook.fill.kind != Fill::None) {
+    const bool isFilled = iLook.fill.kind != Fill::None;
+    if (isFilled && _keepsText && !iIsImageFill) {
         eachLine(pango_cairo_show_layout_line);
+    } else if (isFilled) {
+        eachLine(pango_cairo_layout_line_path);
+        PaintInside(iLook.fill, iIsImageFill);
     }
     cairo_new_path(_cairo);
     if (!iLook.stroke.isDrawn) return;
