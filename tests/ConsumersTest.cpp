@@ -10,6 +10,7 @@
 
 #include "CairoWriter.h"
 #include "Fields.h"
+#include "VEKPrtDump.h"
 #include "Specimen.h"
 #include "SvgWriter.h"
 
@@ -242,20 +243,25 @@ private:
             iContainer->AddChild(Element(iDepth + 1).Get());
         return With(iContainer);
     }
-    Any Text() {
+    // librsvg measures lines wrongly where they are skewed or mirrored: what is aligned by its width is neither.
+    Any Text(int iDepth) {
         static const char* const texts[] = {"Text", "first line\nsecond", "x\u0301y \u03A9", "<&>  a"};
         const auto text = Make<VEKPrtTextElt>(Place(), VEKUnicodeString(texts[Below(4)]));
         VEKPrtTextAttributes attributes;
         attributes.SetHeight(Number(4, 10));
         attributes.SetWeight(OneOf<VEKPrintTextAttribute>(24, 28));
-        attributes.SetAnchor(OneOf<VEKPrintTextAttribute>(29, 37));
-        if (Seldom()) attributes.SetSlant(static_cast<float>(Number(-20, 20)));
+        const bool isAligned = iDepth == 0;
         if (Seldom()) attributes.SetDirection(Angle());
-        if (Seldom()) attributes.SetExtraSpacing(Number(-0.5, 2));
-        if (Seldom()) attributes.SetExpansion(Number(0.6, 1.5));
-        if (Seldom()) attributes.SetWritingMode(VEKPrtTextVertical);
+        if (!isAligned && Seldom()) attributes.SetSlant(static_cast<float>(Number(-20, 20)));
+        if (!isAligned && Seldom()) attributes.SetExpansion(Number(0.6, 1.5));
+        attributes.SetAnchor(isAligned ? OneOf<VEKPrintTextAttribute>(29, 37)
+                                       : static_cast<VEKPrintTextAttribute>(29 + 3 * Below(3)));
+        if (isAligned && Seldom()) attributes.SetExtraSpacing(Number(-0.5, 2));
+        if (isAligned && Seldom()) attributes.SetWritingMode(VEKPrtTextVertical);
         text->SetTextAttributes(attributes);
-        return With(text);
+        With(text);
+        if (isAligned) text->SetTransformAttributes(Transform());
+        return text;
     }
     Any Marker() {
         const auto marker = Make<VEKPrtMarkerElt>(Place(), Radius());
@@ -309,7 +315,7 @@ private:
         case 13: return Marker();
         case 14:
             if (iDepth == 9) return Element(Below(13), 9);
-            return Text();
+            return Text(iDepth);
         case 15:
             return With(
                 Make<VEKPrtBitmapImageElt>(Place(), Radius(), Radius(), Number(-90, 90), Pixels().Get()));
@@ -332,7 +338,7 @@ TEST(Consumers, DrawAtRandomAlike) {
     for (unsigned seed = 1; seed <= (count ? std::stoul(count) : 30); ++seed) {
         const RandomDrawing drawing(seed);
         const Distance d = Compare(*drawing.model, "drawing-" + std::to_string(seed), 40, 1);
-        std::cout << seed << " " << d.worst << " " << d.mean << "\n";
+        std::cout << seed << " " << d.worst << " " << d.mean << "\n"; if (d.worst > 40) Dump(std::cout, *drawing.page);
     }
 }
 
