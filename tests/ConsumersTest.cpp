@@ -180,11 +180,15 @@ private:
         return static_cast<Enumeration>(iFirst + Below(iLast - iFirst + 1));
     }
 
-    ::Stroke Outline() {
+    ::Stroke Plain(double iWidth) {
         ::Stroke stroke;
         stroke.SetStrokeColourIndex(static_cast<unsigned>(Below(colours)));
         if (Seldom()) stroke.SetStrokeColourTransparency(Byte());
-        stroke.SetStrokeWidth(Number(0.3, 2.5));
+        stroke.SetStrokeWidth(iWidth);
+        return stroke;
+    }
+    ::Stroke Outline() {
+        ::Stroke stroke = Plain(Number(0.3, 2.5));
         stroke.SetStrokeType(OneOf<VEKPrintLineAttribute>(0, 6));
         stroke.SetStrokeStyle(OneOf<VEKPrintLineAttribute>(8, 9));
         stroke.SetStrokeCap(OneOf<VEKPrintLineAttribute>(10, 12));
@@ -260,7 +264,11 @@ private:
         if (isAligned && Seldom()) attributes.SetWritingMode(VEKPrtTextVertical);
         text->SetTextAttributes(attributes);
         With(text);
-        if (isAligned) text->SetTransformAttributes(Transform());
+        // Dashes along letters add up the smallest differences of their outlines.
+        text->SetStrokeAttributes(Plain(0.3));
+        Transform transform;
+        transform.AddTranslation(Vector(20, 20));
+        if (isAligned) text->SetTransformAttributes(transform);
         return text;
     }
     Any Marker() {
@@ -324,7 +332,7 @@ private:
         case 18: return Filled(Make<VEKPrtSymbolElt>(Place(), Radius(), Radius()), iDepth);
         case 19: return Filled(Make<VEKPrtImageElt>(), iDepth);
         case 20: return Filled(Make<VEKPrtClosedFigureRegionElt>(), iDepth);
-        default: return Filled(Make<VEKPrtGroupElt>(), iDepth);
+        default: return Filled(Make<VEKPrtPatternElt>(Place(), Radius(), Radius()), iDepth);
         }
     }
 
