@@ -1,5 +1,8 @@
 #include "Element.h"
 
+#include <algorithm>
+#include <cstring>
+
 namespace vekprt::svg {
 
 namespace {
@@ -52,7 +55,16 @@ SvgElement& SvgElement::Attribute(const char* iName, const std::string& iValue) 
 }
 
 SvgElement& SvgElement::Attribute(const char* iName, double iValue) {
-    _page.xml.Attribute(iName, _page.place.grid(iValue));
+    constexpr std::size_t maxName = 20;
+    char text[maxName + Grid::maxText + 4];
+    char* end = text;
+    *end++ = ' ';
+    end = std::copy(iName, iName + std::min(std::strlen(iName), maxName), end);
+    *end++ = '=';
+    *end++ = '"';
+    end = _page.place.grid.Write(end, iValue);
+    *end++ = '"';
+    _page.xml.PlainAttributes({text, static_cast<std::size_t>(end - text)});
     return *this;
 }
 

@@ -10,10 +10,14 @@ namespace vekprt::svg {
 namespace {
 
 template <class Value, class... Format>
+char* WriteText(char* oText, Value iValue, Format... iFormat) {
+    if (!std::isfinite(iValue) || iValue == 0) iValue = 0;
+    return std::to_chars(oText, oText + Grid::maxText, iValue, iFormat...).ptr;
+}
+template <class Value, class... Format>
 std::string Text(Value iValue, Format... iFormat) {
-    if (!std::isfinite(iValue) || iValue == 0) return "0";
-    char text[32];
-    return {text, std::to_chars(text, text + sizeof text, iValue, iFormat...).ptr};
+    char text[Grid::maxText];
+    return {text, WriteText(text, iValue, iFormat...)};
 }
 
 } // namespace
@@ -31,28 +35,30 @@ Grid::Grid(double iStep) {
 
 double Grid::Step() const { return std::isfinite(_unitsInOne) ? std::pow(10.0, -_digits) : 0.0; }
 
-void Grid::AppendUnits(std::string& ioText, std::int64_t iUnits) const {
+char* Grid::WriteUnits(char* oText, std::int64_t iUnits) const {
     std::int64_t rest = std::abs(iUnits);
     int digits = std::max(_digits, 0);
     for (; digits > 0 && rest % 10 == 0; --digits)
         rest /= 10;
+    if (iUnits < 0) *oText++ = '-';
     char text[24];
     const char* const end = std::to_chars(text, text + sizeof text, rest).ptr;
     const char* const point = std::max<const char*>(text, end - digits);
-    if (iUnits < 0) ioText += '-';
-    if (point == text) ioText += '0';
-    ioText.append(text, static_cast<std::size_t>(point - text));
-    if (digits == 0) return;
-    ioText += '.';
-    ioText.append(static_cast<std::size_t>(digits - (end - point)), '0');
-    ioText.append(point, end);
+    if (point == text) *oText++ = '0';
+    oText = std::copy<const char*>(text, point, oText);
+    if (digits == 0) return oText;
+    *oText++ = '.';
+    oText = std::fill_n(oText, digits - (end - point), '0');
+    return std::copy(point, end, oText);
+}
+
+char* Grid::Write(char* oText, double iValue) const {
+    return Holds(std::fabs(iValue)) ? WriteUnits(oText, Units(iValue)) : WriteText(oText, iValue);
 }
 
 std::string Grid::operator()(double iValue) const {
-    if (!Holds(std::fabs(iValue))) return Text(iValue);
-    std::string text;
-    AppendUnits(text, Units(iValue));
-    return text;
+    char text[maxText];
+    return {text, Write(text, iValue)};
 }
 
 } // namespace vekprt::svg

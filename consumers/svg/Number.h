@@ -2,6 +2,7 @@
 #ifndef Number_H
 #define Number_H
 
+#include <cstddef>
 #include <cstdint>
 #include <limits>
 #include <string>
@@ -30,9 +31,12 @@ public:
     std::int64_t Units(double iValue) const {
         return static_cast<std::int64_t>(iValue * _unitsInOne + (iValue < 0.0 ? -0.5 : 0.5));
     }
-    void AppendUnits(std::string& ioText, std::int64_t iUnits) const;
+    /// Writes a number of units, and returns its end; maxText characters are enough.
+    char* WriteUnits(char* oText, std::int64_t iUnits) const;
+    static constexpr std::size_t maxText = 40;
     /// A value that the grid has no room for is written so that it reads back as the same double.
     std::string operator()(double iValue) const;
+    char* Write(char* oText, double iValue) const;
 
 private:
     // After the point; below 0 for a step above 1, which is written like 1.

@@ -31,17 +31,20 @@ std::string PathText(const drawing::Path& iPath, const Grid& iGrid) {
         text += letter != last || command == 'M' ? letter : ' ';
         last = letter;
         for (int i = 0; i < PointCount(command); ++i, ++point) {
-            if (i > 0) text += ' ';
+            char pair[2 * Grid::maxText + 2];
+            char* end = pair;
+            if (i > 0) *end++ = ' ';
             for (const int axis : {0, 1}) {
                 const double value = axis == 0 ? point->GetX() : point->GetY();
-                if (axis > 0) text += ',';
+                if (axis > 0) *end++ = ',';
                 if (isOnGrid) {
                     to[axis] = iGrid.Units(value);
-                    iGrid.AppendUnits(text, isRelative ? to[axis] - from[axis] : to[axis]);
+                    end = iGrid.WriteUnits(end, isRelative ? to[axis] - from[axis] : to[axis]);
                 } else {
-                    text += iGrid(value);
+                    end = iGrid.Write(end, value);
                 }
             }
+            text.append(pair, end);
         }
         std::copy(to, to + 2, from);
     }

@@ -25,6 +25,8 @@ public:
                std::initializer_list<std::pair<std::string_view, std::string_view>> iAttributes = {});
     // Of the element started last, before anything is nested in it.
     void Attribute(std::string_view iName, std::string_view iValue);
+    /// One or more attributes as text that needs no escapes, a blank before each.
+    void PlainAttributes(std::string_view iText) { _text += iText; }
     /// Nothing for an empty value.
     void OptionalAttribute(std::string_view iName, std::string_view iValue);
     void Text(std::string_view iText);
