@@ -1,112 +1,152 @@
-// What the cells of the specimen sheet are drawn with.
+// The tools that the cells of the specimen sheet are drawn with.
 #ifndef Cell_H
 #define Cell_H
 
+#include <initializer_list>
 #include <string>
+#include <type_traits>
+#include <vector>
 
 #include "Specimen.h"
-#include "VEKPrtGroupElt.h"
-#include "VEKPrtImageElt.h"
-#include "VEKPrtLineElt.h"
-#include "VEKPrtTextElt.h"
-#include "VEKRef.h"
+#include "VEKPrtElements.h"
 
 using vekprt::Make;
 using vekprt::VEKRef;
 
 using Point = VEKMathPoint2D;
+using Vector = VEKMathVector2D;
+using StrokeAttributes = VEKPrtStrokeAttributes;
+using FillAttributes = VEKPrtFillAttributes;
+using TextAttributes = VEKPrtTextAttributes;
+using MarkerAttributes = VEKPrtMarkerAttributes;
+using Transform = VEKPrtTransformAttributes;
+using Anchor = VEKPrintTextAttribute;
 
 constexpr double pi = 3.14159265358979323846;
+constexpr Anchor left = VEKPrintTextAnchorBaselineLeft, centre = VEKPrintTextAnchorBaselineCentre,
+                 right = VEKPrintTextAnchorBaselineRight, middleLeft = VEKPrintTextAnchorMiddleLeft,
+                 middleCentre = VEKPrintTextAnchorMiddleCentre, middleRight = VEKPrintTextAnchorMiddleRight;
 
 /// Indices into the page's colour table.
 enum Colour : unsigned { ink, grey, faint, red, teal, ochre, blue, paper };
 
-VEKPrtStrokeAttributes Stroke(Colour iColour, double iWidth);
-VEKPrtFillAttributes Fill(Colour iColour);
-
-/// The record with one more value set.
-template <class Record, class Argument>
-Record With(Record iRecord, void (Record::*iSet)(Argument), Argument iValue) {
-    (iRecord.*iSet)(iValue);
+template <class Record>
+Record With(const Record& iRecord) {
     return iRecord;
 }
-
-/// The element, with stroke, fill and draw style set.
-template <class Element>
-VEKRef<Element> Painted(const VEKRef<Element>& iElement, const VEKPrtStrokeAttributes& iStroke,
-                        const VEKPrtFillAttributes& iFill, VEKPrtDrawStyle iStyle = VEKPrtDrawBoth) {
-    iElement->SetStrokeAttributes(iStroke);
-    iElement->SetFillAttributes(iFill);
-    iElement->SetDrawStyle(iStyle);
-    return iElement;
+/// The record after some of its values are set: pairs of a setter and its argument.
+template <class Record, class Result, class Argument, class... Rest>
+Record With(Record iRecord, Result (Record::*iSet)(Argument), std::common_type_t<Argument> iValue,
+            const Rest&... iRest) {
+    (iRecord.*iSet)(iValue);
+    return With(iRecord, iRest...);
 }
 
+inline StrokeAttributes Stroke(Colour iColour, double iWidth = 0.5) {
+    return With(StrokeAttributes(), &StrokeAttributes::SetStrokeColourIndex, iColour,
+                &StrokeAttributes::SetStrokeWidth, iWidth);
+}
+inline FillAttributes Fill(Colour iColour) {
+    return With(FillAttributes(), &FillAttributes::SetFillColourIndex, iColour);
+}
 /// A translation, with a rotation and a scale inside it.
-VEKPrtTransformAttributes Place(double iX, double iY, float iAngle = 0.0F, double iScale = 1.0);
+inline Transform Place(double iX, double iY, float iAngle = 0.0F, double iScale = 1.0) {
+    Transform transform = With(Transform(), &Transform::AddTranslation, Vector(iX, iY));
+    if (iAngle != 0.0F) transform.AddRotation(iAngle);
+    if (iScale == 1.0) return transform;
+    return With(transform, &Transform::AddScaleX, iScale, &Transform::AddScaleY, iScale);
+}
 
-/// A cell: a group whose children have coordinates of the cell, x from 0 to 50, y from 0 to 42.
+template <class Element>
+void Set(Element&) {}
+/// Sets records of the element by their types.  With a fill the outline is drawn, too, unless a draw style
+/// follows.
+template <class Element, class Record, class... Rest>
+void Set(Element& ioElement, const Record& iRecord, const Rest&... iRest) {
+    if constexpr (std::is_same_v<Record, StrokeAttributes>) ioElement.SetStrokeAttributes(iRecord);
+    if constexpr (std::is_same_v<Record, FillAttributes>) ioElement.SetFillAttributes(iRecord);
+    if constexpr (std::is_same_v<Record, FillAttributes>) ioElement.SetDrawStyle(VEKPrtDrawBoth);
+    if constexpr (std::is_same_v<Record, VEKPrtDrawStyle>) ioElement.SetDrawStyle(iRecord);
+    if constexpr (std::is_same_v<Record, Transform>) ioElement.SetTransformAttributes(iRecord);
+    Set(ioElement, iRest...);
+}
+
+inline VEKRef<VEKPrtRectangleElt> Box(double iX1, double iY1, double iX2, double iY2) {
+    return Make<VEKPrtRectangleElt>(Point(iX1, iY1), Point(iX2, iY2));
+}
+inline VEKRef<VEKPrtCircleElt> Circle(double iX, double iY, double iRadius) {
+    return Make<VEKPrtCircleElt>(Point(iX, iY), iRadius);
+}
+
+struct Note {
+    double x, y;
+    std::string text;
+    Anchor anchor = left;
+    double height = 2.2;
+};
+
+/// A group whose children have coordinates of the cell, x from 0 to 50, y from 0 to 42.
 class Cell {
 public:
     static constexpr double width = 50.0;
 
     Cell(const Specimen& iFonts, VEKPrtGroupElt& ioGroup) : fonts(iFonts), group(ioGroup) {}
 
-    template <class Element>
-    void Add(const VEKRef<Element>& iElement) const {
+    template <class Element, class... Records>
+    void Add(const VEKRef<Element>& iElement, const Records&... iRecords) const {
+        Set(*iElement, iRecords...);
         group.AddChild(iElement.Get());
     }
-    template <class Element>
-    void AddPainted(const VEKRef<Element>& iElement, Colour iStroke, Colour iFill,
-                    VEKPrtDrawStyle iStyle = VEKPrtDrawBoth, double iWidth = 0.5) const {
-        Add(Painted(iElement, Stroke(iStroke, iWidth), Fill(iFill), iStyle));
+    /// Adds a group, and returns it as a cell to draw into.
+    Cell Group(const Transform& iTransform) const {
+        const auto inner = Make<VEKPrtGroupElt>();
+        Add(inner, iTransform);
+        return {fonts, *inner};
     }
-    template <class Element>
-    void AddStroked(const VEKRef<Element>& iElement, const VEKPrtStrokeAttributes& iStroke) const {
-        iElement->SetStrokeAttributes(iStroke);
-        Add(iElement);
+    void Line(const Point& iFrom, const Point& iTo, const StrokeAttributes& iStroke) const {
+        Add(Make<VEKPrtLineElt>(iFrom, iTo), iStroke);
     }
-
-    void Line(double iX1, double iY1, double iX2, double iY2, const VEKPrtStrokeAttributes& iStroke) const;
-    void Line(double iX1, double iY1, double iX2, double iY2, Colour iColour, double iWidth = 0.15) const {
-        Line(iX1, iY1, iX2, iY2, Stroke(iColour, iWidth));
+    /// Adds a filled text in ink, after \p iChanges to its attributes: pairs of a setter and its argument.
+    template <class... Changes>
+    VEKRef<VEKPrtTextElt> Text(const Note& iNote, const Changes&... iChanges) const {
+        const auto text = Make<VEKPrtTextElt>(Point(iNote.x, iNote.y), VEKUnicodeString(iNote.text.c_str()));
+        const auto attributes =
+            With(TextAttributes(), &TextAttributes::SetFont, fonts.sans.get(), &TextAttributes::SetHeight,
+                 iNote.height, &TextAttributes::SetAnchor, iNote.anchor);
+        text->SetTextAttributes(With(attributes, iChanges...));
+        Add(text, Stroke(ink, 0.15), Fill(ink), VEKPrtDrawInterior);
+        return text;
     }
-    /// Text as it is set on the sheet: filled, in ink.
-    VEKRef<VEKPrtTextElt> Text(double iX, double iY, const std::string& iText, double iHeight = 2.2,
-                               VEKPrintTextAttribute iAnchor = VEKPrintTextAnchorBaselineLeft) const;
-    VEKRef<VEKPrtTextElt> Centred(double iX, double iY, const std::string& iText,
-                                  double iHeight = 2.2) const {
-        return Text(iX, iY, iText, iHeight, VEKPrintTextAnchorBaselineCentre);
+    void Texts(std::initializer_list<Note> iNotes) const {
+        for (const Note& note : iNotes)
+            Text(note);
     }
-    VEKRef<VEKPrtTextElt> Right(double iX, double iY, const std::string& iText, double iHeight = 2.2) const {
-        return Text(iX, iY, iText, iHeight, VEKPrintTextAnchorBaselineRight);
+    /// Markers by style.
+    void Marker(const Point& iPoint, int iStyle, double iSize, const StrokeAttributes& iStroke) const {
+        const auto marker = Make<VEKPrtMarkerElt>(iPoint, iSize);
+        marker->SetMarkerAttributes(With(MarkerAttributes(), &MarkerAttributes::SetMarkerStyle,
+                                         static_cast<VEKPrintMarkerAttribute>(iStyle)));
+        Add(marker, iStroke);
     }
-    /// A cross that marks a point of the construction.
-    void Mark(double iX, double iY) const;
+    /// Crosses at points of the construction.
+    void Marks(std::initializer_list<Point> iPoints) const {
+        for (const Point& point : iPoints)
+            Marker(point, VEKPrintMarkerCross, 1.6, Stroke(red, 0.15));
+    }
 
     const Specimen& fonts;
     VEKPrtGroupElt& group;
 };
 
-/// Changes one attribute of a text that was added already.
-template <class Argument>
-void Retouch(const VEKRef<VEKPrtTextElt>& ioText, void (VEKPrtTextAttributes::*iSet)(Argument),
-             Argument iValue) {
-    VEKPrtTextAttributes attributes;
-    ioText->GetTextAttributes(attributes);
-    (attributes.*iSet)(iValue);
-    ioText->SetTextAttributes(attributes);
-}
-
-/// What a cell shows: a heading, the class or record by its name, and the drawing.
+/// What a cell shows: a heading, the class or setter by its name, and the drawing.
 struct CellContent {
-    const char* id;
-    const char* heading;
     const char* name;
+    const char* heading;
+    const char* subject;
     void (*draw)(const Cell& iCell);
 };
 
-/// The cells of the sheet, row by row, ended by one without a drawing.
-extern const CellContent g_elementCells[];
-extern const CellContent g_attributeCells[];
+/// The cells of the sheet, row by row.
+std::vector<CellContent> Cells();
 
 #endif
