@@ -9,32 +9,29 @@
 #include "VEKPrtModel.h"
 #include "VEKRef.h"
 
-using vekprt::VEKRef;
-
 /// The drawing and what it borrows.
 ///
-/// Text attributes only borrow their fonts, so keep the atlas, and do not move it, until its model and every
-/// duplicate made of a page have been plotted.
+/// Text attributes only borrow their fonts: keep the atlas, and do not move it, until its model and every
+/// duplicate made of a page have been drawn.
 class Atlas {
 public:
-    /// The world and those of its regions that show something; or, for countries that lie close together, one
-    /// page that is fitted to them.  Its title is the name of the only country, or else \p iTitle.  It may
-    /// leave out what lies far from the largest part of its country.
+    /// The world and the continents; or, for countries that lie close together, one page that is fitted to
+    /// them, whose title is the name of the only country, or else \p iTitle.
     ///
-    /// \p iCredit stands at the foot of each page.  Throws std::runtime_error when it is too long for that,
-    /// or the outlines for all the pages.
+    /// \p iCredit is a text for the foot of each page.  Throws std::runtime_error when it is too long for
+    /// that, or when the outlines are too long for all the pages.
     explicit Atlas(const Topology& iTopology, const std::string& iTitle = "Map",
                    const std::string& iCredit = {});
     Atlas(const Atlas&) = delete;
     Atlas& operator=(const Atlas&) = delete;
 
-    /// The identifier of a page is what links call its file, without extension.
+    /// Links name the SVG files of other pages: the identifier of the page with the extension.
     const VEKPrtModel& Model() const { return *_model; }
 
 private:
-    VEKFont _titleFont;
-    VEKFont _labelFont;
-    VEKRef<VEKPrtModel> _model;
+    VEKFont _titleFont{"DejaVu Serif, serif"};
+    VEKFont _labelFont{"DejaVu Sans, sans-serif"};
+    vekprt::VEKRef<VEKPrtModel> _model = vekprt::Make<VEKPrtModel>();
 };
 
 #endif

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "Geometry.h"
+#include "Map.h"
 
 struct Country {
     std::string id;   // empty when the file gives none
@@ -24,13 +24,15 @@ struct Arc {
 struct Topology {
     std::vector<Arc> arcs;
     std::vector<Country> countries;
+    std::string levels; // which object was read and which there are, as a line for the user
 };
 
-/// Reads the object "countries", or else the first one by name that has polygons.
+/// Reads the object \p iLevel; when that is empty, "countries", or else the first object in file order that
+/// has polygons.
 ///
 /// Throws std::runtime_error, whose message says what is wrong with \p iText and where.  Null geometries,
 /// points and lines are left out, and so are rings of fewer than three positions, which generalised data
 /// contains.  A name or identifier that is neither text nor a number counts as none.
-Topology ReadTopology(const std::string& iText);
+Topology ReadTopology(const std::string& iText, const std::string& iLevel = {});
 
 #endif

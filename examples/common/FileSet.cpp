@@ -6,7 +6,11 @@
 #include <stdexcept>
 #include <unistd.h>
 
+#ifdef VEKPRT_HAS_CAIRO // set by CMake when the consumer that draws by cairo is built
+#include "CairoWriter.h"
+#endif
 #include "SvgWriter.h"
+#include "VEKPrtDump.h"
 
 namespace fs = std::filesystem;
 
@@ -25,10 +29,27 @@ FileSet::~FileSet() {
     }
 }
 
-void FileSet::AddSvg(const fs::path& iPath, const VEKPrtModel& iModel, int iPage) {
-    std::ostringstream svg;
-    if (!vekprt::WriteSvg(iModel, iPage, svg) || !svg) Fail(iPath, "the page cannot be drawn as SVG");
-    _files.push_back({iPath, svg.str(), {}, {}});
+void FileSet::Add(const fs::path& iPath, const VEKPrtModel& iModel, int iPage) {
+    const fs::path extension = iPath.extension();
+    std::ostringstream content;
+    bool isDrawn = false;
+    if (extension.empty() || extension == ".svg") {
+        isDrawn = static_cast<bool>(vekprt::WriteSvg(iModel, iPage, content));
+    } else if (extension == ".txt") {
+        vekprt::Dump(content, iModel);
+        isDrawn = true;
+#ifdef VEKPRT_HAS_CAIRO
+    } else if (extension == ".pdf") {
+        isDrawn = static_cast<bool>(vekprt::WritePdf(iModel, content));
+    } else if (extension == ".png") {
+        constexpr double dotsPerInch = 150.0;
+        isDrawn = static_cast<bool>(vekprt::WritePng(iModel, iPage, dotsPerInch, content));
+#endif
+    } else {
+        Fail(iPath, "no such format: " + extension.string());
+    }
+    if (!isDrawn || !content) Fail(iPath, "the page cannot be drawn");
+    _files.push_back({iPath, content.str(), {}, {}});
 }
 
 void FileSet::Commit() {
@@ -41,7 +62,7 @@ void FileSet::Commit() {
         const bool isStream = type == fs::file_type::character || type == fs::file_type::fifo;
         const bool isRegular = type == fs::file_type::regular;
         if (!isStream && !isRegular && type != fs::file_type::not_found)
-            Fail(file.path, "it is no regular file");
+            Fail(file.path, "it is not a regular file");
 
         file.target = file.path;
         while (!isStream && fs::is_symlink(file.target))
@@ -62,4 +83,12 @@ void FileSet::Commit() {
         if (error) Fail(file.path, error.message());
         file.temporary.clear();
     }
+}
+
+void MakeDirectory(const fs::path& iPath) {
+    std::error_code error;
+    fs::create_directories(iPath, error);
+    // Some libraries report an error when the directory exists under another spelling.
+    if (!fs::is_directory(iPath))
+        throw std::runtime_error("cannot make directory " + iPath.string() + ": " + error.message());
 }
