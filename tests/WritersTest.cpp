@@ -1,0 +1,487 @@
+// What comparing pictures cannot see: units, names, links, limits, failures.
+#include <cairo.h>
+
+#include <cmath>
+#include <functional>
+#include <sstream>
+
+#include "CairoWriter.h"
+#include "Fields.h"
+#include "Nurbs.h"
+#include "SvgWriter.h"
+
+namespace {
+
+struct Page {
+    VEKRef<VEKPrtModel> model = Make<VEKPrtModel>();
+    VEKRef<VEKPrtImageElt> image =
+        Make<VEKPrtImageElt>(Point(-5, 10), 100.0, 50.0, VEKPrtImageCentimetre, Matrix());
+    std::string warnings;
+
+    Page() {
+        auto* const table = new VEKPrtColourTable;
+        unsigned index = 0;
+        table->AddColour(0x12, 0xAB, 0xEF, index);
+        table->AddColour(0xFF, 0x00, 0x07, index);
+        image->SetColourTable(table);
+        model->AddImage(image.Get());
+    }
+    std::string Svg() {
+        std::ostringstream text, warned;
+        EXPECT_TRUE(WriteSvg(*model, 1, text, warned));
+        warnings = warned.str();
+        return text.str();
+    }
+    std::string Pdf() {
+        std::ostringstream text, warned;
+        EXPECT_TRUE(WritePdf(*model, text, warned));
+        warnings = warned.str();
+        return text.str();
+    }
+    template <class Element, class... Arguments>
+    VEKRef<Element> Add(Arguments&&... iArguments) {
+        auto element = Make<Element>(std::forward<Arguments>(iArguments)...);
+        image->AddChild(element.Get());
+        return element;
+    }
+    VEKRef<VEKPrtGroupElt> Link(const char* iURI) {
+        auto group = Add<VEKPrtGroupElt>();
+        VEKPrtGroupAttributes attributes;
+        attributes.SetLinkURI(iURI);
+        group->SetGroupAttributes(attributes);
+        return group;
+    }
+    auto WarningCount() const { return std::count(warnings.begin(), warnings.end(), '\n'); }
+};
+
+int CountOf(const std::string& iText, const std::string& iPart) {
+    int count = 0;
+    for (std::size_t at = 0; (at = iText.find(iPart, at)) != std::string::npos; at += iPart.size())
+        ++count;
+    return count;
+}
+
+VEKRef<VEKPrtGroupElt> Scaled(double iX, double iY) {
+    auto group = Make<VEKPrtGroupElt>();
+    Transform transform;
+    transform.AddScaleX(iX);
+    transform.AddScaleY(iY);
+    group->SetTransformAttributes(transform);
+    return group;
+}
+Stroke Fixed(double iWidth, int iType = 0) {
+    Stroke stroke;
+    stroke.SetStrokeStyle(Value<VEKPrintLineAttribute>(9));
+    stroke.SetStrokeWidth(iWidth);
+    stroke.SetStrokeType(Value<VEKPrintLineAttribute>(iType));
+    return stroke;
+}
+template <class Container>
+void AddTwice(Container& ioContainer, VEKPrtGraphicPrimitiveElt* iChild) {
+    for (int i = 0; i < 2; ++i)
+        ioContainer.AddChild(iChild);
+}
+
+// What the document holds, and how often; how many warnings there are.
+struct Row {
+    const char* name;
+    std::function<void(Page&)> make;
+    std::vector<std::pair<const char*, int>> parts;
+    int warnings = 0;
+};
+
+const Row g_rows[] = {
+    {"page",
+     [](Page&) {},
+     {{R"(width="100cm" height="50cm" viewBox="-5 -60 100 50")", 1}, {"\"scale(1,-1)\"", 1}}},
+    {"page matrix, row by row",
+     [](Page& ioPage) { ioPage.image->SetMatrix(Matrix(1, 2, 3, 4)); },
+     {{"scale(1,-1) matrix(1 3 2 4 0 0)", 1}}},
+    {"noise of a computed matrix",
+     [](Page& ioPage) { ioPage.image->SetMatrix(Matrix(6e-17, 1, -1, 6e-17)); },
+     {{"matrix(0 -1 1 0 0 0)", 1}}},
+    {"unknown units",
+     [](Page& ioPage) { ioPage.image->SetUnits(static_cast<VEKPrtImageUnits>(7)); },
+     {{"\"100mm\"", 1}},
+     1},
+    {"no size", [](Page& ioPage) { ioPage.image->SetSize(0, 0); }, {{"viewBox", 0}}, 1},
+    {"escapes",
+     [](Page& ioPage) {
+         const auto line = ioPage.Add<VEKPrtLineElt>();
+         line->SetTitle("a < b & \"c\"");
+         line->SetDescription("bad \x01\xFF\xC3 text");
+     },
+     {{"<title>a &lt; b &amp; &quot;c&quot;</title>", 1},
+      {"<desc>bad \uFFFD\uFFFD\uFFFD text</desc>", 1}}},
+    {"names",
+     [](Page& ioPage) {
+         for (const char* const id : {"gr\u00F6\u00DFe.1", "2 b", "-a:b", "\xFF", "svg-clip-1", "2 b"})
+             ioPage.Add<VEKPrtGroupElt>()->SetID(id);
+         ioPage.Add<VEKPrtSymbolElt>(Point(), 1.0, 1.0);
+         ioPage.Link("#2 b");
+         ioPage.Link("#2%20b");
+     },
+     {{"id=\"gr\u00F6\u00DFe.1\"", 1},
+      {"id=\"_x32__x20_b\"", 1},
+      {"id=\"_x2D_a_x3A_b\"", 1},
+      {"id=\"_xFFFD_\"", 1},
+      {"id=\"svg-clip-1\"", 1},
+      {"href=\"#_x32__x20_b\"", 2}},
+     5},
+    {"warnings in one line",
+     [](Page& ioPage) { ioPage.Add<VEKPrtMarkerElt>(Point(NAN, 0), 1.0)->SetID("a\nb"); },
+     {{"<path", 0}},
+     1},
+    {"links that run programs",
+     [](Page& ioPage) {
+         for (const char* const uri : {"javascript:alert(1)", " \x01JavaScript:x", "java\nscript:x",
+                                       "vbscript:x", "data:text/html,x", "https://example.org/?a=1&q=javascript:x",
+                                       "javascript.html", "mailto:a@example.org"})
+             ioPage.Link(uri);
+     },
+     {{"<a ", 3}},
+     5},
+    {"a colour out of range",
+     [](Page& ioPage) {
+         Stroke stroke;
+         stroke.SetStrokeColourIndex(2);
+         ioPage.Add<VEKPrtLineElt>()->SetStrokeAttributes(stroke);
+     },
+     {{"stroke=\"#000000\"", 1}},
+     1},
+    {"an unusable dash pattern, a negative width",
+     [](Page& ioPage) {
+         ioPage.Add<VEKPrtLineElt>()->SetStrokeAttributes(Dashed({1, -1}));
+         ioPage.Add<VEKPrtLineElt>()->SetStrokeAttributes(Dashed({0, 0}));
+         ioPage.Add<VEKPrtLineElt>()->SetStrokeAttributes(Fixed(-1));
+     },
+     {{"stroke-dasharray", 0}, {"stroke=\"none\"", 1}},
+     1},
+    {"what is out of range",
+     [](Page& ioPage) {
+         const double bad[] = {0, 0, 1e39, 1};
+         const int counts[] = {2};
+         const Point nowhere(INFINITY, 0);
+         Transform far;
+         far.AddTranslation(Vector(1e39, 0));
+         ioPage.Add<VEKPrtPolylineElt>(bad, 2);
+         ioPage.Add<VEKPrtPolyPolygonElt>(bad, counts, 1);
+         ioPage.Add<VEKPrtLineElt>(nowhere, nowhere);
+         ioPage.Add<VEKPrtCircularArcElt>(Point(), 1.0, 0.0F, NAN);
+         ioPage.Add<VEKPrtTextElt>(nowhere, VEKUnicodeString("x"));
+         ioPage.Add<VEKPrtRectangleElt>(nowhere, nowhere);
+         ioPage.Add<VEKPrtCircleElt>(Point(), 1e39);
+         ioPage.Add<VEKPrtGroupElt>()->SetTransformAttributes(far);
+     },
+     {{"\n  <", 0}},
+     8},
+    {"a child of each class that has nothing set",
+     [](Page& ioPage) {
+         for (const auto& element : {VEKRef<VEKPrtGraphicPrimitiveElt>(Make<VEKPrtPatternElt>()),
+                                     VEKRef<VEKPrtGraphicPrimitiveElt>(Make<VEKPrtBitmapImageElt>()),
+                                     VEKRef<VEKPrtGraphicPrimitiveElt>(Make<VEKPrtNURBSElt>()),
+                                     VEKRef<VEKPrtGraphicPrimitiveElt>(Make<VEKPrtClosedFigureElt>())})
+             ioPage.image->AddChild(element.Get());
+     },
+     {{"<g/>", 2}},
+     3},
+    {"deep nesting",
+     [](Page& ioPage) {
+         auto group = ioPage.Add<VEKPrtGroupElt>();
+         for (int i = 0; i < 300; ++i) {
+             const auto inner = Make<VEKPrtGroupElt>();
+             group->AddChild(inner.Get());
+             group = inner;
+         }
+     },
+     {{"<g", 231}},
+     1},
+    {"what is held often",
+     [](Page& ioPage) {
+         auto inner = Make<VEKPrtGroupElt>();
+         inner->AddChild(Make<VEKPrtLineElt>().Get());
+         for (int level = 0; level < 20; ++level) {
+             const auto outer = Make<VEKPrtGroupElt>();
+             AddTwice(*outer, inner.Get());
+             inner = outer;
+         }
+         ioPage.image->AddChild(inner.Get());
+     },
+     {{"<use", 20}, {"<line", 1}}},
+    {"an image that is used often",
+     [](Page& ioPage) {
+         const auto image = Make<VEKPixelImage>(2, 2);
+         Fill fill;
+         fill.SetFillStyle(VEKPrtFillPattern);
+         fill.SetPattern(image.Get(), Vector(4, 0), Vector(0, 4));
+         for (int i = 0; i < 3; ++i) {
+             ioPage.Add<VEKPrtBitmapImageElt>(Point(i, i), 1.0, 1.0, 0.0, image.Get());
+             const auto circle = ioPage.Add<VEKPrtCircleElt>(Point(i, i), 1.0);
+             circle->SetDrawStyle(VEKPrtDrawInterior);
+             circle->SetFillAttributes(fill);
+         }
+     },
+     {{"data:image/png", 1}, {"<pattern", 1}, {"fill=\"url(#svg-fill-", 3}}},
+    {"white space of texts",
+     [](Page& ioPage) {
+         const auto text = ioPage.Add<VEKPrtTextElt>(Point(1, 2), VEKUnicodeString(" a\n\tb "));
+         text->SetTitle("title");
+         VEKPrtTextAttributes attributes;
+         attributes.SetAnchor(Value<VEKPrintTextAttribute>(33));
+         attributes.SetExtraSpacing(2.0);
+         text->SetTextAttributes(attributes);
+     },
+     {{R"x(<text transform="translate(1,2) scale(1,-1)" x="1" y="3.6" font-family)x", 1},
+      {"xml:space=\"preserve\"", 1},
+      {"<title>title</title> a  b \u200E</text>", 1}}},
+    {"figures turn what runs the other way",
+     [](Page& ioPage) {
+         const auto region = Make<VEKPrtClosedFigureRegionElt>();
+         const double curve[] = {6, 0, 5, 5, 4, 0};
+         region->AddChild(Make<VEKPrtLineElt>(Point(0, 0), Point(2, 0)).Get());
+         region->AddChild(Make<VEKPrtLineElt>(Point(4, 0), Point(2, 0)).Get());
+         region->AddChild(Make<VEKPrtPolyQuadraticBezierElt>(curve, 3).Get());
+         region->AddChild(Make<VEKPrtLineElt>(Point(8, 1), Point(9, 1)).Get());
+         region->AddChild(Make<VEKPrtTextElt>().Get());
+         Transform tenfold;
+         tenfold.AddScaleX(10.0);
+         region->SetTransformAttributes(tenfold);
+         ioPage.Add<VEKPrtClosedFigureElt>()->AddChild(region.Get());
+     },
+     {{"d=\"M0,0l20,0 20,0q10,5 20,0l20,1 10,0Z\"", 1}},
+     1},
+    {"what depends on the place is written again",
+     [](Page& ioPage) {
+         const double third[] = {0, 0, 1.0 / 3, 0};
+         const auto line = Make<VEKPrtLineElt>(), fixed = Make<VEKPrtLineElt>();
+         const auto polyline = Make<VEKPrtPolylineElt>(third, 2);
+         const auto pattern = Make<VEKPrtPatternElt>(Point(), 1.0, 1.0);
+         const auto blue = Make<VEKPrtImageElt>(), quarter = Make<VEKPrtImageElt>();
+         auto* const table = new VEKPrtColourTable;
+         unsigned index = 0;
+         table->AddColour(0, 0, 9, index);
+         blue->SetColourTable(table);
+         fixed->SetStrokeAttributes(Fixed(0.1, 2));
+         const auto scaled = Scaled(0.5, 0.125), fine = Scaled(0.001, 0.001); // 0.25 in the mean
+         blue->AddChild(line.Get());
+         fine->AddChild(polyline.Get());
+         for (VEKPrtGraphicPrimitiveElt* const element :
+              {static_cast<VEKPrtGraphicPrimitiveElt*>(line.Get()),
+               static_cast<VEKPrtGraphicPrimitiveElt*>(fixed.Get()),
+               static_cast<VEKPrtGraphicPrimitiveElt*>(polyline.Get()),
+               static_cast<VEKPrtGraphicPrimitiveElt*>(pattern.Get())}) {
+             AddTwice(*scaled, element);
+             AddTwice(*ioPage.image, element);
+         }
+         for (const auto& container : {VEKRef<VEKPrtGraphicPrimitiveElt>(blue), VEKRef<VEKPrtGraphicPrimitiveElt>(scaled),
+                                       VEKRef<VEKPrtGraphicPrimitiveElt>(fine)})
+             ioPage.image->AddChild(container.Get());
+     },
+     {{"stroke=\"#000009\"", 1},
+      {"stroke-width=\"0.4\" stroke-dasharray=\"0.4 0.8\"", 1},
+      {"stroke-width=\"0.1\" stroke-dasharray=\"0.1 0.2\"", 1},
+      {"d=\"M0,0l0.3333,0\"", 1},
+      {"d=\"M0,0l0.3,0\"", 0},
+      {"width=\"100\" height=\"50\" fill=\"url", 1},
+      {"width=\"200\" height=\"400\" fill=\"url", 1}}},
+};
+
+} // namespace
+
+TEST(Svg, SaysWhatPicturesDoNotShow) {
+    for (const Row& row : g_rows) {
+        Page page;
+        row.make(page);
+        const std::string text = page.Svg();
+        for (const auto& [part, count] : row.parts)
+            EXPECT_EQ(CountOf(text, part), count) << row.name << ": " << part << '\n' << text.substr(0, 1500);
+        EXPECT_EQ(page.WarningCount(), row.warnings) << row.name << '\n' << page.warnings;
+    }
+}
+
+TEST(Svg, SurvivesACycle) {
+    Page page;
+    const auto outer = page.Add<VEKPrtGroupElt>(), inner = Make<VEKPrtGroupElt>();
+    AddTwice(*outer, inner.Get());
+    inner->AddChild(outer.Get());
+    inner->AddChild(page.image.Get());
+    const std::string text = page.Svg();
+    EXPECT_EQ(CountOf(text, "<g"), 3) << text;
+    EXPECT_EQ(CountOf(text, "<use"), 1) << text;
+    EXPECT_EQ(page.WarningCount(), 2) << page.warnings;
+    page.Pdf();
+    EXPECT_EQ(page.WarningCount(), 4) << "the inner group is drawn twice: " << page.warnings;
+    inner->RemoveChild(page.image.Get());
+    inner->RemoveChild(outer.Get());
+}
+
+TEST(Cairo, PagesHaveTheirSizeAndTitle) {
+    const std::pair<int, const char*> units[] = {{0, "75 37.5"},           {1, "100 50"},
+                                                 {2, "1200 600"},          {3, "7200 3600"},
+                                                 {4, "283.464567 141.732283"}, {5, "2834.645669 1417.322835"},
+                                                 {6, "283464.566929 141732.283465"}};
+    for (const auto& [unit, size] : units) {
+        Page page;
+        page.image->SetUnits(static_cast<VEKPrtImageUnits>(unit));
+        page.image->SetTitle("the title");
+        const std::string pdf = page.Pdf();
+        EXPECT_EQ(CountOf(pdf, "/MediaBox [ 0 0 " + std::string(size) + " ]"), 1) << unit << '\n' << pdf;
+        EXPECT_EQ(CountOf(pdf, "/Title (the title)"), 2) << "of the document, and in the outline";
+    }
+}
+
+TEST(Cairo, LinksBecomeAnnotations) {
+    Page page;
+    const auto outer = page.Link("https://example.org/(1)"), inner = page.Link("#x"), nowhere = page.Link("#y");
+    for (const auto& group : {outer, inner, nowhere})
+        group->AddChild(Make<VEKPrtRectangleElt>(Point(0, 20), Point(5, 30)).Get());
+    outer->AddChild(inner.Get());
+    outer->AddChild(Make<VEKPrtLineElt>(Point(0, 20), Point(5, 30)).Get());
+    page.Add<VEKPrtLineElt>(Point(0, 20), Point(5, 30))->SetID("x");
+    const std::string pdf = page.Pdf();
+    EXPECT_EQ(CountOf(pdf, "/URI (https://example.org/%281%29)"), 2) << "before and after the inner link";
+    EXPECT_EQ(CountOf(pdf, "/Subtype /Link"), 4) << pdf;
+    EXPECT_EQ(page.warnings, "");
+}
+
+TEST(Results, TellWhatFailed) {
+    // Takes so many characters, and perhaps cannot get them to where they belong.
+    struct Sink : std::streambuf {
+        long room;
+        int synced;
+        Sink(long iRoom, int iSynced) : room(iRoom), synced(iSynced) {}
+        int overflow(int iCharacter) override { return room-- > 0 ? iCharacter : EOF; }
+        int sync() override { return synced; }
+    };
+    Page page;
+    for (int i = 0; i < 20000; ++i)
+        page.Add<VEKPrtLineElt>(Point(i % 97, i % 31), Point(i % 89, 20));
+    const std::function<WriteResult(int, std::ostream&)> writers[] = {
+        [&](int iPage, std::ostream& ioStream) { return WriteSvg(*page.model, iPage, ioStream); },
+        [&](int iPage, std::ostream& ioStream) {
+            const VEKPrtModel none;
+            return WritePdf(iPage == 1 ? *page.model : none, ioStream);
+        },
+        [&](int iPage, std::ostream& ioStream) { return WritePng(*page.model, iPage, 10, ioStream); }};
+    struct Case {
+        int page;
+        long room;
+        int synced;
+        std::ios::iostate state;
+        WriteResult::Status status;
+    };
+    const Case cases[] = {{1, 10000000, 0, std::ios::goodbit, WriteResult::Written},
+                          {1, 10000000, -1, std::ios::goodbit, WriteResult::StreamFailed}, // only the flush
+                          {1, 3000, 0, std::ios::goodbit, WriteResult::StreamFailed},
+                          {1, 10000000, 0, std::ios::eofbit, WriteResult::StreamFailed},
+                          {2, 1000, 0, std::ios::goodbit, WriteResult::NoSuchPage}};
+    for (const Case& row : cases) {
+        for (const auto& write : writers) {
+            Sink sink(row.room, row.synced);
+            std::ostream stream(&sink);
+            stream.setstate(row.state);
+            const WriteResult result = write(row.page, stream);
+            EXPECT_EQ(result.status, row.status) << &row - cases << ' ' << &write - writers;
+            EXPECT_EQ(static_cast<bool>(result), row.status == WriteResult::Written);
+            EXPECT_TRUE(row.status != WriteResult::NoSuchPage || sink.room == row.room) << "nothing is written";
+        }
+    }
+}
+
+TEST(Results, TellThatMemoryRanOut) {
+    // Needs no memory of operator new.
+    struct Fixed : std::streambuf {
+        char text[40000];
+        void Clear() { setp(text, text + sizeof text); }
+        std::string_view Text() const { return {text, static_cast<std::size_t>(pptr() - pbase())}; }
+    } buffer, warned;
+    Page page;
+    const auto group = page.Link("https://example.org"), shared = Scaled(2, 2);
+    group->SetID("the group");
+    AddTwice(*group, shared.Get());
+    shared->AddChild(Make<VEKPrtTextElt>(Point(0, 20), VEKUnicodeString("text of some length")).Get());
+    const auto figure = page.Add<VEKPrtClosedFigureElt>();
+    const auto region = Make<VEKPrtClosedFigureRegionElt>();
+    region->AddChild(Make<VEKPrtCircleElt>(Point(3, 20), 2.0).Get());
+    figure->AddChild(region.Get());
+    page.Add<VEKPrtLineElt>()->SetStrokeAttributes(Dashed({1, 2, 3}));
+    cairo_surface_t* const picture = cairo_image_surface_create(CAIRO_FORMAT_RGB24, 300, 150);
+    cairo_t* const context = cairo_create(picture);
+    DrawPage(*page.model, 1, context); // fonts are loaded once
+
+    const auto run = [&](bool iIsSvg, long iNth, bool iSticky, long& oHits) {
+        buffer.Clear();
+        warned.Clear();
+        std::ostream stream(&buffer), warnings(&warned);
+        AllocationFaults faults(iNth, iSticky);
+        const WriteResult result = iIsSvg ? WriteSvg(*page.model, 1, stream, warnings)
+                                          : DrawPage(*page.model, 1, context, warnings);
+        oHits = faults.Stop();
+        return result.status;
+    };
+    for (const bool isSvg : {true, false}) {
+        for (const bool sticky : {false, true}) {
+            long hits = 1, told = 0, silent = 0;
+            for (long nth = 0; hits > 0; ++nth) {
+                const auto status = run(isSvg, nth, sticky, hits);
+                EXPECT_TRUE(status == WriteResult::OutOfMemory || status == WriteResult::Written) << nth;
+                told += hits > 0 && status == WriteResult::OutOfMemory;
+                silent += hits > 0 && status == WriteResult::Written;
+            }
+            EXPECT_EQ(run(isSvg, 1000000, false, hits), WriteResult::Written);
+            EXPECT_GT(told, 30) << isSvg << sticky;
+            EXPECT_LT(silent, sticky ? 1 : 12) << "copies that the getters of the model lose";
+        }
+    }
+    cairo_destroy(context);
+    cairo_surface_destroy(picture);
+}
+
+TEST(Nurbs, DrawsACircleAndHonoursTheBounds) {
+    const double s = std::sqrt(0.5);
+    const double points[] = {1, 0, 1, 1, 0, 1, -1, 1, -1, 0, -1, -1, 0, -1, 1, -1, 1, 0};
+    const double knots[] = {0, 0, 0, .25, .25, .5, .5, .75, .75, 1, 1, 1};
+    const double weights[] = {1, s, 1, s, 1, s, 1, s, 1};
+    std::string problem;
+    const auto sample = [&](float iFirst, float iSecond) {
+        return drawing::SampleNurbs(*Make<VEKPrtNURBSElt>(3, 9, points, knots, iFirst, iSecond, weights), 1e-5,
+                                    problem);
+    };
+    const auto circle = sample(0.0F, 1.0F);
+    ASSERT_GT(circle.size(), 30U);
+    for (std::size_t i = 1; i < circle.size(); ++i) {
+        const Point &from = circle[i - 1], &to = circle[i];
+        EXPECT_NEAR(std::hypot(to.GetX(), to.GetY()), 1.0, 1e-12);
+        EXPECT_NEAR(std::hypot(from.GetX() + to.GetX(), from.GetY() + to.GetY()), 2.0, 4e-5)
+            << "no corner is seen";
+    }
+    const auto half = sample(0.25F, 0.75F);
+    EXPECT_NEAR(half.front().GetY(), 1.0, 1e-12);
+    EXPECT_NEAR(half.back().GetY(), -1.0, 1e-12);
+
+    // Knots of any multiplicity: a curve of order 4 in two pieces that are not alike.
+    const double uneven[] = {0, 0, 0, 0, 2, 3, 3, 3, 3}, ones[] = {1, 1, 1, 1, 1};
+    const double line[] = {0, 0, 2.0 / 3, 0, 5.0 / 3, 0, 8.0 / 3, 0, 3, 0}; // x is the parameter
+    for (const Point& point :
+         drawing::SampleNurbs(*Make<VEKPrtNURBSElt>(4, 5, line, uneven, 0.5F, 0.5F + 2, ones), 1e-5, problem))
+        EXPECT_TRUE(point.GetX() >= 0.5 - 1e-9 && point.GetX() <= 2.5 + 1e-9) << point.GetX();
+
+    const double decreasing[] = {0, 0, 1, 0, 1, 1}, plain[] = {0, 0, 0, 1, 1, 1}, zero[] = {1, 0, 1};
+    using N = VEKPrtNURBSElt;
+    for (const auto& curve : {Make<N>(), Make<N>(4, 3, points, plain, 0.0F, 1.0F, ones),
+                              Make<N>(3, 3, points, decreasing, 0.0F, 1.0F, ones),
+                              Make<N>(3, 3, points, plain, 0.0F, 1.0F, zero),
+                              Make<N>(3, 3, points, plain, 1.0F, 0.0F, ones)}) {
+        problem.clear();
+        EXPECT_TRUE(drawing::SampleNurbs(*curve, 0.1, problem).empty());
+        EXPECT_NE(problem, "");
+    }
+}
+
+// A page and its only child are written with their identifiers, whatever class the child has.
+SUITE_OF(SvgOfEvery, AllElements);
+TYPED_TEST(SvgOfEvery, ElementIsHandledEvenWithNothingSet) {
+    Page page;
+    page.Add<TypeParam>()->SetID("the-id");
+    EXPECT_EQ(CountOf(page.Svg(), "id=\"the-id\""), 1);
+}
