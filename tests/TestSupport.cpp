@@ -1,6 +1,9 @@
 #include "TestSupport.h"
 
 #include <malloc.h>
+#if defined(_WIN32)
+#define malloc_usable_size _msize
+#endif
 
 #include <algorithm>
 #include <cstdlib>
