@@ -62,5 +62,5 @@ install(FILES ${changes} DESTINATION ${documents}/${runtime} COMPONENT Runtime)
 install(FILES ${changes} README.md CHANGELOG.md CONTRIBUTING.md DESTINATION ${documents}/${development}
   COMPONENT Development)
 install(DIRECTORY docs DESTINATION ${documents}/${development} COMPONENT Development
-  FILES_MATCHING PATTERN *.md PATTERN *.png)
+  FILES_MATCHING PATTERN *.md PATTERN *.png PATTERN *.svg)
 include(CPack)
