@@ -96,9 +96,11 @@ LD_LIBRARY_PATH=$libraries "$work/plain" | grep -q '<line .*stroke="#c81e28"' ||
 
 # A host with a framework of its own, installed beside the reference; each client finds its own.
 hosted=$work/hosted
-quietly cmake -G Ninja -S "$source/examples/host" -B "$work/host" -DCMAKE_BUILD_TYPE=Debug
+quietly cmake -G Ninja -S "$source/examples/host" -B "$work/host" -DCMAKE_BUILD_TYPE=Debug \
+    -DCMAKE_EXPORT_COMPILE_COMMANDS=ON
 quietly cmake --build "$work/host"
-if grep warning: "$work/log"; then fail "the host's headers are compiled with warnings"; fi
+grep -q -e "-isystem $work/host/include .*VEKPrtLineElt.cpp" \
+    "$work/host/compile_commands.json" || fail "the library's warnings are on for the host's headers"
 quietly cmake --install "$work/host" --prefix "$hosted"
 if find "$hosted" | grep -E 'vekframework|libVEKFramework|\.so\.1' | grep -v -- -hostfw; then
     fail "the host installs what is the reference's"
@@ -119,7 +121,7 @@ LD_LIBRARY_PATH=$own "$work/hosted-client" || fail "a client of the host does no
 symbol=VEKPrt2DModel_compiled_on_framework
 refused "a host finds the reference" "compiled on the framework VEKFramework; this project's VEK::Framework is hostfw" \
     cmake -S "$work/host-client" -B "$work/mistake-1" -DCMAKE_PREFIX_PATH="$work/stage" -Dhostfw_DIR="$own/cmake/hostfw"
-refused "a client without the host's framework" 'compiled on the framework hostfw' \
+refused "a client without the host's framework" 'compiled on the framework hostfw; this project defines no' \
     cmake -S "$work/find-package" -B "$work/mistake-2" -DCMAKE_PREFIX_PATH="$hosted"
 # shellcheck disable=SC2046
 refused "the reference's headers" "finds the headers of the reference framework" \
