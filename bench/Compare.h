@@ -5,20 +5,20 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cstdlib>
+#include <ctime>
 #include <string>
 #include <vector>
 
-/// Seconds that a call takes.
+/// Seconds of processor time that a call takes: other work on the machine hardly changes them.
 template <class Operation>
 double Seconds(Operation iOperation) {
-    const auto start = std::chrono::steady_clock::now();
+    const std::clock_t start = std::clock();
     iOperation();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
 }
 
-/// How often what is timed by hand is run.
+/// Number of manually timed passes.
 inline void Passes(benchmark::internal::Benchmark* ioBenchmark) {
     ioBenchmark->Iterations(9)->UseManualTime();
 }
@@ -28,20 +28,20 @@ inline double Median(std::vector<double> iValues) {
     return iValues[iValues.size() / 2];
 }
 
-/// After many small blocks were freed, the next large request merges them all: here, so that the side that
-/// freed them pays for it.
+/// After many small blocks are freed, the next large request merges them.  Requests one, so that the side
+/// that freed them is charged.
 inline void MergeFreeBlocks() {
     void* block = std::malloc(100000);
     benchmark::DoNotOptimize(block); // or the compiler drops both calls
     std::free(block);
 }
 
-/// One figure of both sides, pass by pass.
+/// A figure of both sides, pass by pass.
 class Pairs {
 public:
-    void Add(double iLibrary, double iFloor) {
+    void Add(double iLibrary, double iBaseline) {
         _library.push_back(iLibrary);
-        _ratios.push_back(iLibrary / iFloor);
+        _ratios.push_back(iLibrary / iBaseline);
     }
     /// The library's median and that of the ratios, as columns of the table.
     void Report(benchmark::State& ioState, const std::string& iName = "") const {
@@ -54,16 +54,29 @@ private:
     std::vector<double> _ratios;
 };
 
-/// Runs each side once a pass; a side is called with nothing and does \p iCount operations.
-template <class Library, class Floor>
-void Compare(benchmark::State& ioState, double iCount, Library iLibrary, Floor iFloor) {
+/// Times \p iCount calls of each side in every pass; a call gets its number, from 0.  \p iPrepare is called
+/// before each pass and not timed.
+template <class Library, class Baseline, class Prepare>
+void Compare(benchmark::State& ioState, int iCount, Library iLibrary, Baseline iBaseline, Prepare iPrepare) {
+    const auto nanoseconds = [&](auto& ioCall) {
+        return Seconds([&] {
+                   for (int i = 0; i < iCount; ++i)
+                       ioCall(i);
+               }) /
+               iCount * 1e9;
+    };
     Pairs pairs;
     for (auto _ : ioState) {
-        const double library = Seconds(iLibrary), floor = Seconds(iFloor);
-        pairs.Add(library / iCount * 1e9, floor / iCount * 1e9);
-        ioState.SetIterationTime(library);
+        iPrepare();
+        const double library = nanoseconds(iLibrary);
+        pairs.Add(library, nanoseconds(iBaseline));
+        ioState.SetIterationTime(library * iCount / 1e9);
     }
     pairs.Report(ioState);
+}
+template <class Library, class Baseline>
+void Compare(benchmark::State& ioState, int iCount, Library iLibrary, Baseline iBaseline) {
+    Compare(ioState, iCount, iLibrary, iBaseline, [] {});
 }
 
 #endif

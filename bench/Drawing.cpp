@@ -4,50 +4,40 @@
 // stroke of colour and width on each, a translation and a rotation on every tenth.
 #include <malloc.h>
 
-#include <memory>
+#include <cstring>
 #include <random>
 #include <string>
 
 #include "Compare.h"
-#include "Floor.h"
-#include "VEKListPtrVEKPrtGraphicPrimitiveElt.h"
 #include "VEKPrtColourTable.h"
-#include "VEKPrtGroupElt.h"
-#include "VEKPrtImageElt.h"
-#include "VEKPrtLineElt.h"
-#include "VEKPrtPolylineElt.h"
-#include "VEKPrtRectangleElt.h"
-#include "VEKPrtTextElt.h"
+#include "VEKPrtWalk.h"
 
 namespace {
 
 constexpr int groupSize = 100, polylinePoints = 16;
 const char g_text[] = "twelve chars";
 
-// Numbers drawn beforehand: drawing them takes longer than storing them.
+// Pre-generated random numbers: generating them takes longer than storing them.
 const double* Numbers(int iElement) {
     static const std::vector<double> numbers = [] {
         std::mt19937 random(1);
         std::uniform_real_distribution<double> any(0.0, 1000.0);
-        std::vector<double> drawn(4096 + 2 * polylinePoints);
-        for (double& number : drawn)
+        std::vector<double> generated(4096 + 2 * polylinePoints);
+        for (double& number : generated)
             number = any(random);
-        return drawn;
+        return generated;
     }();
     return numbers.data() + iElement * 7 % 4096;
 }
 
-plain::Kind KindAt(int iIndex) {
-    return iIndex < 50   ? plain::line
-           : iIndex < 70 ? plain::rectangle
-           : iIndex < 90 ? plain::polyline
-                         : plain::text;
+enum Kind { line, rectangle, polyline, text, container };
+Kind KindAt(int iIndex) {
+    return iIndex < 50 ? line : iIndex < 70 ? rectangle : iIndex < 90 ? polyline : text;
 }
+unsigned ColourAt(int iIndex) { return static_cast<unsigned>(iIndex) % 16; }
 bool IsTransformed(int iIndex) { return iIndex % 10 == 0; }
 
-// The model's side.  A careful client makes records and strings once, and asks each class once for its
-// meta-object; a plain one does so for every element.
-template <bool isCareful>
+// A client of the library.
 class Model {
 public:
     void Build(int iElements) {
@@ -65,324 +55,208 @@ public:
             group->Release();
         }
     }
-
     double Walk() const {
-        const Classes classes; // of the careful client
-        double sum = 0.0;
-        VEKListPtrVEKPrtGraphicPrimitiveElt* groups = nullptr;
-        _page->GetChildren(groups);
-        for (int g = 1; g <= groups->Size(); ++g) {
-            VEKListPtrVEKPrtGraphicPrimitiveElt* children = nullptr;
-            static_cast<VEKPrtGroupElt*>((*groups)[g])->GetChildren(children);
-            for (int i = 1; i <= children->Size(); ++i)
-                sum += Visit(*static_cast<VEKPrtGraphicPrimitiveElt*>((*children)[i]), classes);
-        }
-        return sum;
+        Reader reader;
+        for (VEKPrtGraphicPrimitiveElt& group : vekprt::ChildrenOf(*_page))
+            for (VEKPrtGraphicPrimitiveElt& element : vekprt::ChildrenOf(static_cast<VEKPrtGroupElt&>(group)))
+                vekprt::Visit(element, reader);
+        return reader.sum;
     }
-
     void Duplicate() { _page->Duplicate(_copy); }
-
     void Release() {
         _copy->Release();
         _page->Release();
-        MergeFreeBlocks();
     }
 
 private:
-    struct Classes {
-        VEKMetaClass* line = VEKPrtLineElt::MetaObject();
-        VEKMetaClass* rectangle = VEKPrtRectangleElt::MetaObject();
-        VEKMetaClass* polyline = VEKPrtPolylineElt::MetaObject();
-        VEKMetaClass* text = VEKPrtTextElt::MetaObject();
-    };
-    struct Records {
-        VEKPrtStrokeAttributes stroke;
-        VEKPrtTransformAttributes transform;
-        VEKUnicodeString text = g_text;
-        Records() {
-            transform.AddTranslation(VEKMathVector2D(1.0, 2.0));
-            transform.AddRotation(30.0F);
+    // Reads all geometry and the stroke's width.
+    struct Reader {
+        double sum = 0.0;
+
+        template <class Element>
+        void AddWidth(const Element& iElement) {
+            VEKPrtStrokeAttributes stroke;
+            double width = 0.0;
+            iElement.GetStrokeAttributes(stroke);
+            stroke.GetStrokeWidth(width);
+            sum += width;
         }
+        void Add(const VEKMathPoint2D& iPoint) { sum += iPoint.GetX() + iPoint.GetY(); }
+        void operator()(VEKPrtLineElt& iLine) {
+            VEKMathPoint2D a, b;
+            iLine.GetParameters(a, b);
+            Add(a);
+            Add(b);
+            AddWidth(iLine);
+        }
+        void operator()(VEKPrtRectangleElt& iRectangle) {
+            VEKMathPoint2D a, b;
+            iRectangle.GetPoints(a, b);
+            Add(a);
+            Add(b);
+            AddWidth(iRectangle);
+        }
+        void operator()(VEKPrtPolylineElt& iPolyline) {
+            double* points = nullptr;
+            int count = 0;
+            iPolyline.GetPoints(points, count);
+            for (int i = 0; i < 2 * count; ++i)
+                sum += points[i];
+            AddWidth(iPolyline);
+        }
+        void operator()(VEKPrtTextElt& iText) {
+            VEKMathPoint2D position;
+            iText.GetPosition(position);
+            Add(position);
+            AddWidth(iText);
+        }
+        void operator()(VEKPrtGraphicPrimitiveElt&) {}
     };
 
     template <class Element>
-    void Add(VEKPrtGroupElt& ioGroup, int iIndex, Element* iElement, const double* iNumbers) {
-        const unsigned colour = static_cast<unsigned>(iIndex) % 16;
-        if (isCareful) {
-            _records->stroke.SetStrokeColourIndex(colour);
-            _records->stroke.SetStrokeWidth(iNumbers[0]);
-            iElement->SetStrokeAttributes(_records->stroke);
-            if (IsTransformed(iIndex)) iElement->SetTransformAttributes(_records->transform);
-        } else {
-            VEKPrtStrokeAttributes stroke;
-            stroke.SetStrokeColourIndex(colour);
-            stroke.SetStrokeWidth(iNumbers[0]);
-            iElement->SetStrokeAttributes(stroke);
-            if (IsTransformed(iIndex)) {
-                VEKPrtTransformAttributes transform;
-                transform.AddTranslation(VEKMathVector2D(1.0, 2.0));
-                transform.AddRotation(30.0F);
-                iElement->SetTransformAttributes(transform);
-            }
+    static void Add(VEKPrtGroupElt& ioGroup, int iIndex, Element* iElement, const double* iNumbers) {
+        VEKPrtStrokeAttributes stroke;
+        stroke.SetStrokeColourIndex(ColourAt(iIndex));
+        stroke.SetStrokeWidth(iNumbers[0]);
+        iElement->SetStrokeAttributes(stroke);
+        if (IsTransformed(iIndex)) {
+            VEKPrtTransformAttributes transform;
+            transform.AddTranslation(VEKMathVector2D(1.0, 2.0));
+            transform.AddRotation(30.0F);
+            iElement->SetTransformAttributes(transform);
         }
         ioGroup.AddChild(iElement);
         iElement->Release();
     }
-
-    void AddElement(VEKPrtGroupElt& ioGroup, int iIndex, const double* iNumbers) {
+    static void AddElement(VEKPrtGroupElt& ioGroup, int iIndex, const double* iNumbers) {
         const VEKMathPoint2D a(iNumbers[0], iNumbers[1]), b(iNumbers[2], iNumbers[3]);
-        switch (KindAt(iIndex)) {
-        case plain::line: return Add(ioGroup, iIndex, new VEKPrtLineElt(a, b), iNumbers);
-        case plain::rectangle: return Add(ioGroup, iIndex, new VEKPrtRectangleElt(a, b), iNumbers);
-        case plain::polyline:
-            return Add(ioGroup, iIndex, new VEKPrtPolylineElt(iNumbers, polylinePoints), iNumbers);
-        case plain::text:
-            if (isCareful) return Add(ioGroup, iIndex, new VEKPrtTextElt(a, _records->text), iNumbers);
-            return Add(ioGroup, iIndex, new VEKPrtTextElt(a, VEKUnicodeString(g_text)), iNumbers);
-        }
+        const Kind kind = KindAt(iIndex);
+        if (kind == line) Add(ioGroup, iIndex, new VEKPrtLineElt(a, b), iNumbers);
+        if (kind == rectangle) Add(ioGroup, iIndex, new VEKPrtRectangleElt(a, b), iNumbers);
+        if (kind == polyline) Add(ioGroup, iIndex, new VEKPrtPolylineElt(iNumbers, polylinePoints), iNumbers);
+        if (kind == text) Add(ioGroup, iIndex, new VEKPrtTextElt(a, VEKUnicodeString(g_text)), iNumbers);
     }
 
-    template <class Element>
-    static double WidthOf(const Element& iElement) {
-        VEKPrtStrokeAttributes stroke;
-        double width = 0.0;
-        iElement.GetStrokeAttributes(stroke);
-        stroke.GetStrokeWidth(width);
-        return width;
-    }
-
-    static double Visit(VEKPrtGraphicPrimitiveElt& iElement, const Classes& iClasses) {
-        const VEKMetaClass* const meta = iElement.GetMetaObject();
-        VEKMathPoint2D a, b;
-        if (meta == (isCareful ? iClasses.line : VEKPrtLineElt::MetaObject())) {
-            const auto& line = static_cast<VEKPrtLineElt&>(iElement);
-            line.GetParameters(a, b);
-            return a.GetX() + a.GetY() + b.GetX() + b.GetY() + WidthOf(line);
-        }
-        if (meta == (isCareful ? iClasses.rectangle : VEKPrtRectangleElt::MetaObject())) {
-            const auto& rectangle = static_cast<VEKPrtRectangleElt&>(iElement);
-            rectangle.GetPoints(a, b);
-            return a.GetX() + a.GetY() + b.GetX() + b.GetY() + WidthOf(rectangle);
-        }
-        if (meta == (isCareful ? iClasses.polyline : VEKPrtPolylineElt::MetaObject())) {
-            const auto& polyline = static_cast<VEKPrtPolylineElt&>(iElement);
-            double* points = nullptr;
-            int count = 0;
-            polyline.GetPoints(points, count);
-            double sum = WidthOf(polyline);
-            for (int i = 0; i < 2 * count; ++i)
-                sum += points[i];
-            return sum;
-        }
-        if (meta == (isCareful ? iClasses.text : VEKPrtTextElt::MetaObject())) {
-            const auto& text = static_cast<VEKPrtTextElt&>(iElement);
-            text.GetPosition(a);
-            return a.GetX() + a.GetY() + WidthOf(text);
-        }
-        return 0.0;
-    }
-
-    // Made before the clock runs.
-    std::unique_ptr<Records> _records = std::make_unique<Records>();
     VEKPrtImageElt* _page = nullptr;
     VEKPrtGraphicPrimitiveElt* _copy = nullptr;
 };
 
-// The floor's side.
-class Floor {
+// The baseline: a plain struct for each element, in a block as long as the library's object, and one malloc
+// for it and for each array.
+struct Plain {
+    Kind kind;
+    unsigned colour;
+    double width, points[4];
+    struct {
+        void* values;
+        std::size_t bytes;
+    } arrays[4]; // of a container, the first one holds the members
+};
+std::size_t BytesOf(Kind iKind) {
+    static const std::size_t bytes[] = {sizeof(VEKPrtLineElt), sizeof(VEKPrtRectangleElt),
+                                        sizeof(VEKPrtPolylineElt), sizeof(VEKPrtTextElt),
+                                        sizeof(VEKPrtGroupElt)};
+    return bytes[iKind];
+}
+
+class Baseline {
 public:
     void Build(int iElements) {
-        _page = New<plain::Page>({});
-        for (unsigned char*& component : _page->colours)
-            component = static_cast<unsigned char*>(std::malloc(256));
+        _page = New(container);
+        for (const int component : {1, 2, 3})
+            SetArray(*_page, component, std::string(256, '\0').data(), 256);
         for (int element = 0; element < iElements; element += groupSize) {
-            auto* const group = New<plain::Group>({});
+            Plain* const group = New(container);
             for (int i = 0; i < groupSize; ++i)
-                plain::Append(*group, group->children, NewElement(i, Numbers(element + i)));
-            plain::Append(*_page, _page->groups, group);
+                Append(*group, NewElement(i, Numbers(element + i)));
+            Append(*_page, group);
         }
     }
-
     double Walk() const {
         double sum = 0.0;
-        for (int g = 0; g < _page->count; ++g)
-            for (int i = 0; i < _page->groups[g]->count; ++i)
-                sum += Visit(*_page->groups[g]->children[i]);
+        for (int g = 0; g < Count(*_page); ++g)
+            for (int i = 0; i < Count(*Member(*_page, g)); ++i)
+                sum += Read(*Member(*Member(*_page, g), i));
         return sum;
     }
-
-    void Duplicate() {
-        _copy = plain::NewCopy(_page);
-        for (unsigned char*& component : _copy->colours)
-            component = plain::NewCopy(component, 256);
-        _copy->groups = nullptr;
-        _copy->count = _copy->capacity = 0;
-        for (int g = 0; g < _page->count; ++g) {
-            auto* const group = plain::NewCopy(_page->groups[g]);
-            group->children = nullptr;
-            group->count = group->capacity = 0;
-            for (int i = 0; i < _page->groups[g]->count; ++i)
-                plain::Append(*group, group->children, Copied(*_page->groups[g]->children[i]));
-            plain::Append(*_copy, _copy->groups, group);
-        }
-    }
-
+    void Duplicate() { _copy = Copy(*_page); }
     void Release() {
         Free(_copy);
         Free(_page);
-        MergeFreeBlocks();
     }
 
 private:
-    template <class Struct>
-    static Struct* New(const Struct& iValue) {
-        return plain::NewCopy(&iValue);
+    static Plain* New(Kind iKind) {
+        auto* const element = static_cast<Plain*>(std::calloc(1, BytesOf(iKind)));
+        element->kind = iKind;
+        return element;
     }
-
-    static void Stroke(plain::Stroke& oStroke, int iIndex, const double* iNumbers) {
-        oStroke = {};
-        oStroke.colour = static_cast<unsigned>(iIndex) % 16;
-        oStroke.transparency = 255;
-        oStroke.width = iNumbers[0];
-        oStroke.style = 8;
-        oStroke.cap = 10;
-        oStroke.join = 13;
+    static void SetArray(Plain& ioElement, int iArray, const void* iValues, std::size_t iBytes) {
+        ioElement.arrays[iArray] = {std::malloc(iBytes), iBytes};
+        std::memcpy(ioElement.arrays[iArray].values, iValues, iBytes);
     }
-    static void Transform(plain::Transform& oTransform, int iIndex) {
-        oTransform = {};
-        if (!IsTransformed(iIndex)) return;
+    static int Count(const Plain& iContainer) {
+        return static_cast<int>(iContainer.arrays[0].bytes / sizeof(Plain*));
+    }
+    static Plain*& Member(const Plain& iContainer, int iMember) {
+        return static_cast<Plain**>(iContainer.arrays[0].values)[iMember];
+    }
+    // Doubles the room when the count is a power of two.
+    static void Append(Plain& ioContainer, Plain* iMember) {
+        const int count = Count(ioContainer);
+        auto& members = ioContainer.arrays[0];
+        if ((count & (count - 1)) == 0)
+            members.values =
+                std::realloc(members.values, std::max<std::size_t>(2 * members.bytes, sizeof(Plain*)));
+        members.bytes += sizeof(Plain*);
+        Member(ioContainer, count) = iMember;
+    }
+    static Plain* NewElement(int iIndex, const double* iNumbers) {
+        Plain* const element = New(KindAt(iIndex));
+        element->colour = ColourAt(iIndex);
+        element->width = iNumbers[0];
+        std::copy_n(iNumbers, 4, element->points);
+        if (element->kind == polyline) SetArray(*element, 0, iNumbers, 2 * polylinePoints * sizeof(double));
+        if (element->kind == text) SetArray(*element, 0, g_text, sizeof g_text);
+        if (!IsTransformed(iIndex)) return element;
         const int kinds[] = {1, 2};
         const double translation[] = {1.0, 2.0};
         const float rotation = 30.0F;
-        oTransform.kinds = {plain::NewCopy(kinds, sizeof kinds), 2};
-        oTransform.translations = {plain::NewCopy(translation, sizeof translation), 1};
-        oTransform.rotations = {plain::NewCopy(&rotation), 1};
-    }
-    template <class Struct>
-    static Struct* NewDrawn(plain::Kind iKind, int iIndex, const double* iNumbers) {
-        auto* const element = static_cast<Struct*>(std::malloc(sizeof(Struct)));
-        static_cast<plain::Base&>(*element) = {iKind, 1, {}, {}};
-        Stroke(element->stroke, iIndex, iNumbers);
-        Transform(element->transform, iIndex);
+        SetArray(*element, 1, kinds, sizeof kinds);
+        SetArray(*element, 2, translation, sizeof translation);
+        SetArray(*element, 3, &rotation, sizeof rotation);
         return element;
     }
-    static plain::Base* NewElement(int iIndex, const double* iNumbers) {
-        const plain::Kind kind = KindAt(iIndex);
-        if (kind == plain::line) {
-            auto* const element = NewDrawn<plain::Line>(kind, iIndex, iNumbers);
-            std::copy_n(iNumbers, 4, element->points);
-            return element;
-        }
-        if (kind == plain::rectangle) {
-            auto* const element = NewDrawn<plain::Rectangle>(kind, iIndex, iNumbers);
-            std::copy_n(iNumbers, 4, element->points);
-            element->drawStyle = 1;
-            element->fill = {};
-            return element;
-        }
-        if (kind == plain::polyline) {
-            auto* const element = NewDrawn<plain::Polyline>(kind, iIndex, iNumbers);
-            element->points = plain::NewCopy(const_cast<double*>(iNumbers), pointBytes);
-            element->count = polylinePoints;
-            return element;
-        }
-        auto* const element = NewDrawn<plain::Text>(kind, iIndex, iNumbers);
-        std::copy_n(iNumbers, 2, element->position);
-        element->text = plain::NewCopy(const_cast<char*>(g_text), sizeof g_text);
-        element->drawStyle = 1;
-        element->fill = {};
-        element->record = {nullptr, nullptr, 25, 10.0, 29, 0.0F, 0.0F, 0.0, 1.0, 0};
-        return element;
+    static double Read(const Plain& iElement) {
+        const double* const p = iElement.points;
+        double sum = iElement.width;
+        if (iElement.kind == text) return sum + p[0] + p[1];
+        if (iElement.kind != polyline) return sum + p[0] + p[1] + p[2] + p[3];
+        const auto* const points = static_cast<const double*>(iElement.arrays[0].values);
+        for (int i = 0; i < 2 * polylinePoints; ++i)
+            sum += points[i];
+        return sum;
     }
-
-    static double Visit(const plain::Base& iElement) {
-        if (iElement.kind == plain::line) {
-            const auto& line = static_cast<const plain::Line&>(iElement);
-            return line.points[0] + line.points[1] + line.points[2] + line.points[3] + line.stroke.width;
-        }
-        if (iElement.kind == plain::rectangle) {
-            const auto& rectangle = static_cast<const plain::Rectangle&>(iElement);
-            return rectangle.points[0] + rectangle.points[1] + rectangle.points[2] + rectangle.points[3] +
-                   rectangle.stroke.width;
-        }
-        if (iElement.kind == plain::polyline) {
-            const auto& polyline = static_cast<const plain::Polyline&>(iElement);
-            double sum = polyline.stroke.width;
-            for (int i = 0; i < 2 * polyline.count; ++i)
-                sum += polyline.points[i];
-            return sum;
-        }
-        const auto& text = static_cast<const plain::Text&>(iElement);
-        return text.position[0] + text.position[1] + text.stroke.width;
+    static Plain* Copy(const Plain& iElement) {
+        auto* const copy = static_cast<Plain*>(std::malloc(BytesOf(iElement.kind)));
+        std::memcpy(static_cast<void*>(copy), &iElement, BytesOf(iElement.kind));
+        for (int array = 0; array < 4; ++array)
+            if (copy->arrays[array].values)
+                SetArray(*copy, array, copy->arrays[array].values, copy->arrays[array].bytes);
+        for (int i = 0; copy->kind == container && i < Count(*copy); ++i)
+            Member(*copy, i) = Copy(*Member(*copy, i));
+        return copy;
     }
-
-    static constexpr std::size_t pointBytes = 2 * polylinePoints * sizeof(double);
-
-    static void CopyTransform(plain::Transform& ioTransform) {
-        const auto copy = [](plain::Array& ioArray, std::size_t iSize) {
-            if (ioArray.values)
-                ioArray.values = plain::NewCopy(static_cast<char*>(ioArray.values), ioArray.count * iSize);
-        };
-        copy(ioTransform.kinds, sizeof(int));
-        copy(ioTransform.translations, 2 * sizeof(double));
-        copy(ioTransform.rotations, sizeof(float));
-    }
-    template <class Struct>
-    static Struct* CopiedAs(const plain::Base& iElement) {
-        auto* const copy = plain::NewCopy(&static_cast<const Struct&>(iElement));
-        auto* const own = const_cast<Struct*>(copy);
-        CopyTransform(own->transform);
-        return own;
-    }
-    static plain::Base* Copied(const plain::Base& iElement) {
-        if (iElement.kind == plain::line) return CopiedAs<plain::Line>(iElement);
-        if (iElement.kind == plain::rectangle) return CopiedAs<plain::Rectangle>(iElement);
-        if (iElement.kind == plain::polyline) {
-            auto* const polyline = CopiedAs<plain::Polyline>(iElement);
-            polyline->points = plain::NewCopy(polyline->points, pointBytes);
-            return polyline;
-        }
-        auto* const text = CopiedAs<plain::Text>(iElement);
-        text->text = plain::NewCopy(text->text, sizeof g_text);
-        return text;
-    }
-
-    template <class Struct>
-    static void FreeAs(plain::Base* iElement) {
-        const plain::Transform& transform = static_cast<Struct*>(iElement)->transform;
-        for (void* const values :
-             {transform.kinds.values, transform.rotations.values, transform.translations.values})
-            std::free(values);
+    static void Free(Plain* iElement) {
+        for (int i = 0; iElement->kind == container && i < Count(*iElement); ++i)
+            Free(Member(*iElement, i));
+        for (const auto& array : iElement->arrays)
+            std::free(array.values);
         std::free(iElement);
     }
-    static void Free(plain::Base* iElement) {
-        switch (iElement->kind) {
-        case plain::line: return FreeAs<plain::Line>(iElement);
-        case plain::rectangle: return FreeAs<plain::Rectangle>(iElement);
-        case plain::polyline:
-            std::free(static_cast<plain::Polyline*>(iElement)->points);
-            return FreeAs<plain::Polyline>(iElement);
-        case plain::text:
-            std::free(static_cast<plain::Text*>(iElement)->text);
-            return FreeAs<plain::Text>(iElement);
-        }
-    }
-    static void Free(plain::Page* iPage) {
-        for (int g = 0; g < iPage->count; ++g) {
-            plain::Group* const group = iPage->groups[g];
-            for (int i = 0; i < group->count; ++i)
-                Free(group->children[i]);
-            std::free(group->children);
-            std::free(group);
-        }
-        for (unsigned char* const component : iPage->colours)
-            std::free(component);
-        std::free(iPage->groups);
-        std::free(iPage);
-    }
 
-    plain::Page* _page = nullptr;
-    plain::Page* _copy = nullptr;
+    Plain* _page = nullptr;
+    Plain* _copy = nullptr;
 };
 
 double HeapBytes() {
@@ -390,9 +264,12 @@ double HeapBytes() {
     return static_cast<double>(info.uordblks + info.hblkhd);
 }
 
-// Nanoseconds and bytes for an element.
+// Nanoseconds for an element by phase, and its bytes.
+constexpr int phases = 5;
+const char* const g_phases[phases] = {"build ", "walk ", "duplicate ", "release ", "memory "};
 struct Figures {
-    double build = 0, walk = 0, duplicate = 0, release = 0, bytes = 0, sum = 0;
+    double values[phases] = {};
+    double sum = 0.0;
 };
 
 // Small pages again and again, so that the clock has something to measure.
@@ -400,48 +277,40 @@ template <class Side>
 Figures Run(int iElements) {
     const int rounds = std::max(1, 100000 / iElements);
     Figures figures;
+    const auto time = [&](int iPhase, auto iOperation) {
+        figures.values[iPhase] += Seconds(iOperation) * 1e9 / iElements / rounds;
+    };
     for (int round = 0; round < rounds; ++round) {
         Side side;
         const double before = HeapBytes();
-        figures.build += Seconds([&] { side.Build(iElements); });
-        figures.bytes = (HeapBytes() - before) / iElements;
-        figures.walk += Seconds([&] { figures.sum = side.Walk(); });
-        figures.duplicate += Seconds([&] { side.Duplicate(); });
-        figures.release += Seconds([&] { side.Release(); });
+        time(0, [&] { side.Build(iElements); });
+        figures.values[4] = (HeapBytes() - before) / iElements;
+        time(1, [&] { figures.sum = side.Walk(); });
+        time(2, [&] { side.Duplicate(); });
+        time(3, [&] {
+            side.Release();
+            MergeFreeBlocks();
+        });
     }
-    for (double* const phase : {&figures.build, &figures.walk, &figures.duplicate, &figures.release})
-        *phase *= 1e9 / iElements / rounds;
     return figures;
 }
 
-template <class Client>
 void Drawing(benchmark::State& ioState) {
     const int elements = static_cast<int>(ioState.range(0));
-    Pairs build, walk, duplicate, release, memory;
+    Pairs pairs[phases];
     // Takes the memory that every pass uses again.
-    Run<Client>(elements);
+    Run<Model>(elements);
     for (auto _ : ioState) {
-        const Figures library = Run<Client>(elements), floor = Run<Floor>(elements);
-        if (library.sum != floor.sum) ioState.SkipWithError("the two sides read different drawings");
-        build.Add(library.build, floor.build);
-        walk.Add(library.walk, floor.walk);
-        duplicate.Add(library.duplicate, floor.duplicate);
-        release.Add(library.release, floor.release);
-        memory.Add(library.bytes, floor.bytes);
-        ioState.SetIterationTime(library.build + library.walk + library.duplicate + library.release);
+        const Figures library = Run<Model>(elements), plain = Run<Baseline>(elements);
+        if (std::abs(library.sum / plain.sum - 1.0) > 1e-9)
+            ioState.SkipWithError("the two sides read different drawings");
+        for (int phase = 0; phase < phases; ++phase)
+            pairs[phase].Add(library.values[phase], plain.values[phase]);
+        ioState.SetIterationTime(1e-9);
     }
-    build.Report(ioState, "build ");
-    walk.Report(ioState, "walk ");
-    duplicate.Report(ioState, "duplicate ");
-    release.Report(ioState, "release ");
-    memory.Report(ioState, "memory ");
+    for (int phase = 0; phase < phases; ++phase)
+        pairs[phase].Report(ioState, g_phases[phase]);
 }
-
-void Sizes(benchmark::internal::Benchmark* ioBenchmark) {
-    for (const int size : {2000, 20000, 200000, 2000000})
-        ioBenchmark->Arg(size)->Iterations(7)->UseManualTime();
-}
-BENCHMARK_TEMPLATE(Drawing, Model<false>)->Apply(Sizes)->Name("Plain client");
-BENCHMARK_TEMPLATE(Drawing, Model<true>)->Apply(Sizes)->Name("Careful client");
+BENCHMARK(Drawing)->Apply(Passes)->Arg(2000)->Arg(20000)->Arg(200000)->Arg(2000000);
 
 } // namespace

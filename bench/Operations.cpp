@@ -3,13 +3,8 @@
 #include <memory>
 
 #include "Compare.h"
-#include "VEKListPtrVEKPrtGraphicPrimitiveElt.h"
 #include "VEKPrtColourTable.h"
-#include "VEKPrtGroupElt.h"
-#include "VEKPrtLineElt.h"
-#include "VEKPrtNURBSElt.h"
-#include "VEKPrtPolylineElt.h"
-#include "VEKRef.h"
+#include "VEKPrtWalk.h"
 
 using vekprt::Make;
 using vekprt::VEKRef;
@@ -22,105 +17,67 @@ T* Copied(const T* iValues, std::size_t iCount) {
     std::memcpy(copy, iValues, iCount * sizeof(T));
     return copy;
 }
+// An array that grows by copying, as often as the library's.
 template <class T>
-void Replace(T*& ioHeld, T* iOther) {
-    delete[] ioHeld;
-    ioHeld = iOther;
-}
-/// Grows an array by copying it, as often as the library does.
-template <class T>
-void Grow(T*& ioHeld, std::size_t iCount, std::size_t iCapacity) {
-    T* const larger = new T[iCapacity];
-    if (iCount > 0) std::memcpy(larger, ioHeld, iCount * sizeof(T));
-    Replace(ioHeld, larger);
+void Grow(std::unique_ptr<T[]>& ioHeld, std::size_t iCount, std::size_t iCapacity) {
+    std::unique_ptr<T[]> larger(new T[iCapacity]);
+    if (iCount > 0) std::memcpy(larger.get(), ioHeld.get(), iCount * sizeof(T));
+    ioHeld = std::move(larger);
 }
 
 void SetPoints(benchmark::State& ioState) {
     const int points = static_cast<int>(ioState.range(0)), rounds = 2000000 / points + 1;
     const std::vector<double> values(2 * static_cast<std::size_t>(points), 1.5);
     const auto polyline = Make<VEKPrtPolylineElt>();
-    double* plain = nullptr;
+    std::unique_ptr<double[]> plain;
     Compare(
-        ioState, rounds,
-        [&] {
-            for (int i = 0; i < rounds; ++i)
-                polyline->SetPoints(values.data(), points);
-        },
-        [&] {
-            for (int i = 0; i < rounds; ++i) {
-                Replace(plain, static_cast<double*>(nullptr));
-                plain = Copied(values.data(), values.size());
-                benchmark::DoNotOptimize(plain);
-            }
+        ioState, rounds, [&](int) { polyline->SetPoints(values.data(), points); },
+        [&](int) {
+            plain.reset();
+            plain.reset(Copied(values.data(), values.size()));
+            benchmark::DoNotOptimize(plain.get());
         });
-    delete[] plain;
 }
 BENCHMARK(SetPoints)->Apply(Passes)->Arg(16)->Arg(1000000);
 
 void AddColour(benchmark::State& ioState) {
-    const auto colours = static_cast<std::size_t>(ioState.range(0));
+    const int colours = static_cast<int>(ioState.range(0));
+    std::unique_ptr<VEKPrtColourTable> table;
+    std::unique_ptr<unsigned char[]> parts[3];
     Compare(
-        ioState, static_cast<double>(colours),
-        [&] {
-            VEKPrtColourTable table;
+        ioState, colours,
+        [&](int i) {
             unsigned index = 0;
-            for (std::size_t i = 0; i < colours; ++i)
-                table.AddColour(1, 2, 3, index);
+            if (i == 0) table = std::make_unique<VEKPrtColourTable>();
+            table->AddColour(1, 2, 3, index);
         },
-        [&] {
-            unsigned char* parts[3] = {};
-            for (std::size_t i = 0; i < colours; ++i) {
-                for (unsigned char*& part : parts) {
-                    if (i % 256 == 0) Grow(part, i, i + 256);
-                    part[i] = 1;
-                }
-                benchmark::DoNotOptimize(parts);
+        [&](int i) {
+            const auto count = static_cast<std::size_t>(i);
+            for (auto& part : parts) {
+                if (i % 256 == 0) Grow(part, count, count + 256);
+                part[count] = 1;
             }
-            for (unsigned char* const part : parts)
-                delete[] part;
+            benchmark::DoNotOptimize(parts);
         });
 }
 BENCHMARK(AddColour)->Apply(Passes)->Arg(100000)->Arg(1000000);
 
-void CopyColourTable(benchmark::State& ioState) {
-    constexpr int colours = 1000000;
-    VEKPrtColourTable table;
-    unsigned index = 0;
-    for (int i = 0; i < colours; ++i)
-        table.AddColour(1, 2, 3, index);
-    const std::vector<unsigned char> plain(colours);
-    Compare(
-        ioState, 1, [&] { const VEKPrtColourTable copy(table); },
-        [&] {
-            for (int i = 0; i < 3; ++i) {
-                const std::unique_ptr<unsigned char[]> copy(Copied(plain.data(), plain.size()));
-                benchmark::DoNotOptimize(copy.get());
-            }
-        });
-}
-BENCHMARK(CopyColourTable)->Apply(Passes);
-
 void AddTransforms(benchmark::State& ioState) {
-    constexpr std::size_t additions = 1000;
+    std::unique_ptr<VEKPrtTransformAttributes> transform;
+    std::unique_ptr<double[]> values;
+    std::unique_ptr<int[]> kinds;
     Compare(
-        ioState, additions,
-        [&] {
-            VEKPrtTransformAttributes transform;
-            for (std::size_t i = 0; i < additions; ++i)
-                transform.AddScaleX(1.5);
+        ioState, 1000,
+        [&](int i) {
+            if (i == 0) transform = std::make_unique<VEKPrtTransformAttributes>();
+            transform->AddScaleX(1.5);
         },
-        [&] {
-            double* values = nullptr;
-            int* kinds = nullptr;
-            for (std::size_t i = 0; i < additions; ++i) {
-                Grow(values, i, i + 1);
-                values[i] = 1.5;
-                Grow(kinds, i, i + 1);
-                kinds[i] = 3;
-            }
-            benchmark::DoNotOptimize(values);
-            delete[] values;
-            delete[] kinds;
+        [&](int i) {
+            const auto count = static_cast<std::size_t>(i);
+            Grow(values, count, count + 1);
+            Grow(kinds, count, count + 1);
+            values[count] = kinds[count] = 3;
+            benchmark::DoNotOptimize(values.get());
         });
 }
 BENCHMARK(AddTransforms)->Apply(Passes);
@@ -131,25 +88,24 @@ struct PlainChild {
 };
 
 void AddChild(benchmark::State& ioState) {
-    constexpr int children = 1000000;
     const auto line = Make<VEKPrtLineElt>();
+    VEKRef<VEKPrtGroupElt> group;
     PlainChild plain;
+    std::vector<PlainChild*> list;
     Compare(
-        ioState, children,
-        [&] {
-            const auto group = Make<VEKPrtGroupElt>();
-            for (int i = 0; i < children; ++i)
-                group->AddChild(line.Get());
+        ioState, 1000000,
+        [&](int i) {
+            if (i == 0) group = Make<VEKPrtGroupElt>();
+            group->AddChild(line.Get());
         },
-        [&] {
-            std::vector<PlainChild*> list;
-            for (int i = 0; i < children; ++i) {
-                ++plain.references;
-                list.push_back(&plain);
+        [&](int i) {
+            if (i == 0) {
+                for (PlainChild* const child : list)
+                    --child->references;
+                list = {};
             }
-            for (PlainChild* const child : list)
-                --child->references;
-            benchmark::DoNotOptimize(plain);
+            ++plain.references;
+            list.push_back(&plain);
         });
 }
 BENCHMARK(AddChild)->Apply(Passes);
@@ -158,100 +114,74 @@ BENCHMARK(AddChild)->Apply(Passes);
 void RemoveChild(benchmark::State& ioState) {
     constexpr int children = 100000, removals = 1000;
     const bool isBack = ioState.range(0) == 1;
-    std::vector<VEKRef<VEKPrtLineElt>> lines;
+    std::vector<VEKRef<VEKPrtLineElt>> lines(children);
     std::vector<PlainChild> plain(children);
-    for (int i = 0; i < children; ++i)
-        lines.push_back(Make<VEKPrtLineElt>());
+    for (auto& line : lines)
+        line = Make<VEKPrtLineElt>();
     VEKRef<VEKPrtGroupElt> group;
     std::vector<PlainChild*> list;
-    Pairs pairs;
-    for (auto _ : ioState) {
-        group = Make<VEKPrtGroupElt>();
-        list.clear();
-        for (int i = 0; i < children; ++i) {
-            group->AddChild(lines[static_cast<std::size_t>(i)].Get());
-            list.push_back(&plain[static_cast<std::size_t>(i)]);
-        }
-        const auto at = [&](int i) { return static_cast<std::size_t>(isBack ? children - 1 - i : i); };
-        const double library = Seconds([&] {
-            for (int i = 0; i < removals; ++i)
-                group->RemoveChild(lines[at(i)].Get());
+    const auto at = [&](int i) { return static_cast<std::size_t>(isBack ? children - 1 - i : i); };
+    Compare(
+        ioState, removals, [&](int i) { group->RemoveChild(lines[at(i)].Get()); },
+        [&](int i) { list.erase(std::find(list.begin(), list.end(), &plain[at(i)])); },
+        [&] {
+            group = Make<VEKPrtGroupElt>();
+            list.clear();
+            for (std::size_t i = 0; i < children; ++i) {
+                group->AddChild(lines[i].Get());
+                list.push_back(&plain[i]);
+            }
         });
-        const double floor = Seconds([&] {
-            for (int i = 0; i < removals; ++i)
-                list.erase(std::find(list.begin(), list.end(), &plain[at(i)]));
-            benchmark::DoNotOptimize(list.data());
-        });
-        pairs.Add(library / removals * 1e9, floor / removals * 1e9);
-        ioState.SetIterationTime(library);
-    }
-    pairs.Report(ioState);
 }
 BENCHMARK(RemoveChild)->Apply(Passes)->Arg(0)->Arg(1);
 
-void IsAKindOf(benchmark::State& ioState) {
-    constexpr int calls = 1000000;
-    const VEKRef<VEKPrtGraphicPrimitiveElt> line = Make<VEKPrtLineElt>();
-    // The class, its base and the root, as the framework compares them.
-    const std::vector<std::string> names = {"VEKPrtLineElt", "VEKPrtGraphicPrimitiveElt", "VEKBaseUnknown"};
-    const char* const asked = "VEKPrtGraphicPrimitiveElt";
+// Visit beside comparisons of GetMetaObject() written by hand, in the same order.
+void VisitElement(benchmark::State& ioState) {
+    const VEKRef<VEKPrtGraphicPrimitiveElt> elements[] = {Make<VEKPrtLineElt>(), Make<VEKPrtPolylineElt>(),
+                                                          Make<VEKPrtTextElt>(), Make<VEKPrtGroupElt>()};
+    struct Counter {
+        int lines = 0, polylines = 0, texts = 0, others = 0;
+        void operator()(VEKPrtLineElt&) { ++lines; }
+        void operator()(VEKPrtPolylineElt&) { ++polylines; }
+        void operator()(VEKPrtTextElt&) { ++texts; }
+        void operator()(VEKPrtGraphicPrimitiveElt&) { ++others; }
+    } visited, compared;
     Compare(
-        ioState, calls,
-        [&] {
-            for (int i = 0; i < calls; ++i)
-                benchmark::DoNotOptimize(line->IsAKindOf(asked));
-        },
-        [&] {
-            for (int i = 0; i < calls; ++i)
-                for (const std::string& name : names)
-                    if (std::strcmp(name.c_str(), asked) == 0) {
-                        benchmark::DoNotOptimize(&name);
-                        break;
-                    }
+        ioState, 1000000, [&](int i) { vekprt::Visit(*elements[i % 4], visited); },
+        [&](int i) {
+            const VEKMetaClass* const meta = elements[i % 4]->GetMetaObject();
+            if (meta == VEKPrtLineElt::MetaObject())
+                ++compared.lines;
+            else if (meta == VEKPrtPolylineElt::MetaObject())
+                ++compared.polylines;
+            else if (meta == VEKPrtTextElt::MetaObject())
+                ++compared.texts;
+            else if (meta == VEKPrtGroupElt::MetaObject())
+                ++compared.others;
         });
+    benchmark::DoNotOptimize(visited);
+    benchmark::DoNotOptimize(compared);
 }
-BENCHMARK(IsAKindOf)->Apply(Passes);
+BENCHMARK(VisitElement)->Apply(Passes);
 
 void SetAndGetText(benchmark::State& ioState) {
-    constexpr int rounds = 200000;
     const auto line = Make<VEKPrtLineElt>();
     const VEKUnicodeString text("twelve chars");
-    char* held = nullptr;
+    std::unique_ptr<char[]> held;
     Compare(
-        ioState, rounds,
-        [&] {
-            for (int i = 0; i < rounds; ++i) {
-                VEKUnicodeString read;
-                line->SetID(text);
-                line->GetID(read);
-                benchmark::DoNotOptimize(read.ToUtf8());
-            }
+        ioState, 200000,
+        [&](int) {
+            VEKUnicodeString read;
+            line->SetID(text);
+            line->GetID(read);
+            benchmark::DoNotOptimize(read.ToUtf8());
         },
-        [&] {
-            for (int i = 0; i < rounds; ++i) {
-                Replace(held, Copied(text.ToUtf8(), std::strlen(text.ToUtf8()) + 1));
-                const std::unique_ptr<char[]> read(Copied(held, std::strlen(held) + 1));
-                benchmark::DoNotOptimize(read.get());
-            }
+        [&](int) {
+            held.reset(Copied(text.ToUtf8(), std::strlen(text.ToUtf8()) + 1));
+            const std::unique_ptr<char[]> read(Copied(held.get(), std::strlen(held.get()) + 1));
+            benchmark::DoNotOptimize(read.get());
         });
-    delete[] held;
 }
 BENCHMARK(SetAndGetText)->Apply(Passes);
-
-void CopyCurve(benchmark::State& ioState) {
-    constexpr std::size_t count = 100000;
-    const std::vector<double> values(2 * count + 4, 1.0);
-    const VEKRef<VEKPrtNURBSElt> curve = Make<VEKPrtNURBSElt>(4, static_cast<int>(count), values.data(),
-                                                              values.data(), 0.0F, 1.0F, values.data());
-    Compare(
-        ioState, 1, [&] { const auto copy = Make<VEKPrtNURBSElt>(*curve); },
-        [&] {
-            for (const std::size_t length : {2 * count, count + 4, count}) {
-                const std::unique_ptr<double[]> copy(Copied(values.data(), length));
-                benchmark::DoNotOptimize(copy.get());
-            }
-        });
-}
-BENCHMARK(CopyCurve)->Apply(Passes);
 
 } // namespace
