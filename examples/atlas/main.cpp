@@ -1,6 +1,5 @@
 // Draws an atlas from country outlines, as SVG files, a PDF document or a PNG image.
 #include <cerrno>
-#include <filesystem>
 #include <fstream>
 #include <iostream>
 
