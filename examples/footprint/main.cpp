@@ -5,7 +5,7 @@
 #include <new>
 
 #include "VEKPixelImage.h"
-#include "VEKPrtDump.h" // and with it all element classes
+#include "VEKPrtElements.h"
 #include "VEKRef.h"
 
 using vekprt::Make;
@@ -15,7 +15,7 @@ namespace {
 
 long g_allocations = 0;
 
-// What makes an element worth copying: the arrays, children and images that it owns or shares.
+// Content that copies must allocate or share: arrays, children, images.
 const double g_values[] = {0, 0, 1, 1, 2, 0, 3, 1, 4, 0, 5, 1};
 
 template <class Element>
@@ -65,14 +65,14 @@ void Report() {
 }
 
 template <class... Elements>
-void ReportAll() {
+void ReportAll(vekprt::ClassList<Elements...>) {
     std::printf("| class | bytes | construct | copy | `Duplicate` |\n|---|---|---|---|---|\n");
     (Report<Elements>(), ...);
 }
 
 } // namespace
 
-// All other forms of new and delete end in these.
+// All other forms of new and delete call these.
 void* operator new(std::size_t iSize) {
     ++g_allocations;
     void* const block = std::malloc(iSize);
@@ -84,15 +84,11 @@ void operator delete(void* iBlock, std::size_t) noexcept { std::free(iBlock); }
 
 int main(int argc, char** argv) {
     if (argc > 1) {
-        std::puts("usage: footprint\nPrints what elements cost: bytes, and allocations by operation.");
+        std::puts("usage: footprint\nPrints, for each element class, its size in bytes and the allocations "
+                  "of each operation.");
         return std::strcmp(argv[1], "--help") == 0 ? 0 : 2;
     }
-    ReportAll<VEKPrtLineElt, VEKPrtRectangleElt, VEKPrtCircleElt, VEKPrtCircularArcElt, VEKPrtEllipseElt,
-              VEKPrtEllipticalArcElt, VEKPrtMarkerElt, VEKPrtTextElt, VEKPrtBitmapImageElt, VEKPrtPolylineElt,
-              VEKPrtPolygonElt, VEKPrtDisjointPolylineElt, VEKPrtPolyCubicBezierElt,
-              VEKPrtPolyQuadraticBezierElt, VEKPrtPolyPolygonElt, VEKPrtNURBSElt, VEKPrtGroupElt,
-              VEKPrtPatternElt, VEKPrtSymbolElt, VEKPrtClosedFigureRegionElt, VEKPrtClosedFigureElt,
-              VEKPrtImageElt>();
+    ReportAll(vekprt::ElementClasses());
     constexpr int lines = 10000;
     const auto group = Make<VEKPrtGroupElt>();
     const long total = AllocationsOf([&] {
