@@ -105,5 +105,7 @@ grep -q '^177 areas from object "countries"; the file has "countries" "land"$' "
 [ -s "$work/stderr" ] && fail "complaints: $(cat "$work/stderr")"
 [ "$(grep -l 'Data: A &amp; B' "$work/world"/*.svg | wc -l)" -eq 8 ] || fail "not eight pages with their credit"
 "$atlas" "$world" "$work/land.svg" --level land | grep -q '^1 areas from object "land"' || fail "another level is not drawn"
+"$atlas" "$world" "$work/atlas.pdf" > /dev/null && "$specimen" "$work/specimen.png" || fail "a format is refused"
+[ "$(head -c 4 "$work/atlas.pdf")$(head -c 4 "$work/specimen.png" | tail -c 3)" = %PDFPNG ] || fail "an extension gives another format"
 [ $failures -eq 0 ] && echo "atlas: all cases"
 exit $failures
