@@ -83,14 +83,14 @@ void AddTwice(Container& ioContainer, VEKPrtGraphicPrimitiveElt* iChild) {
 }
 
 // What the document holds, and how often; how many warnings there are.
-struct Row {
+struct SvgRow {
     const char* name;
     std::function<void(Page&)> make;
     std::vector<std::pair<const char*, int>> parts;
     int warnings = 0;
 };
 
-const Row g_rows[] = {
+const SvgRow g_rows[] = {
     {"page",
      [](Page&) {},
      {{R"(width="100cm" height="50cm" viewBox="-5 -60 100 50")", 1}, {"\"scale(1,-1)\"", 1}}},
@@ -289,7 +289,7 @@ const Row g_rows[] = {
 } // namespace
 
 TEST(Svg, SaysWhatPicturesDoNotShow) {
-    for (const Row& row : g_rows) {
+    for (const SvgRow& row : g_rows) {
         Page page;
         row.make(page);
         const std::string text = page.Svg();
