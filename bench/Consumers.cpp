@@ -1,4 +1,5 @@
-// The consumers: what pages of one sort take as SVG, in time and in bytes, and by cairo, beside its own calls.
+// The consumers: what pages of one sort take as SVG, in time and in bytes, and by cairo, beside its own
+// calls.
 #include <cairo-pdf.h>
 
 #include <random>
@@ -163,8 +164,7 @@ void DrawPlain(cairo_t* ioCairo, const std::vector<Plain>& iLines) {
 void CompareOnPdf(benchmark::State& ioState, const VEKPrtModel& iModel, const std::vector<Plain>& iLines,
                   double iParts) {
     Compare(
-        ioState, iParts,
-        [&] { OnPdf([&](cairo_t* ioCairo) { vekprt::DrawPage(iModel, 1, ioCairo); }); },
+        ioState, iParts, [&] { OnPdf([&](cairo_t* ioCairo) { vekprt::DrawPage(iModel, 1, ioCairo); }); },
         [&] { OnPdf([&](cairo_t* ioCairo) { DrawPlain(ioCairo, iLines); }); });
 }
 

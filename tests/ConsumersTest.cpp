@@ -92,7 +92,8 @@ struct Distance {
 // Measured.  librsvg smooths the tiles of patterns; dashes add up small differences.
 constexpr Distance g_ofCells = {16, 0.5}, g_ofPatternFills = {100, 3.2}, g_ofRandomDrawings = {40, 2.0};
 
-// Draws the page both ways.  Where the pictures are too far apart, they and their difference are left as a file.
+// Draws the page both ways.  Where the pictures are too far apart, they and their difference are left as a
+// file.
 void Compare(const VEKPrtModel& iModel, const std::string& iName, const Distance& iLimit) {
     VEKPrtImageElt& page = *ChildrenOf(iModel).begin();
     double width = 0, height = 0;
@@ -246,7 +247,8 @@ private:
             iContainer->AddChild(Element(iDepth + 1).Get());
         return With(iContainer);
     }
-    // librsvg measures lines wrongly where they are skewed or mirrored: what is aligned by its width is neither.
+    // librsvg measures lines wrongly where they are skewed or mirrored: what is aligned by its width is
+    // neither.
     Any Text(int iDepth) {
         static const char* const texts[] = {"Text", "first line\nsecond", "x\u0301y \u03A9", "<&>  a"};
         const auto text = Make<VEKPrtTextElt>(Place(), VEKUnicodeString(texts[Below(4)]));
@@ -280,9 +282,8 @@ private:
     Any Nurbs() {
         const double knots[] = {0, 0, 0, 0, 1, 2, 3, 3, 3, 3};
         std::vector<double> weights = Values(6);
-        return With(
-            Make<VEKPrtNURBSElt>(4, 6, Values(12).data(), knots, static_cast<float>(Number(0, 1)),
-                                 static_cast<float>(Number(2, 3)), weights.data()));
+        return With(Make<VEKPrtNURBSElt>(4, 6, Values(12).data(), knots, static_cast<float>(Number(0, 1)),
+                                         static_cast<float>(Number(2, 3)), weights.data()));
     }
     Any Figure() {
         const auto figure = Make<VEKPrtClosedFigureElt>();
@@ -307,8 +308,7 @@ private:
         case 3: return With(Make<VEKPrtCircularArcElt>(Place(), Radius(), Angle(), Angle()));
         case 4: return With(Make<VEKPrtEllipseElt>(Place(), Radius(), Radius(), Seldom() ? 0.0F : Angle()));
         case 5:
-            return With(
-                Make<VEKPrtEllipticalArcElt>(Place(), Radius(), Radius(), Angle(), Angle(), Angle()));
+            return With(Make<VEKPrtEllipticalArcElt>(Place(), Radius(), Radius(), Angle(), Angle(), Angle()));
         case 6: return Points<VEKPrtPolylineElt>(5);
         case 7: return Points<VEKPrtPolygonElt>(5);
         case 8: return Points<VEKPrtDisjointPolylineElt>(6);

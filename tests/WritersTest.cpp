@@ -111,8 +111,7 @@ const SvgRow g_rows[] = {
          line->SetTitle("a < b & \"c\"");
          line->SetDescription("bad \x01\xFF\xC3 text");
      },
-     {{"<title>a &lt; b &amp; &quot;c&quot;</title>", 1},
-      {"<desc>bad \uFFFD\uFFFD\uFFFD text</desc>", 1}}},
+     {{"<title>a &lt; b &amp; &quot;c&quot;</title>", 1}, {"<desc>bad \uFFFD\uFFFD\uFFFD text</desc>", 1}}},
     {"names",
      [](Page& ioPage) {
          for (const char* const id : {"gr\u00F6\u00DFe.1", "2 b", "-a:b", "\xFF", "svg-clip-1", "2 b"})
@@ -134,9 +133,9 @@ const SvgRow g_rows[] = {
      1},
     {"links that run programs",
      [](Page& ioPage) {
-         for (const char* const uri : {"javascript:alert(1)", " \x01JavaScript:x", "java\nscript:x",
-                                       "vbscript:x", "data:text/html,x", "https://example.org/?a=1&q=javascript:x",
-                                       "javascript.html", "mailto:a@example.org"})
+         for (const char* const uri :
+              {"javascript:alert(1)", " \x01JavaScript:x", "java\nscript:x", "vbscript:x", "data:text/html,x",
+               "https://example.org/?a=1&q=javascript:x", "javascript.html", "mailto:a@example.org"})
              ioPage.Link(uri);
      },
      {{"<a ", 3}},
@@ -273,8 +272,9 @@ const SvgRow g_rows[] = {
              AddTwice(*scaled, element);
              AddTwice(*ioPage.image, element);
          }
-         for (const auto& container : {VEKRef<VEKPrtGraphicPrimitiveElt>(blue), VEKRef<VEKPrtGraphicPrimitiveElt>(scaled),
-                                       VEKRef<VEKPrtGraphicPrimitiveElt>(fine)})
+         for (const auto& container :
+              {VEKRef<VEKPrtGraphicPrimitiveElt>(blue), VEKRef<VEKPrtGraphicPrimitiveElt>(scaled),
+               VEKRef<VEKPrtGraphicPrimitiveElt>(fine)})
              ioPage.image->AddChild(container.Get());
      },
      {{"stroke=\"#000009\"", 1},
@@ -316,9 +316,12 @@ TEST(Svg, SurvivesACycle) {
 }
 
 TEST(Cairo, PagesHaveTheirSizeAndTitle) {
-    const std::pair<int, const char*> units[] = {{0, "75 37.5"},           {1, "100 50"},
-                                                 {2, "1200 600"},          {3, "7200 3600"},
-                                                 {4, "283.464567 141.732283"}, {5, "2834.645669 1417.322835"},
+    const std::pair<int, const char*> units[] = {{0, "75 37.5"},
+                                                 {1, "100 50"},
+                                                 {2, "1200 600"},
+                                                 {3, "7200 3600"},
+                                                 {4, "283.464567 141.732283"},
+                                                 {5, "2834.645669 1417.322835"},
                                                  {6, "283464.566929 141732.283465"}};
     for (const auto& [unit, size] : units) {
         Page page;
@@ -332,7 +335,8 @@ TEST(Cairo, PagesHaveTheirSizeAndTitle) {
 
 TEST(Cairo, LinksBecomeAnnotations) {
     Page page;
-    const auto outer = page.Link("https://example.org/(1)"), inner = page.Link("#x"), nowhere = page.Link("#y");
+    const auto outer = page.Link("https://example.org/(1)"), inner = page.Link("#x"),
+               nowhere = page.Link("#y");
     for (const auto& group : {outer, inner, nowhere})
         group->AddChild(Make<VEKPrtRectangleElt>(Point(0, 20), Point(5, 30)).Get());
     outer->AddChild(inner.Get());
@@ -383,7 +387,8 @@ TEST(Results, TellWhatFailed) {
             const WriteResult result = write(row.page, stream);
             EXPECT_EQ(result.status, row.status) << &row - cases << ' ' << &write - writers;
             EXPECT_EQ(static_cast<bool>(result), row.status == WriteResult::Written);
-            EXPECT_TRUE(row.status != WriteResult::NoSuchPage || sink.room == row.room) << "nothing is written";
+            EXPECT_TRUE(row.status != WriteResult::NoSuchPage || sink.room == row.room)
+                << "nothing is written";
         }
     }
 }
@@ -414,8 +419,8 @@ TEST(Results, TellThatMemoryRanOut) {
         warned.Clear();
         std::ostream stream(&buffer), warnings(&warned);
         AllocationFaults faults(iNth, iSticky);
-        const WriteResult result = iIsSvg ? WriteSvg(*page.model, 1, stream, warnings)
-                                          : DrawPage(*page.model, 1, context, warnings);
+        const WriteResult result =
+            iIsSvg ? WriteSvg(*page.model, 1, stream, warnings) : DrawPage(*page.model, 1, context, warnings);
         oHits = faults.Stop();
         return result.status;
     };
@@ -444,8 +449,8 @@ TEST(Nurbs, DrawsACircleAndHonoursTheBounds) {
     const double weights[] = {1, s, 1, s, 1, s, 1, s, 1};
     std::string problem;
     const auto sample = [&](float iFirst, float iSecond) {
-        return drawing::SampleNurbs(*Make<VEKPrtNURBSElt>(3, 9, points, knots, iFirst, iSecond, weights), 1e-5,
-                                    problem);
+        return drawing::SampleNurbs(*Make<VEKPrtNURBSElt>(3, 9, points, knots, iFirst, iSecond, weights),
+                                    1e-5, problem);
     };
     const auto circle = sample(0.0F, 1.0F);
     ASSERT_GT(circle.size(), 30U);
@@ -468,10 +473,10 @@ TEST(Nurbs, DrawsACircleAndHonoursTheBounds) {
 
     const double decreasing[] = {0, 0, 1, 0, 1, 1}, plain[] = {0, 0, 0, 1, 1, 1}, zero[] = {1, 0, 1};
     using N = VEKPrtNURBSElt;
-    for (const auto& curve : {Make<N>(), Make<N>(4, 3, points, plain, 0.0F, 1.0F, ones),
-                              Make<N>(3, 3, points, decreasing, 0.0F, 1.0F, ones),
-                              Make<N>(3, 3, points, plain, 0.0F, 1.0F, zero),
-                              Make<N>(3, 3, points, plain, 1.0F, 0.0F, ones)}) {
+    for (const auto& curve :
+         {Make<N>(), Make<N>(4, 3, points, plain, 0.0F, 1.0F, ones),
+          Make<N>(3, 3, points, decreasing, 0.0F, 1.0F, ones), Make<N>(3, 3, points, plain, 0.0F, 1.0F, zero),
+          Make<N>(3, 3, points, plain, 1.0F, 0.0F, ones)}) {
         problem.clear();
         EXPECT_TRUE(drawing::SampleNurbs(*curve, 0.1, problem).empty());
         EXPECT_NE(problem, "");

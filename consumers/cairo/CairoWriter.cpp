@@ -76,7 +76,8 @@ Destinations DestinationsOf(const VEKPrtModel& iModel) {
     return found;
 }
 
-void WritePages(const VEKPrtModel& iModel, cairo_surface_t* ioPdf, cairo_t* ioCairo, const Reporter& iReporter) {
+void WritePages(const VEKPrtModel& iModel, cairo_surface_t* ioPdf, cairo_t* ioCairo,
+                const Reporter& iReporter) {
     Images images;
     Destinations destinations = DestinationsOf(iModel);
     std::string documentTitle;

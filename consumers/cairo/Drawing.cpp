@@ -316,8 +316,8 @@ void Drawing::operator()(VEKPrtPatternElt& ioPattern) {
     const cairo_rectangle_t extents = {0, 0, width, height};
     const std::unique_ptr<cairo_surface_t, decltype(&cairo_surface_destroy)> surface(
         cairo_recording_surface_create(CAIRO_CONTENT_COLOR_ALPHA, &extents), &cairo_surface_destroy);
-    const Affine toTile = Affine{width / tile.width, 0, 0, height / tile.height, 0, 0} *
-                          Affine{1, 0, 0, 1, -tile.x, -tile.y};
+    const Affine toTile =
+        Affine{width / tile.width, 0, 0, height / tile.height, 0, 0} * Affine{1, 0, 0, 1, -tile.x, -tile.y};
     {
         const std::unique_ptr<cairo_t, decltype(&cairo_destroy)> recorder(cairo_create(surface.get()),
                                                                           &cairo_destroy);
@@ -449,7 +449,9 @@ bool Drawing::TracePoints(const VEKPrtGraphicPrimitiveElt& iElement, const Point
     return fits;
 }
 
-bool Drawing::Trace(const VEKPrtPolylineElt& iPolyline) { return TracePoints(iPolyline, PointsOf(iPolyline)); }
+bool Drawing::Trace(const VEKPrtPolylineElt& iPolyline) {
+    return TracePoints(iPolyline, PointsOf(iPolyline));
+}
 
 bool Drawing::Trace(const VEKPrtPolygonElt& iPolygon) {
     const bool fits = TracePoints(iPolygon, PointsOf(iPolygon));

@@ -26,7 +26,8 @@ struct Span {
         VEKMathPoint2D result(points[0].x, points[0].y);
         double share = 1.0, k = 1.0;
         for (std::size_t i = 1; i < points.size(); ++i, k += 1.0) {
-            const double growth = (degree - k + 1.0) * t * points[i].weight / (k * (1.0 - t) * points[i - 1].weight);
+            const double growth =
+                (degree - k + 1.0) * t * points[i].weight / (k * (1.0 - t) * points[i - 1].weight);
             share = 1.0 / (1.0 + 1.0 / (growth * share));
             result = {result.GetX() + share * (points[i].x - result.GetX()),
                       result.GetY() + share * (points[i].y - result.GetY())};
@@ -39,8 +40,8 @@ ControlPoint Between(const ControlPoint& iA, const ControlPoint& iB, double iT) 
     return {iA.x + iT * (iB.x - iA.x), iA.y + iT * (iB.y - iA.y), iA.weight + iT * (iB.weight - iA.weight)};
 }
 
-// Inserts the knots at both ends of the span that begins at knot \p iSpan until the curve's own control points
-// there are those of the Bézier curve.
+// Inserts the knots at both ends of the span that begins at knot \p iSpan until the curve's own control
+// points there are those of the Bézier curve.
 Span SpanOf(int iDegree, const double* iKnots, const ControlPoint* iPoints, int iSpan) {
     const auto degree = static_cast<std::size_t>(iDegree);
     const double from = iKnots[iSpan], to = iKnots[iSpan + 1];
@@ -102,8 +103,10 @@ std::vector<VEKMathPoint2D> SampleNurbs(const VEKPrtNURBSElt& iCurve, double iTo
         oProblem = iProblem;
         return std::vector<VEKMathPoint2D>();
     };
-    if (count <= 0 || !points || !knots || !weights) return fail("control points, knots or weights missing; omitted");
-    if (order < 2 || order > count) return fail("order below 2 or above the number of control points; omitted");
+    if (count <= 0 || !points || !knots || !weights)
+        return fail("control points, knots or weights missing; omitted");
+    if (order < 2 || order > count)
+        return fail("order below 2 or above the number of control points; omitted");
     if (!AllFinite(points, 2 * count) || !AllFinite(knots, order + count) || !AllFinite(weights, count))
         return fail("values out of range; omitted");
     if (!std::is_sorted(knots, knots + order + count)) return fail("decreasing knots; omitted");

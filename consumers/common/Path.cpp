@@ -35,8 +35,8 @@ void Path::Close() {
     if (IsOpen()) _commands += 'Z';
 }
 
-void Path::Arc(const VEKMathPoint2D& iCentre, double iRadiusX, double iRadiusY, double iSlope,
-                   double iStart, double iEnd) {
+void Path::Arc(const VEKMathPoint2D& iCentre, double iRadiusX, double iRadiusY, double iSlope, double iStart,
+               double iEnd) {
     if (!std::isfinite(iStart + iEnd)) return MoveTo(NAN, NAN);
     // Pieces of 45 degrees at most: off the true arc by less than 5 millionths of the radius.
     const int pieces = std::max(1, static_cast<int>(std::ceil((iEnd - iStart) / 45.0 - 1e-9)));

@@ -57,7 +57,8 @@ Rgb ColourOf(const Reporter& iReporter, const VEKPrtGraphicPrimitiveElt& iElemen
              unsigned iIndex) {
     Rgb colour;
     if (!iTable || iTable->GetColour(iIndex, colour.red, colour.green, colour.blue) != 1) {
-        iReporter.Warn(iElement, "colour " + std::to_string(iIndex) + " is not in the page's table; using black");
+        iReporter.Warn(iElement,
+                       "colour " + std::to_string(iIndex) + " is not in the page's table; using black");
         return {};
     }
     return colour;
@@ -107,7 +108,7 @@ Fill ReadFill(const Reporter& iReporter, const VEKPrtGraphicPrimitiveElt& iEleme
     VEKMathPoint2D reference(0.0, 0.0);
     ioRecord.GetPattern(fill.image, first, second);
     ioRecord.GetPatternRefPoint(reference);
-    fill.tile = {first.GetX(),  first.GetY(),      second.GetX(),
+    fill.tile = {first.GetX(),  first.GetY(),     second.GetX(),
                  second.GetY(), reference.GetX(), reference.GetY()};
     const double area = std::fabs(fill.tile.Determinant());
     const double reach = std::fabs(reference.GetX()) + std::fabs(reference.GetY());

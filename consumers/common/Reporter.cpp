@@ -15,10 +15,11 @@ void Reporter::Warn(const VEKPrtGraphicPrimitiveElt& iElement, const std::string
     if (!_warnings) return;
     VEKUnicodeString id;
     iElement.GetID(id);
-    std::string line = std::string(iElement.IsA()) + (id.IsEmpty() ? "" : " ") + id.ToUtf8() + ": " + iProblem;
+    std::string line =
+        std::string(iElement.IsA()) + (id.IsEmpty() ? "" : " ") + id.ToUtf8() + ": " + iProblem;
     std::replace_if(
-        line.begin(), line.end(), [](char iCharacter) { return static_cast<unsigned char>(iCharacter) < ' '; },
-        ' ');
+        line.begin(), line.end(),
+        [](char iCharacter) { return static_cast<unsigned char>(iCharacter) < ' '; }, ' ');
     *_warnings << _consumer << ": " << line << '\n';
 }
 

@@ -20,8 +20,7 @@ constexpr int maxNesting = 230, nestingOfPattern = 4;
 class Reporter {
 public:
     /// Silent where \p ioWarnings is null.
-    Reporter(const char* iConsumer, std::ostream* ioWarnings)
-        : _consumer(iConsumer), _warnings(ioWarnings) {}
+    Reporter(const char* iConsumer, std::ostream* ioWarnings) : _consumer(iConsumer), _warnings(ioWarnings) {}
 
     /// One line, whatever an identifier or the problem holds.
     void Warn(const VEKPrtGraphicPrimitiveElt& iElement, const std::string& iProblem) const;

@@ -16,8 +16,7 @@ void BoxAttributes(XmlWriter& ioXml, const Box& iBox) {
 
 template <class Container>
 void WriteChildren(SvgPage& ioPage, Container& ioContainer, int iNesting = 1) {
-    if (ioPage.nesting + iNesting > maxNesting)
-        return ioPage.reporter.Warn(ioContainer, "nested too deeply");
+    if (ioPage.nesting + iNesting > maxNesting) return ioPage.reporter.Warn(ioContainer, "nested too deeply");
     ioPage.nesting += iNesting;
     for (VEKPrtGraphicPrimitiveElt& child : ChildrenOf(ioContainer))
         WriteElement(ioPage, child);

@@ -35,8 +35,7 @@ std::string ImageFill(SvgPage& ioPage, const VEKPixelImage& iImage, const Affine
 Paint PaintOf(SvgPage& ioPage, const VEKPrtGraphicPrimitiveElt& iElement, Look iLook, const Affine& iInner) {
     Paint paint{std::move(iLook), "none"};
     const Fill& fill = paint.look.fill;
-    if (fill.kind == Fill::Image)
-        paint.inside = ImageFill(ioPage, *fill.image, iInner.Inverse() * fill.tile);
+    if (fill.kind == Fill::Image) paint.inside = ImageFill(ioPage, *fill.image, iInner.Inverse() * fill.tile);
     if (fill.kind == Fill::Colour) paint.inside = ioPage.Colour(iElement, fill.colour);
     return paint;
 }

@@ -39,7 +39,8 @@ std::string PngDataUri(const VEKPixelImage& iImage) {
     png_alloc_size_t size = 0;
     if (!png_image_write_get_memory_size(png, size, 0, iImage.GetRow(0), 0, nullptr)) throw std::bad_alloc();
     std::vector<unsigned char> bytes(size);
-    if (!png_image_write_to_memory(&png, bytes.data(), &size, 0, iImage.GetRow(0), 0, nullptr)) throw std::bad_alloc();
+    if (!png_image_write_to_memory(&png, bytes.data(), &size, 0, iImage.GetRow(0), 0, nullptr))
+        throw std::bad_alloc();
     bytes.resize(size);
     return "data:image/png;base64," + Base64(bytes);
 }

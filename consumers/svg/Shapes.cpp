@@ -54,10 +54,9 @@ void ElementWriter::operator()(VEKPrtCircleElt& ioCircle) const {
     const EllipseShape shape = EllipseOf(ioCircle);
     const Placement placement(page, ioCircle, PlacementOf(ioCircle));
     if (!placement) return;
-    WriteShape(
-        page, ioCircle, "circle", placement,
-        {{"cx", shape.centre.GetX()}, {"cy", shape.centre.GetY()}, {"r", std::fabs(shape.radiusX)}},
-        PaintOf(page, ioCircle, LookOf(page.reporter, ioCircle)));
+    WriteShape(page, ioCircle, "circle", placement,
+               {{"cx", shape.centre.GetX()}, {"cy", shape.centre.GetY()}, {"r", std::fabs(shape.radiusX)}},
+               PaintOf(page, ioCircle, LookOf(page.reporter, ioCircle)));
 }
 
 void ElementWriter::operator()(VEKPrtEllipseElt& ioEllipse) const {
@@ -86,8 +85,7 @@ void ElementWriter::operator()(VEKPrtMarkerElt& ioMarker) const {
 void ElementWriter::operator()(VEKPrtClosedFigureElt& ioFigure) const {
     const Placement placement(page, ioFigure, PlacementOf(ioFigure));
     if (!placement) return;
-    const Path path =
-        PathOf(page.reporter, ioFigure, page.Tolerance(), page.nesting, page.outlineAllowance);
+    const Path path = PathOf(page.reporter, ioFigure, page.Tolerance(), page.nesting, page.outlineAllowance);
     WritePath(page, ioFigure, placement, path, LookOf(page.reporter, ioFigure));
 }
 

@@ -6,8 +6,8 @@ namespace vekprt::svg {
 
 namespace {
 
-// Most renderers put the spacing after the last letter, too, others between letters only.  An invisible mark at
-// the end makes them agree, and the text is moved by what is too much.
+// Most renderers put the spacing after the last letter, too, others between letters only.  An invisible mark
+// at the end makes them agree, and the text is moved by what is too much.
 bool NeedsEndMark(const Lettering& iLettering) {
     return iLettering.spacing != 0.0 && !iLettering.isVertical && iLettering.left > 0.0;
 }
@@ -29,8 +29,7 @@ void WriteColumn(SvgPage& ioPage, const Lettering& iLettering) {
     XmlWriter& xml = ioPage.xml;
     for (const std::string& letter : iLettering.lines) {
         xml.Start("tspan", {{"x", "0"}});
-        if (&letter != &iLettering.lines.front())
-            xml.Attribute("dy", ioPage.place.grid(iLettering.lineFeed));
+        if (&letter != &iLettering.lines.front()) xml.Attribute("dy", ioPage.place.grid(iLettering.lineFeed));
         xml.Text(letter);
         xml.End();
     }
@@ -44,8 +43,7 @@ void ElementWriter::operator()(VEKPrtTextElt& ioText) const {
     Placement placement(page, ioText, PlacementOf(ioText));
     if (!placement) return;
     placement.Add(lettering->placement);
-    const Paint paint =
-        PaintOf(page, ioText, LookOf(page.reporter, ioText), Compose(lettering->placement));
+    const Paint paint = PaintOf(page, ioText, LookOf(page.reporter, ioText), Compose(lettering->placement));
     SvgElement element(page, ioText, "text", placement);
     LayoutAttributes(element, *lettering);
     element.Attributes(paint);

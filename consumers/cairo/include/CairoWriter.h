@@ -40,8 +40,8 @@ WriteResult WritePdf(const VEKPrtModel& iModel, std::ostream& ioStream, std::ost
 
 /// Writes the page at position \p iPage (from 1) as PNG, on white, and flushes the stream.
 ///
-/// A page that is larger than an image of cairo's can be, 32767 pixels either way, gives OutOfMemory; so does a
-/// resolution that is not positive.
+/// A page that is larger than an image of cairo's can be, 32767 pixels either way, gives OutOfMemory; so does
+/// a resolution that is not positive.
 WriteResult WritePng(const VEKPrtModel& iModel, int iPage, double iDotsPerInch, std::ostream& ioStream,
                      std::ostream& ioWarnings = std::cerr);
 
