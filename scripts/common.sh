@@ -53,7 +53,7 @@ require() {
 
 build_packages="g++ cmake ninja-build pkg-config libpng-dev libcairo2-dev libpango1.0-dev nlohmann-json3-dev libcli11-dev"
 picture_packages="librsvg2-bin fonts-dejavu-core"
-test_packages="$build_packages $picture_packages librsvg2-dev libgtest-dev libxml2-dev libxml2-utils binutils gdb"
+test_packages="$build_packages $picture_packages librsvg2-dev libgtest-dev libxml2-utils binutils gdb"
 
 # quietly LOG COMMAND...: shows what a command prints only if it fails.
 quietly() {
