@@ -139,7 +139,8 @@ double PlaceText(double iWidth, const std::vector<Path>& iRings, double iMin, do
     double best = 0.0;
     for (int i = 1; i <= heights; ++i) {
         // From the middle outwards, the middle of the widest part of the area at each height.
-        const double y = bounds.Centre().y + bounds.Height() * (i % 2 ? -1 : 1) * (i / 2) / (heights + 1.0);
+        const int row = i % 2 ? -(i / 2) : i / 2;
+        const double y = bounds.Centre().y + bounds.Height() * row / (heights + 1.0);
         std::multiset<double> crossings;
         for (const Path& edge : edges)
             if ((edge[0].y < y) != (edge[1].y < y))

@@ -49,21 +49,19 @@ void Run(const fs::path& iInput, const fs::path& iOutput, const std::string& iLe
 } // namespace
 
 int main(int argc, char** argv) {
-    CLI::App options("Draws an atlas, or a map of countries that lie close together, from TopoJSON.\n");
-    std::string input, output, level, credit;
-    options.add_option("INPUT", input, "the outlines, at most 8 MiB")->required();
-    const char* const outputs =
-        "x.pdf for all pages, x.svg or x.png for the first one, or a directory, made if\n"
-        "missing, for one SVG file per page";
-    options.add_option("OUTPUT", output, outputs)->required();
-    options.add_option("--level", level, "the object to draw, such as \"countries\" or \"states\"");
-    options.add_option("--credit", credit, "the source of the data, for the foot of each page");
     try {
-        options.parse(argc, argv);
+        CLI::App options("Draws an atlas, or a map of countries that lie close together, from TopoJSON.\n");
+        std::string input, output, level, credit;
+        options.add_option("INPUT", input, "the outlines, at most 8 MiB")->required();
+        const char* const outputs =
+            "x.pdf for all pages, x.svg or x.png for the first one, or a directory, made\n"
+            "if missing, for one SVG file per page";
+        options.add_option("OUTPUT", output, outputs)->required();
+        options.add_option("--level", level, "the object to draw, such as \"countries\" or \"states\"");
+        options.add_option("--credit", credit, "the source of the data, for the foot of each page");
+        CLI11_PARSE(options, argc, argv);
         Run(input, output, level, credit);
         return 0;
-    } catch (const CLI::ParseError& error) {
-        return options.exit(error) == 0 ? 0 : 2;
     } catch (const std::exception& error) {
         std::cerr << "atlas: " << error.what() << '\n';
         return 1;

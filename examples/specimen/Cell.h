@@ -109,7 +109,7 @@ public:
     /// Adds a filled text in ink, after \p iChanges to its attributes: pairs of a setter and its argument.
     template <class... Changes>
     VEKRef<VEKPrtTextElt> Text(const Note& iNote, const Changes&... iChanges) const {
-        const auto text = Make<VEKPrtTextElt>(Point(iNote.x, iNote.y), VEKUnicodeString(iNote.text.c_str()));
+        auto text = Make<VEKPrtTextElt>(Point(iNote.x, iNote.y), VEKUnicodeString(iNote.text.c_str()));
         const auto attributes =
             With(TextAttributes(), &TextAttributes::SetFont, fonts.sans.get(), &TextAttributes::SetHeight,
                  iNote.height, &TextAttributes::SetAnchor, iNote.anchor);

@@ -96,7 +96,8 @@ void AddElementCells(const Adder& iAdd) {
     iAdd("disjoint-polyline", "Disjoint polyline", "VEKPrtDisjointPolylineElt", [](const Cell& iCell) {
         std::vector<double> points;
         for (int i = 0; i < 24; ++i) {
-            const Point end = Polar(25, 21, i % 2 ? 17 : 8, i / 2 * 30);
+            const int angle = i / 2 * 30;
+            const Point end = Polar(25, 21, i % 2 ? 17 : 8, angle);
             points.insert(points.end(), {end.GetX(), end.GetY()});
         }
         iCell.Add(Make<VEKPrtDisjointPolylineElt>(points.data(), 24), Stroke(teal, 0.9));
@@ -156,12 +157,13 @@ void AddElementCells(const Adder& iAdd) {
         constexpr int size = 96;
         const auto image = Make<VEKPixelImage>(size, size);
         for (int i = 0; i < size * size; ++i) {
-            const double x = i % size, y = i / size, r = std::hypot(x / size - 0.3, y / size - 0.35);
+            const int x = i % size, y = i / size;
+            const double r = std::hypot(1.0 * x / size - 0.3, 1.0 * y / size - 0.35);
             const double height = std::sin(18 * r) / (1 + 2 * r);
             const auto shade = [&](double iMiddle, double iRange) {
                 return static_cast<unsigned char>(iMiddle + iRange * height);
             };
-            image->SetPixel(i % size, i / size, shade(128, 112), shade(157, 67), shade(155, 35));
+            image->SetPixel(x, y, shade(128, 112), shade(157, 67), shade(155, 35));
         }
         iCell.Add(Make<VEKPrtBitmapImageElt>(Point(5, 6), 26.0, 30.0, 0.0, image.Get()));
         iCell.Add(Make<VEKPrtBitmapImageElt>(Point(38.5, 9), 11.0, 11.0, 30.0, image.Get()));
@@ -201,7 +203,8 @@ void AddElementCells(const Adder& iAdd) {
         const auto symbol = Make<VEKPrtSymbolElt>(Point(0, 0), 12.0, 12.0);
         static const Colour colours[] = {red, ochre, teal, red};
         for (int i = 0; i < 4; ++i) {
-            const auto petal = Circle(i % 2 * 12, i / 2 * 12, 6.5);
+            const int column = i % 2, row = i / 2;
+            const auto petal = Circle(12 * column, 12 * row, 6.5);
             Set(*petal, Stroke(ink, 0.3), Fill(colours[i]));
             symbol->AddChild(petal.Get());
         }
@@ -365,10 +368,11 @@ void AddAttributeCells(const Adder& iAdd) {
     iAdd("anchors", "Text anchors", "SetAnchor", [](const Cell& iCell) {
         static const char* const names[] = {"baseline", "middle", "top"};
         for (int i = 0; i < 9; ++i) {
-            const double x = 5 + 20 * (i % 3), y = 36 - 13 * (i / 3);
+            const int column = i % 3, row = i / 3;
+            const double x = 5 + 20 * column, y = 36 - 13 * row;
             iCell.Text({x, y, "Hxg", static_cast<Anchor>(VEKPrintTextAnchorBaselineLeft + i), 4});
             iCell.Marks({{x, y}});
-            if (i % 3 == 1) iCell.Text({25, y - 6, names[i / 3], centre, 1.9});
+            if (column == 1) iCell.Text({25, y - 6, names[row], centre, 1.9});
         }
     });
 

@@ -75,7 +75,8 @@ Specimen BuildSpecimen() {
     int cells = 0;
     for (const CellContent& content : Cells()) {
         const double x = frame + cells % columns * Cell::width;
-        const double y = sheetHeight - frame - (cells++ / columns + 1) * cellHeight;
+        const int row = cells++ / columns + 1;
+        const double y = sheetHeight - frame - row * cellHeight;
         DrawContent(AddCell(page, specimen, content.name, x, y), content);
     }
     const double width = (columns * rows - cells) * Cell::width;
