@@ -110,6 +110,9 @@ struct Page {
             layers.emplace_back(dynamic_cast<VEKPrtGroupElt&>(child));
         const Layer& rim = Get("frame");
         frame.Add(rim.lines.at(1));
+        double width = 0.0, height = 0.0;
+        iPage.GetSize(width, height);
+        EXPECT_TRUE(frame.minX > 0 && frame.minY > 0 && frame.maxX < width && frame.maxY < height - 10);
         std::string scale = rim.texts.at(1).substr(rim.texts.at(1).find(':') + 1);
         scale.erase(std::remove(scale.begin(), scale.end(), ' '), scale.end());
         kilometre = 1e6 / std::stod(scale);
