@@ -4,6 +4,7 @@
 #include <cstring>
 #include <typeinfo>
 
+#define DEFINES_ROWS
 #include "Rows.h"
 #include "VEKMetaClass.h"
 

@@ -38,16 +38,24 @@ struct Samples {
 #define KIND_SLOTS(Name) SlotOf(&C::Add##Name), SlotOf(&C::Get##Name)
 #define CHILDREN FUNCTIONS("children", SlotOf(&C::AddChild), SlotOf(&C::RemoveChild), SlotOf(&C::GetChildren))
 
+// The fields of all rows are compiled once, in the source that defines DEFINES_ROWS.
+#if defined(DEFINES_ROWS)
+#define LIST(Class, ...)                                                                                     \
+    Fields<Class> Row<Class>::List() { return {__VA_ARGS__}; }
+#else
+#define LIST(Class, ...)
+#endif
 /// A row of a class without class information of its own.
 #define PLAIN_ROW(Class, ...)                                                                                \
     template <>                                                                                              \
     struct Row<Class> : Samples {                                                                            \
         using C = Class;                                                                                     \
         static constexpr const char* name = #Class;                                                          \
-        static Fields<C> List() { return {__VA_ARGS__}; }                                                    \
+        static Fields<C> List();                                                                             \
     };                                                                                                       \
-    inline void PrintTo(const Class& iRecord, std::ostream* ioStream) { PrintChanges(iRecord, ioStream); }
-/// A row of an element class.  The length is that of the name; what duplicates is explained in
+    inline void PrintTo(const Class& iRecord, std::ostream* ioStream) { PrintChanges(iRecord, ioStream); }   \
+    LIST(Class, __VA_ARGS__)
+/// A row of an element class.  The length is that of the name; the recipe of Duplicate is one of
 /// ElementProtocol.h.
 #define ROW(Class, Length, Recipe, ...)                                                                      \
     template <>                                                                                              \
@@ -56,8 +64,9 @@ struct Samples {
         static constexpr const char* name = #Class;                                                          \
         static constexpr Duplication recipe = Duplication::Recipe;                                           \
         static VEKMetaClass*& Cache() { return meta_object__##Length##Class; }                               \
-        static Fields<C> List() { return {__VA_ARGS__}; }                                                    \
-    }
+        static Fields<C> List();                                                                             \
+    };                                                                                                       \
+    LIST(Class, __VA_ARGS__)
 enum class Duplication { ByAssignment, ByCopying, ByConstruction };
 
 PLAIN_ROW(VEKPrtTransformAttributes,
@@ -67,12 +76,12 @@ PLAIN_ROW(VEKPrtTransformAttributes,
                KIND_SLOTS(ScaleX), KIND_SLOTS(ScaleY), KIND_SLOTS(Rotation), KIND_SLOTS(SkewX),
                KIND_SLOTS(SkewY), KIND_SLOTS(Translation), SlotOf(&C::AddTransform)},
               SetEntries, [](const C& iTransform, Entries& oEntries) { oEntries = EntriesOf(iTransform); },
-              {{}, {g_oneOfEach}, {{{3, 2}, {2, 30}, {3, 3}}}}));
+              {{}, {g_oneOfEach}, {{{3, 2}, {2, 30}, {3, 3}}}}))
 PLAIN_ROW(VEKPrtColourTable,
           FUNCTIONS("all", SlotOf(&C::GetColourCount), SlotOf(&C::AddColour), SlotOf(&C::ModifyColour),
-                    SlotOf(&C::GetColourIndex), SlotOf(&C::GetColour)));
+                    SlotOf(&C::GetColourIndex), SlotOf(&C::GetColour)))
 PLAIN_ROW(VEKPrtModel,
-          FUNCTIONS("images", SlotOf(&C::AddImage), SlotOf(&C::RemoveImage), SlotOf(&C::GetImages)));
+          FUNCTIONS("images", SlotOf(&C::AddImage), SlotOf(&C::RemoveImage), SlotOf(&C::GetImages)))
 PLAIN_ROW(VEKPrtStrokeAttributes, FIELD(StrokeColourIndex, {0}, {7}),
           FIELD(StrokeColourTransparency, {255}, {254}), FIELD(StrokeType, {0}, {2}),
           FieldBy<C, std::vector<float>>(
@@ -80,46 +89,46 @@ PLAIN_ROW(VEKPrtStrokeAttributes, FIELD(StrokeColourIndex, {0}, {7}),
               [](const C& iStroke, auto& oDashes) { oDashes = DashesOf(iStroke); },
               {{}, {{1, 2, 3}}, {{1}}, {{1, 2}}, {{2, 2, 3}}, {{1, 2, std::nextafter(3.0F, 4.0F)}}}),
           FIELD(StrokeWidth, {static_cast<double>(0.1F)}, {-2.0}, {0.1}), FIELD(StrokeStyle, {8}, {9}),
-          FIELD(StrokeCap, {10}, {11}), FIELD(StrokeJoin, {13}, {15}));
+          FIELD(StrokeCap, {10}, {11}), FIELD(StrokeJoin, {13}, {15}))
 PLAIN_ROW(VEKPrtFillAttributes, FUNCTIONS("Duplicate", SlotOf(&C::Duplicate)), FIELD(FillStyle, {0}, {1}),
           FIELD(FillRule, {1}, {0}), FIELD(FillColourIndex, {0}, {7}),
           FIELD(FillColourTransparency, {255}, {0}),
           FIELD(Pattern, {nullptr, none, none}, {nullptr, Vector(1, 2), Vector(3, 4)},
                 {nullptr, Vector(0, DBL_MIN), none}, {nullptr, none, Vector(1, 0)},
                 {g_image.Get(), none, none}),
-          FIELD(PatternRefPoint, {origin}, {Point(0, 1)}, {a}));
+          FIELD(PatternRefPoint, {origin}, {Point(0, 1)}, {a}))
 PLAIN_ROW(VEKPrtTextAttributes, FIELD(Font, {nullptr}, {&g_font}), FIELD(Weight, {25}, {27}),
           FIELD(Height, {10.0}, {-1.0}, {std::nextafter(10.0, 11.0)}), FIELD(Anchor, {29}, {35}),
           FIELD(Slant, {0}, {2}), FIELD(Direction, {0}, {-3}), FIELD(ExtraSpacing, {0}, {0.5}),
-          FIELD(Expansion, {1}, {0.25}), FIELD(WritingMode, {0}, {-7}));
-PLAIN_ROW(VEKPrtMarkerAttributes, FIELD(MarkerStyle, {0}, {5}));
-PLAIN_ROW(VEKPrtGroupAttributes, FIELD(LinkURI, {""}, {"https://example.org"}));
+          FIELD(Expansion, {1}, {0.25}), FIELD(WritingMode, {0}, {-7}))
+PLAIN_ROW(VEKPrtMarkerAttributes, FIELD(MarkerStyle, {0}, {5}))
+PLAIN_ROW(VEKPrtGroupAttributes, FIELD(LinkURI, {""}, {"https://example.org"}))
 
 ROW(VEKPrtGraphicPrimitiveElt, 25, ByConstruction, FUNCTIONS("Duplicate", SlotOf(&C::Duplicate)),
-    FIELD(ID, {""}, {"id"}), FIELD(Description, {""}, {"description"}), FIELD(Title, {""}, {"title"}));
+    FIELD(ID, {""}, {"id"}), FIELD(Description, {""}, {"description"}), FIELD(Title, {""}, {"title"}))
 
 ROW(VEKPrtLineElt, 13, ByAssignment, FIELD(StartPoint, {origin}, {a}), FIELD(EndPoint, {origin}, {b}),
-    FIELD(Parameters, {origin, origin}, {a, b}), CONSTRUCTED(a, b), STROKED);
+    FIELD(Parameters, {origin, origin}, {a, b}), CONSTRUCTED(a, b), STROKED)
 ROW(VEKPrtRectangleElt, 18, ByCopying, FIELD(Points, {origin, origin}, {a, b}, {b, Point(7, 9)}),
-    CONSTRUCTED(a, b), PAINTED);
+    CONSTRUCTED(a, b), PAINTED)
 ROW(VEKPrtCircleElt, 15, ByAssignment, FIELD(Center, {origin}, {a}), FIELD(Radius, {0}, {-3}),
-    FIELD(Parameters, {origin, 0}, {a, -3}), CONSTRUCTED(a, -3.0), PAINTED);
+    FIELD(Parameters, {origin, 0}, {a, -3}), CONSTRUCTED(a, -3.0), PAINTED)
 ROW(VEKPrtCircularArcElt, 20, ByAssignment, FIELD(Center, {origin}, {a}), FIELD(Radius, {0}, {3}),
     FIELD(StartAngle, {0}, {400}), FIELD(EndAngle, {0}, {-5}),
-    FIELD(Parameters, {origin, 0, 0, 0}, {a, 3, 400, -5}), CONSTRUCTED(a, 3.0, 400.0F, -5.0F), PAINTED);
+    FIELD(Parameters, {origin, 0, 0, 0}, {a, 3, 400, -5}), CONSTRUCTED(a, 3.0, 400.0F, -5.0F), PAINTED)
 ROW(VEKPrtEllipseElt, 16, ByAssignment, FIELD(Center, {origin}, {a}), FIELD(HorzRadius, {0}, {3}),
     FIELD(VertRadius, {0}, {-4}), FIELD(Slope, {0}, {5}), FIELD(Parameters, {origin, 0, 0, 0}, {a, 3, -4, 5}),
-    CONSTRUCTED(a, 3.0, -4.0, 5.0F), PAINTED);
+    CONSTRUCTED(a, 3.0, -4.0, 5.0F), PAINTED)
 ROW(VEKPrtEllipticalArcElt, 22, ByAssignment, FIELD(Center, {origin}, {a}), FIELD(HorzRadius, {0}, {3}),
     FIELD(VertRadius, {0}, {2}), FIELD(StartAngle, {0}, {20}), FIELD(EndAngle, {0}, {10}),
     FIELD(Slope, {0}, {30}), FIELD(Parameters, {origin, 0, 0, 0, 0, 0}, {a, 3, 2, 20, 10, 30}),
-    CONSTRUCTED(a, 3.0, 2.0, 20.0F, 10.0F, 30.0F), PAINTED);
+    CONSTRUCTED(a, 3.0, 2.0, 20.0F, 10.0F, 30.0F), PAINTED)
 ROW(VEKPrtMarkerElt, 15, ByAssignment, FIELD(Point, {origin}, {a}), FIELD(Size, {0}, {-3}),
     FIELD(Parameters, {origin, 0}, {a, -3}), CONSTRUCTED(a, -3.0),
-    FIELD(MarkerAttributes, {VEKPrtMarkerAttributes()}, {Changed<VEKPrtMarkerAttributes>()}), STROKED);
+    FIELD(MarkerAttributes, {VEKPrtMarkerAttributes()}, {Changed<VEKPrtMarkerAttributes>()}), STROKED)
 ROW(VEKPrtTextElt, 13, ByAssignment, FIELD(Position, {origin}, {a}), FIELD(Text, {""}, {"x"}),
     FIELD(Parameters, {origin, ""}, {a, "x"}), CONSTRUCTED(a, "x"), FIELD(DrawStyle, {1}, {-123456}), STROKE,
-    FILL, FIELD(TextAttributes, {VEKPrtTextAttributes()}, {Changed<VEKPrtTextAttributes>()}), TRANSFORM);
+    FILL, FIELD(TextAttributes, {VEKPrtTextAttributes()}, {Changed<VEKPrtTextAttributes>()}), TRANSFORM)
 
 /// The width of the image that is held, which it shares with its copies.
 inline Field<VEKPrtBitmapImageElt> PixelImageField() {
@@ -136,7 +145,7 @@ inline Field<VEKPrtBitmapImageElt> PixelImageField() {
 }
 ROW(VEKPrtBitmapImageElt, 20, ByAssignment, FIELD(Origin, {origin}, {a}), FIELD(Size, {0, 0}, {3, 4}),
     FIELD(Orientation, {0}, {0.1F}), CONSTRUCTED(a, 3.0, 4.0, 0.1, nullptr), PixelImageField(),
-    FUNCTIONS("Parameters", PAIR(Parameters)), TRANSFORM);
+    FUNCTIONS("Parameters", PAIR(Parameters)), TRANSFORM)
 
 /// The reds of a colour table; none without a table.
 inline Field<VEKPrtImageElt> ColourTableField() {
@@ -163,17 +172,17 @@ inline Field<VEKPrtImageElt> ColourTableField() {
 ROW(VEKPrtImageElt, 14, ByConstruction, FIELD(Origin, {origin}, {a}), FIELD(Size, {0, 0}, {3, 4}),
     FIELD(Units, {4}, {-123456}), FIELD(Matrix, {Matrix()}, {Matrix(1, 2, 3, 4)}),
     CONSTRUCTED(a, 3.0, 4.0, Value<VEKPrtImageUnits>(-123456), Matrix(1, 2, 3, 4)), ColourTableField(),
-    CHILDREN);
+    CHILDREN)
 ROW(VEKPrtGroupElt, 14, ByConstruction,
     FIELD(GroupAttributes, {VEKPrtGroupAttributes()}, {Changed<VEKPrtGroupAttributes>()}), TRANSFORM,
-    CHILDREN);
+    CHILDREN)
 ROW(VEKPrtPatternElt, 16, ByConstruction, FIELD(Origin, {origin}, {a}), FIELD(Size, {0, 0}, {3, 4}),
-    CONSTRUCTED(a, 3.0, 4.0), TRANSFORM, CHILDREN);
+    CONSTRUCTED(a, 3.0, 4.0), TRANSFORM, CHILDREN)
 ROW(VEKPrtSymbolElt, 15, ByConstruction, FIELD(Origin, {origin}, {a}), FIELD(Size, {0, 0}, {3, 4}),
-    CONSTRUCTED(a, 3.0, 4.0), TRANSFORM, CHILDREN);
-ROW(VEKPrtClosedFigureElt, 21, ByConstruction, PAINTED, CHILDREN);
+    CONSTRUCTED(a, 3.0, 4.0), TRANSFORM, CHILDREN)
+ROW(VEKPrtClosedFigureElt, 21, ByConstruction, PAINTED, CHILDREN)
 ROW(VEKPrtClosedFigureRegionElt, 27, ByConstruction,
-    FUNCTIONS("Duplicate", SlotOf(static_cast<void (C::*)(C*&)>(&C::Duplicate))), TRANSFORM, CHILDREN);
+    FUNCTIONS("Duplicate", SlotOf(static_cast<void (C::*)(C*&)>(&C::Duplicate))), TRANSFORM, CHILDREN)
 
 using Coordinates = std::vector<double>;
 template <class C>
@@ -191,11 +200,11 @@ Field<C> PointsField() {
         },
         {{}, {{1, 2, 3, 4}}, {{5, 6}}});
 }
-ROW(VEKPrtPolylineElt, 17, ByCopying, PointsField<C>(), STROKED);
-ROW(VEKPrtPolyCubicBezierElt, 24, ByCopying, PointsField<C>(), STROKED);
-ROW(VEKPrtPolyQuadraticBezierElt, 28, ByCopying, PointsField<C>(), STROKED);
-ROW(VEKPrtDisjointPolylineElt, 25, ByAssignment, PointsField<C>(), STROKED);
-ROW(VEKPrtPolygonElt, 16, ByCopying, PointsField<C>(), PAINTED);
+ROW(VEKPrtPolylineElt, 17, ByCopying, PointsField<C>(), STROKED)
+ROW(VEKPrtPolyCubicBezierElt, 24, ByCopying, PointsField<C>(), STROKED)
+ROW(VEKPrtPolyQuadraticBezierElt, 28, ByCopying, PointsField<C>(), STROKED)
+ROW(VEKPrtDisjointPolylineElt, 25, ByAssignment, PointsField<C>(), STROKED)
+ROW(VEKPrtPolygonElt, 16, ByCopying, PointsField<C>(), PAINTED)
 
 inline Field<VEKPrtPolyPolygonElt> PolygonsField() {
     using C = VEKPrtPolyPolygonElt;
@@ -214,7 +223,7 @@ inline Field<VEKPrtPolyPolygonElt> PolygonsField() {
         },
         {{}, {{1, 2, 3, 4, 5, 6}, {2, 1}}});
 }
-ROW(VEKPrtPolyPolygonElt, 20, ByCopying, PolygonsField(), PAINTED);
+ROW(VEKPrtPolyPolygonElt, 20, ByCopying, PolygonsField(), PAINTED)
 
 /// The bounds stay those of a new curve: copies reset them.
 inline Field<VEKPrtNURBSElt> CurveField() {
@@ -238,6 +247,6 @@ inline Field<VEKPrtNURBSElt> CurveField() {
         },
         {{0, {}, {}, {}}, {2, {1, 2, 3, 4}, {0, 5, 6, 7, 8}, {0, 9, 10}}});
 }
-ROW(VEKPrtNURBSElt, 14, ByCopying, CurveField(), STROKED);
+ROW(VEKPrtNURBSElt, 14, ByCopying, CurveField(), STROKED)
 
 #endif
