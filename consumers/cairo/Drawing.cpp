@@ -162,7 +162,7 @@ void Drawing::DrawPage(VEKPrtImageElt& ioPage) {
     _place.area = box;
     _tolerance = 1e-5 * std::max(box.width, box.height);
 
-    cairo_save(_cairo);
+    const Scope state(*this, ioPage, {}, true);
     cairo_new_path(_cairo);
     cairo_rectangle(_cairo, 0, 0, size.width, size.height);
     cairo_clip(_cairo);
@@ -173,11 +173,8 @@ void Drawing::DrawPage(VEKPrtImageElt& ioPage) {
     cairo_set_miter_limit(_cairo, mitreLimit);
     cairo_set_dash(_cairo, nullptr, 0, 0);
     MeasureBound();
-    {
-        const Scope scope(*this, ioPage, PlacementOf(ioPage));
-        if (scope) DrawChildren(ioPage);
-    }
-    cairo_restore(_cairo);
+    const Scope scope(*this, ioPage, PlacementOf(ioPage));
+    if (scope) DrawChildren(ioPage);
 }
 
 void Drawing::MeasureBound() {

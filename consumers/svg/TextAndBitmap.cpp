@@ -7,7 +7,7 @@ namespace vekprt::svg {
 namespace {
 
 // Most renderers put the spacing after the last letter, too, others between letters only.  An invisible mark
-// at the end makes them agree, and the text is moved by what is too much.
+// at the end makes them agree, and the text is moved by the surplus.
 bool NeedsEndMark(const Lettering& iLettering) {
     return iLettering.spacing != 0.0 && !iLettering.isVertical && iLettering.left > 0.0;
 }

@@ -108,7 +108,7 @@ void XmlWriter::CloseTag() {
     _inTag = false;
 }
 
-// No white space is added where text stands: it would become part of it.
+// No white space is added next to text: it would become part of it.
 void XmlWriter::NewLine() {
     constexpr std::size_t maxIndent = 20;
     if (!_open.empty() && _open.back().hasText) return;

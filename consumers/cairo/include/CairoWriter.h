@@ -22,7 +22,8 @@ namespace vekprt {
 /// missing from the drawing.  GLib, under Pango, ends the process when it cannot allocate.
 /// @{
 
-/// Draws the page at position \p iPage (from 1) on \p ioTarget, and leaves its state as it was.
+/// Draws the page at position \p iPage (from 1) on \p ioTarget, and leaves its state as it was, but
+/// for the path.
 ///
 /// The page's upper left corner comes to the origin, and a point of 1/72 inch is one unit: this is what
 /// cairo's PDF and PostScript surfaces have; for others, scale before.  The page is clipped to its size, and
