@@ -1,6 +1,7 @@
 // What comparing pictures cannot see: units, names, links, limits, failures.
 #include <cairo.h>
 
+#include <array>
 #include <cmath>
 #include <functional>
 #include <sstream>
@@ -8,6 +9,7 @@
 #include "CairoWriter.h"
 #include "Fields.h"
 #include "Nurbs.h"
+#include "Path.h"
 #include "SvgWriter.h"
 
 namespace {
@@ -233,6 +235,16 @@ const SvgRow g_rows[] = {
      {{R"x(<text transform="translate(1,2) scale(1,-1)" x="1" y="3.6" font-family)x", 1},
       {"xml:space=\"preserve\"", 1},
       {"<title>title</title> a  b \u200E</text>", 1}}},
+    {"vertical text: an accent stays with its letter, spacing lies between letters",
+     [](Page& ioPage) {
+         const auto text = ioPage.Add<VEKPrtTextElt>(Point(1, 2), VEKUnicodeString("Ae\u0301"));
+         VEKPrtTextAttributes attributes;
+         attributes.SetAnchor(Value<VEKPrintTextAttribute>(33));
+         attributes.SetExtraSpacing(2.0);
+         attributes.SetWritingMode(VEKPrtTextVertical);
+         text->SetTextAttributes(attributes);
+     },
+     {{" y=\"-2.4\"", 1}, {"<tspan", 2}, {"dy=\"12\"", 1}, {"letter-spacing", 0}}},
     {"figures turn what runs the other way",
      [](Page& ioPage) {
          const auto region = Make<VEKPrtClosedFigureRegionElt>();
@@ -440,6 +452,12 @@ TEST(Results, TellThatMemoryRanOut) {
     }
     cairo_destroy(context);
     cairo_surface_destroy(picture);
+}
+
+TEST(Arcs, RunToTheEndAngleWithinOneTurn) {
+    for (const auto& [start, end, reached] :
+         {std::array{30, 30, 390}, {350, 10, 370}, {0, 450, 90}, {0, -90, 270}})
+        EXPECT_EQ(drawing::ArcEnd(start, end), reached);
 }
 
 TEST(Nurbs, DrawsACircleAndHonoursTheBounds) {
