@@ -261,6 +261,13 @@ const SvgRow g_rows[] = {
      },
      {{"d=\"M0,0l20,0 20,0q10,5 20,0l20,1 10,0Z\"", 1}},
      1},
+    {"a figure of a rectangle",
+     [](Page& ioPage) {
+         const auto region = Make<VEKPrtClosedFigureRegionElt>();
+         region->AddChild(Make<VEKPrtRectangleElt>(Point(0, 20), Point(4, 22)).Get());
+         ioPage.Add<VEKPrtClosedFigureElt>()->AddChild(region.Get());
+     },
+     {{"d=\"M0,20l4,0 0,2 -4,0Z\"", 1}}},
     {"what depends on the place is written again",
      [](Page& ioPage) {
          const double third[] = {0, 0, 1.0 / 3, 0};
