@@ -261,6 +261,14 @@ const SvgRow g_rows[] = {
      },
      {{"d=\"M0,0l20,0 20,0q10,5 20,0l20,1 10,0Z\"", 1}},
      1},
+    {"absolute segments in long paths, at which floats that are added up find back",
+     [](Page& ioPage) {
+         std::vector<double> points;
+         for (int i = 0; i < 131; ++i)
+             points.insert(points.end(), {i * 0.25, 20.0 + i % 2});
+         ioPage.Add<VEKPrtPolylineElt>(points.data(), 131);
+     },
+     {{"L16.25,21", 1}, {"L32.5,20", 1}, {"L", 2}}},
     {"a figure of a rectangle",
      [](Page& ioPage) {
          const auto region = Make<VEKPrtClosedFigureRegionElt>();
@@ -334,20 +342,28 @@ TEST(Svg, SurvivesACycle) {
     inner->RemoveChild(outer.Get());
 }
 
-TEST(Cairo, PagesHaveTheirSizeAndTitle) {
-    const std::pair<int, const char*> units[] = {{0, "75 37.5"},
-                                                 {1, "100 50"},
-                                                 {2, "1200 600"},
-                                                 {3, "7200 3600"},
-                                                 {4, "283.464567 141.732283"},
-                                                 {5, "2834.645669 1417.322835"},
-                                                 {6, "283464.566929 141732.283465"}};
-    for (const auto& [unit, size] : units) {
+TEST(Writers, GivePagesTheirSizeAndTitle) {
+    struct Unit {
+        const char *svg, *pdf;
+    };
+    const Unit units[] = {{"100px", "75 37.5"},
+                          {"100pt", "100 50"},
+                          {"100pc", "1200 600"},
+                          {"100in", "7200 3600"},
+                          {"100mm", "283.464567 141.732283"},
+                          {"100cm", "2834.645669 1417.322835"},
+                          {"100000mm", "283464.566929 141732.283465"}};
+    for (const Unit& unit : units) {
         Page page;
-        page.image->SetUnits(static_cast<VEKPrtImageUnits>(unit));
+        page.image->SetUnits(static_cast<VEKPrtImageUnits>(&unit - units));
         page.image->SetTitle("the title");
         const std::string pdf = page.Pdf();
-        EXPECT_EQ(CountOf(pdf, "/MediaBox [ 0 0 " + std::string(size) + " ]"), 1) << unit << '\n' << pdf;
+        EXPECT_EQ(CountOf(page.Svg(), "<svg xmlns=\"http://www.w3.org/2000/svg\" "
+                                      "xmlns:xlink=\"http://www.w3.org/1999/xlink\" width=\"" +
+                                          std::string(unit.svg)),
+                  1)
+            << unit.svg;
+        EXPECT_EQ(CountOf(pdf, "/MediaBox [ 0 0 " + std::string(unit.pdf) + " ]"), 1) << unit.svg;
         EXPECT_EQ(CountOf(pdf, "/Title (the title)"), 2) << "of the document, and in the outline";
     }
 }
