@@ -24,8 +24,9 @@ struct Span {
         const double t = (iParameter - from) / (to - from);
         const auto degree = static_cast<double>(points.size() - 1);
         VEKMathPoint2D result(points[0].x, points[0].y);
-        double share = 1.0, k = 1.0;
-        for (std::size_t i = 1; i < points.size(); ++i, k += 1.0) {
+        double share = 1.0;
+        for (std::size_t i = 1; i < points.size(); ++i) {
+            const auto k = static_cast<double>(i);
             const double growth =
                 (degree - k + 1.0) * t * points[i].weight / (k * (1.0 - t) * points[i - 1].weight);
             share = 1.0 / (1.0 + 1.0 / (growth * share));
@@ -121,8 +122,11 @@ std::vector<VEKMathPoint2D> SampleNurbs(const VEKPrtNURBSElt& iCurve, double iTo
     const double tolerance = std::max(iTolerance, (*ends.second - *ends.first) * 1e-6);
 
     std::vector<ControlPoint> controls;
-    for (int i = 0; i < count; ++i)
-        controls.push_back({points[2 * i] * weights[i], points[2 * i + 1] * weights[i], weights[i]});
+    controls.reserve(static_cast<std::size_t>(count));
+    for (int i = 0; i < count; ++i) {
+        const double* const point = points + 2 * static_cast<std::ptrdiff_t>(i);
+        controls.push_back({point[0] * weights[i], point[1] * weights[i], weights[i]});
+    }
     std::vector<VEKMathPoint2D> samples;
     for (int i = order - 1; i < count; ++i) {
         const double from = std::max(knots[i], first), to = std::min(knots[i + 1], last);
