@@ -160,7 +160,8 @@ TEST(Transform, ReplaysFromPresets) {
 // A failed addition leaves a raised count, with which copies get blank values, and loses the old array.
 TEST(Transform, LosesItsValuesWhenAnAdditionFails) {
     const DemandedLeak leak(0, 14);
-    for (const auto& [kind, value] : g_oneOfEach) {
+    for (const auto& entry : g_oneOfEach) {
+        const int kind = entry.first;
         Transform first, later = Changed<Transform>(), target;
         WithFault(0, [&] { EXPECT_EQ(g_kinds[kind].add(first, 1), -1); });
         WithFault(0, [&] { EXPECT_EQ(g_kinds[kind].add(later, 1), -1); });

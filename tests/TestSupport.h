@@ -35,18 +35,20 @@ typename Join<std::conditional_t<Has<Classes>::value, testing::Types<Classes>, t
 template <template <class> class Has>
 using ElementsWith = decltype(Filter<Has>(ElementClasses()));
 
+// Found for a class that has the function; the overloads with an ellipsis for one that has not.
+template <class Class>
+auto SetsPoints(Class* ioElement)
+    -> decltype(ioElement->SetPoints(static_cast<const double*>(nullptr), 0), std::true_type());
+std::false_type SetsPoints(...);
+template <class Class>
+auto HasList(Class* ioHolder) -> decltype(ListOf(*ioHolder), std::true_type());
+std::false_type HasList(...);
 /// An array of points that is set alone.
-template <class Class, class = void>
-struct HasPoints : std::false_type {};
 template <class Class>
-struct HasPoints<
-    Class, std::void_t<decltype(std::declval<Class&>().SetPoints(static_cast<const double*>(nullptr), 0))>>
-    : std::true_type {};
+struct HasPoints : decltype(SetsPoints(static_cast<Class*>(nullptr))) {};
 /// Members by reference count, of whatever class.
-template <class Class, class = void>
-struct HasMembers : std::false_type {};
 template <class Class>
-struct HasMembers<Class, std::void_t<decltype(ListOf(std::declval<Class&>()))>> : std::true_type {};
+struct HasMembers : decltype(HasList(static_cast<Class*>(nullptr))) {};
 
 template <class>
 using Any = std::true_type;
