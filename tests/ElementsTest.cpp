@@ -100,6 +100,8 @@ TYPED_TEST(EveryElement, KeepsAndCopiesItsFields) {
     SetFields(*changed, 0);
     ExpectFields(*changed, 0, "set back");
     ExpectFields(*assigned, 1, "assigned, when the source has changed");
+    *assigned = *Make<TypeParam>();
+    ExpectFields(*assigned, 0, "assigned from a new one");
 }
 
 TYPED_TEST(EveryStroked, DuplicatesByItsRecipe) {
