@@ -46,14 +46,6 @@ struct Drawing {
     }
 };
 
-template <class Holder>
-std::string IdsIn(const Holder& iHolder) {
-    std::string joined;
-    for (const auto& child : ChildrenOf(iHolder))
-        joined += Id(child);
-    return joined;
-}
-
 } // namespace
 
 TEST(Children, ArePassedOverWhereTheyAreNull) {

@@ -138,6 +138,14 @@ std::string Id(const Element& iElement) {
     iElement.GetID(id);
     return id.ToUtf8();
 }
+/// The identifiers of the members, joined.
+template <class Holder>
+std::string IdsIn(const Holder& iHolder) {
+    std::string joined;
+    for (const auto& child : ChildrenOf(iHolder))
+        joined += Id(child);
+    return joined;
+}
 
 // All that hold members are alike but for the names.
 
