@@ -63,7 +63,6 @@ TYPED_TEST(EveryRecord, KeepsComparesAndCopiesItsFields) {
             for (std::size_t second = 0; second < field.count; ++second) {
                 field.set(assigned, second);
                 EXPECT_EQ(record == assigned, value == second) << field.name << value << second;
-                EXPECT_EQ(copied == assigned, value == second) << field.name << value << second;
             }
         }
 }

@@ -163,12 +163,5 @@ void AddTo(Holder& ioHolder, MemberOf<Holder>* iMember) {
     else
         ioHolder.AddChild(iMember);
 }
-template <class Holder>
-void RemoveFrom(Holder& ioHolder, MemberOf<Holder>* iMember) {
-    if constexpr (isModel<Holder>)
-        ioHolder.RemoveImage(iMember);
-    else
-        ioHolder.RemoveChild(iMember);
-}
 
 #endif
