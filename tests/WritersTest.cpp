@@ -512,7 +512,7 @@ TEST(Nurbs, DrawsACircleAndHonoursTheBounds) {
          drawing::SampleNurbs(*Make<VEKPrtNURBSElt>(4, 5, line, uneven, 0.5F, 0.5F + 2, ones), 1e-5, problem))
         EXPECT_TRUE(point.GetX() >= 0.5 - 1e-9 && point.GetX() <= 2.5 + 1e-9) << point.GetX();
 
-    const double decreasing[] = {0, 0, 1, 0, 1, 1}, plain[] = {0, 0, 0, 1, 1, 1}, zero[] = {1, 0, 1};
+    const double decreasing[] = {0, 0, 1, 0, 1, 1}, plain[] = {0, 0, 0, 1, 1, 1, 1}, zero[] = {1, 0, 1};
     using N = VEKPrtNURBSElt;
     for (const auto& curve :
          {Make<N>(), Make<N>(4, 3, points, plain, 0.0F, 1.0F, ones),
