@@ -1,5 +1,6 @@
 // Arrays of points.  What an element holds is compared as text: counts, then arrays, "none" where one is
 // missing.
+#include <array>
 #include <climits>
 #include <sstream>
 

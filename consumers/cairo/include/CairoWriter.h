@@ -1,4 +1,5 @@
-// Draws pages of a model by cairo: on any of its surfaces, as PDF, as PNG.
+/// \file
+/// Draws pages of a model by cairo: on any of its surfaces, as PDF, as PNG.
 #ifndef CairoWriter_H
 #define CairoWriter_H
 
@@ -7,6 +8,7 @@
 
 #include "WriteResult.h"
 
+/// Declared here as cairo.h does, which need not be included.
 typedef struct _cairo cairo_t;
 class VEKPrtModel;
 

@@ -1,4 +1,5 @@
-// How writing a page or a model has ended.
+/// \file
+/// How writing a page or a model has ended.
 #ifndef WriteResult_H
 #define WriteResult_H
 
@@ -6,6 +7,7 @@ namespace vekprt {
 
 /// Result of the functions that write; converts to true when everything was written.
 struct WriteResult {
+    /// How much was written, and why not all.
     enum Status {
         Written,
         /// Nothing was written.
