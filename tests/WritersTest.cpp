@@ -3,7 +3,10 @@
 
 #include <array>
 #include <cmath>
+#include <cstdlib>
+#include <fstream>
 #include <functional>
+#include <regex>
 #include <sstream>
 
 #include "CairoWriter.h"
@@ -84,36 +87,26 @@ void AddTwice(Container& ioContainer, VEKPrtGraphicPrimitiveElt* iChild) {
         ioContainer.AddChild(iChild);
 }
 
-// What the document holds, and how often; how many warnings there are.
-struct SvgRow {
-    const char* name;
-    std::function<void(Page&)> make;
-    std::vector<std::pair<const char*, int>> parts;
-    int warnings = 0;
-};
+using AnyElement = VEKRef<VEKPrtGraphicPrimitiveElt>;
+template <class... Classes>
+void AddEach(Page& ioPage, ClassList<Classes...>) {
+    (ioPage.Add<Classes>()->SetID(Classes::ClassName()), ...);
+}
 
-const SvgRow g_rows[] = {
-    {"page",
-     [](Page&) {},
-     {{R"(width="100cm" height="50cm" viewBox="-5 -60 100 50")", 1}, {"\"scale(1,-1)\"", 1}}},
-    {"page matrix, row by row",
-     [](Page& ioPage) { ioPage.image->SetMatrix(Matrix(1, 2, 3, 4)); },
-     {{"scale(1,-1) matrix(1 3 2 4 0 0)", 1}}},
+const std::pair<const char*, std::function<void(Page&)>> g_pages[] = {
+    {"empty", [](Page&) {}},
+    {"page matrix, row by row", [](Page& ioPage) { ioPage.image->SetMatrix(Matrix(1, 2, 3, 4)); }},
     {"noise of a computed matrix",
-     [](Page& ioPage) { ioPage.image->SetMatrix(Matrix(6e-17, 1, -1, 6e-17)); },
-     {{"matrix(0 -1 1 0 0 0)", 1}}},
-    {"unknown units",
-     [](Page& ioPage) { ioPage.image->SetUnits(static_cast<VEKPrtImageUnits>(7)); },
-     {{"\"100mm\"", 1}},
-     1},
-    {"no size", [](Page& ioPage) { ioPage.image->SetSize(0, 0); }, {{"viewBox", 0}}, 1},
+     [](Page& ioPage) { ioPage.image->SetMatrix(Matrix(6e-17, 1, -1, 6e-17)); }},
+    {"unknown units", [](Page& ioPage) { ioPage.image->SetUnits(static_cast<VEKPrtImageUnits>(7)); }},
+    {"no size", [](Page& ioPage) { ioPage.image->SetSize(0, 0); }},
+    {"each class with nothing set", [](Page& ioPage) { AddEach(ioPage, ElementClasses()); }},
     {"escapes",
      [](Page& ioPage) {
          const auto line = ioPage.Add<VEKPrtLineElt>();
          line->SetTitle("a < b & \"c\"");
          line->SetDescription("bad \x01\xFF\xC3 text");
-     },
-     {{"<title>a &lt; b &amp; &quot;c&quot;</title>", 1}, {"<desc>bad \uFFFD\uFFFD\uFFFD text</desc>", 1}}},
+     }},
     {"names",
      [](Page& ioPage) {
          for (const char* const id : {"gr\u00F6\u00DFe.1", "2 b", "-a:b", "\xFF", "svg-clip-1", "2 b"})
@@ -121,43 +114,23 @@ const SvgRow g_rows[] = {
          ioPage.Add<VEKPrtSymbolElt>(Point(), 1.0, 1.0);
          ioPage.Link("#2 b");
          ioPage.Link("#2%20b");
-     },
-     {{"id=\"gr\u00F6\u00DFe.1\"", 1},
-      {"id=\"_x32__x20_b\"", 1},
-      {"id=\"_x2D_a_x3A_b\"", 1},
-      {"id=\"_xFFFD_\"", 1},
-      {"id=\"svg-clip-1\"", 1},
-      {"href=\"#_x32__x20_b\"", 2}},
-     5},
+     }},
     {"warnings in one line",
-     [](Page& ioPage) { ioPage.Add<VEKPrtMarkerElt>(Point(NAN, 0), 1.0)->SetID("a\nb"); },
-     {{"<path", 0}},
-     1},
+     [](Page& ioPage) { ioPage.Add<VEKPrtMarkerElt>(Point(NAN, 0), 1.0)->SetID("a\nb"); }},
     {"links that run programs",
      [](Page& ioPage) {
          for (const char* const uri :
               {"javascript:alert(1)", " \x01JavaScript:x", "java\nscript:x", "vbscript:x", "data:text/html,x",
                "https://example.org/?a=1&q=javascript:x", "javascript.html", "mailto:a@example.org"})
              ioPage.Link(uri);
-     },
-     {{"<a ", 3}},
-     5},
-    {"a colour out of range",
+     }},
+    {"a colour out of range, unusable dashes, a negative width",
      [](Page& ioPage) {
-         Stroke stroke;
-         stroke.SetStrokeColourIndex(2);
-         ioPage.Add<VEKPrtLineElt>()->SetStrokeAttributes(stroke);
-     },
-     {{"stroke=\"#000000\"", 1}},
-     1},
-    {"an unusable dash pattern, a negative width",
-     [](Page& ioPage) {
-         ioPage.Add<VEKPrtLineElt>()->SetStrokeAttributes(Dashed({1, -1}));
-         ioPage.Add<VEKPrtLineElt>()->SetStrokeAttributes(Dashed({0, 0}));
-         ioPage.Add<VEKPrtLineElt>()->SetStrokeAttributes(Fixed(-1));
-     },
-     {{"stroke-dasharray", 0}, {"stroke=\"none\"", 1}},
-     1},
+         Stroke colourless;
+         colourless.SetStrokeColourIndex(2);
+         for (const Stroke& stroke : {colourless, Dashed({1, -1}), Dashed({0, 0}), Fixed(-1)})
+             ioPage.Add<VEKPrtLineElt>()->SetStrokeAttributes(stroke);
+     }},
     {"what is out of range",
      [](Page& ioPage) {
          const double bad[] = {0, 0, 1e39, 1};
@@ -173,19 +146,7 @@ const SvgRow g_rows[] = {
          ioPage.Add<VEKPrtRectangleElt>(nowhere, nowhere);
          ioPage.Add<VEKPrtCircleElt>(Point(), 1e39);
          ioPage.Add<VEKPrtGroupElt>()->SetTransformAttributes(far);
-     },
-     {{"\n  <", 0}},
-     8},
-    {"a child of each class that has nothing set",
-     [](Page& ioPage) {
-         for (const auto& element : {VEKRef<VEKPrtGraphicPrimitiveElt>(Make<VEKPrtPatternElt>()),
-                                     VEKRef<VEKPrtGraphicPrimitiveElt>(Make<VEKPrtBitmapImageElt>()),
-                                     VEKRef<VEKPrtGraphicPrimitiveElt>(Make<VEKPrtNURBSElt>()),
-                                     VEKRef<VEKPrtGraphicPrimitiveElt>(Make<VEKPrtClosedFigureElt>())})
-             ioPage.image->AddChild(element.Get());
-     },
-     {{"<g/>", 2}},
-     3},
+     }},
     {"deep nesting",
      [](Page& ioPage) {
          auto group = ioPage.Add<VEKPrtGroupElt>();
@@ -194,9 +155,7 @@ const SvgRow g_rows[] = {
              group->AddChild(inner.Get());
              group = inner;
          }
-     },
-     {{"<g", 231}},
-     1},
+     }},
     {"what is held often",
      [](Page& ioPage) {
          auto inner = Make<VEKPrtGroupElt>();
@@ -207,8 +166,7 @@ const SvgRow g_rows[] = {
              inner = outer;
          }
          ioPage.image->AddChild(inner.Get());
-     },
-     {{"<use", 20}, {"<line", 1}}},
+     }},
     {"an image that is used often",
      [](Page& ioPage) {
          const auto image = Make<VEKPixelImage>(2, 2);
@@ -221,30 +179,19 @@ const SvgRow g_rows[] = {
              circle->SetDrawStyle(VEKPrtDrawInterior);
              circle->SetFillAttributes(fill);
          }
-     },
-     {{"data:image/png", 1}, {"<pattern", 1}, {"fill=\"url(#svg-fill-", 3}}},
-    {"white space of texts",
+     }},
+    {"white space of texts; in vertical ones an accent stays with its letter, spacing lies between letters",
      [](Page& ioPage) {
-         const auto text = ioPage.Add<VEKPrtTextElt>(Point(1, 2), VEKUnicodeString(" a\n\tb "));
-         text->SetTitle("title");
          VEKPrtTextAttributes attributes;
          attributes.SetAnchor(Value<VEKPrintTextAttribute>(33));
          attributes.SetExtraSpacing(2.0);
-         text->SetTextAttributes(attributes);
-     },
-     {{R"x(<text transform="translate(1,2) scale(1,-1)" x="1" y="3.6" font-family)x", 1},
-      {"xml:space=\"preserve\"", 1},
-      {"<title>title</title> a  b \u200E</text>", 1}}},
-    {"vertical text: an accent stays with its letter, spacing lies between letters",
-     [](Page& ioPage) {
-         const auto text = ioPage.Add<VEKPrtTextElt>(Point(1, 2), VEKUnicodeString("Ae\u0301"));
-         VEKPrtTextAttributes attributes;
-         attributes.SetAnchor(Value<VEKPrintTextAttribute>(33));
-         attributes.SetExtraSpacing(2.0);
-         attributes.SetWritingMode(VEKPrtTextVertical);
-         text->SetTextAttributes(attributes);
-     },
-     {{" y=\"-2.4\"", 1}, {"<tspan", 2}, {"dy=\"12\"", 1}, {"letter-spacing", 0}}},
+         for (const char* const content : {" a\n\tb ", "Ae\u0301"}) {
+             const auto text = ioPage.Add<VEKPrtTextElt>(Point(1, 2), VEKUnicodeString(content));
+             text->SetTitle("title");
+             text->SetTextAttributes(attributes);
+             attributes.SetWritingMode(VEKPrtTextVertical);
+         }
+     }},
     {"figures turn what runs the other way",
      [](Page& ioPage) {
          const auto region = Make<VEKPrtClosedFigureRegionElt>();
@@ -257,32 +204,25 @@ const SvgRow g_rows[] = {
          Transform tenfold;
          tenfold.AddScaleX(10.0);
          region->SetTransformAttributes(tenfold);
-         ioPage.Add<VEKPrtClosedFigureElt>()->AddChild(region.Get());
-     },
-     {{"d=\"M0,0l20,0 20,0q10,5 20,0l20,1 10,0Z\"", 1}},
-     1},
+         const auto box = Make<VEKPrtClosedFigureRegionElt>();
+         box->AddChild(Make<VEKPrtRectangleElt>(Point(0, 20), Point(4, 22)).Get());
+         for (const auto& each : {region, box})
+             ioPage.Add<VEKPrtClosedFigureElt>()->AddChild(each.Get());
+     }},
     {"absolute segments in long paths, at which floats that are added up find back",
      [](Page& ioPage) {
          std::vector<double> points;
          for (int i = 0; i < 131; ++i)
              points.insert(points.end(), {i * 0.25, 20.0 + i % 2});
          ioPage.Add<VEKPrtPolylineElt>(points.data(), 131);
-     },
-     {{"L16.25,21", 1}, {"L32.5,20", 1}, {"L", 2}}},
-    {"a figure of a rectangle",
-     [](Page& ioPage) {
-         const auto region = Make<VEKPrtClosedFigureRegionElt>();
-         region->AddChild(Make<VEKPrtRectangleElt>(Point(0, 20), Point(4, 22)).Get());
-         ioPage.Add<VEKPrtClosedFigureElt>()->AddChild(region.Get());
-     },
-     {{"d=\"M0,20l4,0 0,2 -4,0Z\"", 1}}},
+     }},
     {"what depends on the place is written again",
      [](Page& ioPage) {
          const double third[] = {0, 0, 1.0 / 3, 0};
          const auto line = Make<VEKPrtLineElt>(), fixed = Make<VEKPrtLineElt>();
          const auto polyline = Make<VEKPrtPolylineElt>(third, 2);
          const auto pattern = Make<VEKPrtPatternElt>(Point(), 1.0, 1.0);
-         const auto blue = Make<VEKPrtImageElt>(), quarter = Make<VEKPrtImageElt>();
+         const auto blue = Make<VEKPrtImageElt>();
          auto* const table = new VEKPrtColourTable;
          unsigned index = 0;
          table->AddColour(0, 0, 9, index);
@@ -291,39 +231,43 @@ const SvgRow g_rows[] = {
          const auto scaled = Scaled(0.5, 0.125), fine = Scaled(0.001, 0.001); // 0.25 in the mean
          blue->AddChild(line.Get());
          fine->AddChild(polyline.Get());
-         for (VEKPrtGraphicPrimitiveElt* const element :
-              {static_cast<VEKPrtGraphicPrimitiveElt*>(line.Get()),
-               static_cast<VEKPrtGraphicPrimitiveElt*>(fixed.Get()),
-               static_cast<VEKPrtGraphicPrimitiveElt*>(polyline.Get()),
-               static_cast<VEKPrtGraphicPrimitiveElt*>(pattern.Get())}) {
-             AddTwice(*scaled, element);
-             AddTwice(*ioPage.image, element);
+         for (const AnyElement& element :
+              {AnyElement(line), AnyElement(fixed), AnyElement(polyline), AnyElement(pattern)}) {
+             AddTwice(*scaled, element.Get());
+             AddTwice(*ioPage.image, element.Get());
          }
-         for (const auto& container :
-              {VEKRef<VEKPrtGraphicPrimitiveElt>(blue), VEKRef<VEKPrtGraphicPrimitiveElt>(scaled),
-               VEKRef<VEKPrtGraphicPrimitiveElt>(fine)})
+         for (const AnyElement& container : {AnyElement(blue), AnyElement(scaled), AnyElement(fine)})
              ioPage.image->AddChild(container.Get());
-     },
-     {{"stroke=\"#000009\"", 1},
-      {"stroke-width=\"0.4\" stroke-dasharray=\"0.4 0.8\"", 1},
-      {"stroke-width=\"0.1\" stroke-dasharray=\"0.1 0.2\"", 1},
-      {"d=\"M0,0l0.3333,0\"", 1},
-      {"d=\"M0,0l0.3,0\"", 0},
-      {"width=\"100\" height=\"50\" fill=\"url", 1},
-      {"width=\"200\" height=\"400\" fill=\"url", 1}}},
+     }},
 };
+
+// Without indentation and pixels (their compression varies); of equal lines there is one, with their number.
+std::string Folded(const std::string& iText) {
+    std::istringstream lines(std::regex_replace(iText, std::regex("\n *|base64,[^\"]*"), "\n"));
+    std::string folded, last;
+    int times = 0;
+    for (std::string line; std::getline(lines, line); last = line) {
+        if (line != last && times > 1) folded += "(" + std::to_string(times) + " times)\n";
+        times = line == last ? times + 1 : 1;
+        if (times == 1) folded += line + '\n';
+    }
+    return folded;
+}
 
 } // namespace
 
-TEST(Svg, SaysWhatPicturesDoNotShow) {
-    for (const SvgRow& row : g_rows) {
+// VEKPRT_RECORD in the environment has the pages recorded anew.
+TEST(Svg, IsAsRecorded) {
+    std::string written;
+    for (const auto& [name, make] : g_pages) {
         Page page;
-        row.make(page);
-        const std::string text = page.Svg();
-        for (const auto& [part, count] : row.parts)
-            EXPECT_EQ(CountOf(text, part), count) << row.name << ": " << part << '\n' << text.substr(0, 1500);
-        EXPECT_EQ(page.WarningCount(), row.warnings) << row.name << '\n' << page.warnings;
+        make(page);
+        written += std::string("== ") + name + '\n' + Folded(page.Svg() + page.warnings);
     }
+    if (std::getenv("VEKPRT_RECORD")) std::ofstream(PAGES) << written;
+    std::ostringstream recorded;
+    recorded << std::ifstream(PAGES).rdbuf();
+    EXPECT_EQ(recorded.str(), written) << "scripts/record renews tests/pages.txt";
 }
 
 TEST(Svg, SurvivesACycle) {
@@ -343,28 +287,21 @@ TEST(Svg, SurvivesACycle) {
 }
 
 TEST(Writers, GivePagesTheirSizeAndTitle) {
-    struct Unit {
-        const char *svg, *pdf;
-    };
-    const Unit units[] = {{"100px", "75 37.5"},
-                          {"100pt", "100 50"},
-                          {"100pc", "1200 600"},
-                          {"100in", "7200 3600"},
-                          {"100mm", "283.464567 141.732283"},
-                          {"100cm", "2834.645669 1417.322835"},
-                          {"100000mm", "283464.566929 141732.283465"}};
-    for (const Unit& unit : units) {
+    const std::pair<std::string, std::string> units[] = {{"100px", "75 37.5"},
+                                                         {"100pt", "100 50"},
+                                                         {"100pc", "1200 600"},
+                                                         {"100in", "7200 3600"},
+                                                         {"100mm", "283.464567 141.732283"},
+                                                         {"100cm", "2834.645669 1417.322835"},
+                                                         {"100000mm", "283464.566929 141732.283465"}};
+    int unit = 0;
+    for (const auto& [svg, pdf] : units) {
         Page page;
-        page.image->SetUnits(static_cast<VEKPrtImageUnits>(&unit - units));
+        page.image->SetUnits(static_cast<VEKPrtImageUnits>(unit++));
         page.image->SetTitle("the title");
-        const std::string pdf = page.Pdf();
-        EXPECT_EQ(CountOf(page.Svg(), "<svg xmlns=\"http://www.w3.org/2000/svg\" "
-                                      "xmlns:xlink=\"http://www.w3.org/1999/xlink\" width=\"" +
-                                          std::string(unit.svg)),
-                  1)
-            << unit.svg;
-        EXPECT_EQ(CountOf(pdf, "/MediaBox [ 0 0 " + std::string(unit.pdf) + " ]"), 1) << unit.svg;
-        EXPECT_EQ(CountOf(pdf, "/Title (the title)"), 2) << "of the document, and in the outline";
+        EXPECT_EQ(CountOf(page.Svg(), " width=\"" + svg + "\" height"), 1) << svg;
+        EXPECT_EQ(CountOf(page.Pdf(), "/MediaBox [ 0 0 " + pdf + " ]"), 1) << svg;
+        EXPECT_EQ(CountOf(page.Pdf(), "/Title (the title)"), 2) << "of the document, and in the outline";
     }
 }
 
@@ -522,12 +459,4 @@ TEST(Nurbs, DrawsACircleAndHonoursTheBounds) {
         EXPECT_TRUE(drawing::SampleNurbs(*curve, 0.1, problem).empty());
         EXPECT_NE(problem, "");
     }
-}
-
-// A page and its only child are written with their identifiers, whatever class the child has.
-SUITE_OF(SvgOfEvery, AllElements);
-TYPED_TEST(SvgOfEvery, ElementIsHandledEvenWithNothingSet) {
-    Page page;
-    page.Add<TypeParam>()->SetID("the-id");
-    EXPECT_EQ(CountOf(page.Svg(), "id=\"the-id\""), 1);
 }
