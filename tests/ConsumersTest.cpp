@@ -46,20 +46,9 @@ public:
                 sum += At(x, y)[iChannel];
         return sum / 9;
     }
-    // Side by side.
-    static void Save(std::initializer_list<const Picture*> iPictures, const std::string& iFile) {
-        const Picture& first = **iPictures.begin();
-        Picture strip(first.width * static_cast<int>(iPictures.size()), first.height);
-        strip.Draw([&](cairo_t* ioCairo) {
-            double x = 0;
-            for (const Picture* const picture : iPictures) {
-                cairo_surface_mark_dirty(picture->_surface.get());
-                cairo_set_source_surface(ioCairo, picture->_surface.get(), x, 0);
-                cairo_paint(ioCairo);
-                x += first.width;
-            }
-        });
-        cairo_surface_write_to_png(strip._surface.get(), iFile.c_str());
+    void Save(const std::string& iFile) const {
+        cairo_surface_mark_dirty(_surface.get());
+        cairo_surface_write_to_png(_surface.get(), iFile.c_str());
     }
     const int width, height;
 
@@ -92,8 +81,8 @@ struct Distance {
 // Measured.  librsvg smooths the tiles of patterns; dashes add up small differences.
 constexpr Distance g_ofCells = {16, 0.5}, g_ofPatternFills = {100, 3.2}, g_ofRandomDrawings = {40, 2.0};
 
-// Draws the page both ways.  Where the pictures are too far apart, they and their difference are left as a
-// file.
+// Draws the page both ways.  Where the pictures are too far apart, they and their difference are left as
+// files.
 void Compare(const VEKPrtModel& iModel, const std::string& iName, const Distance& iLimit) {
     VEKPrtImageElt& page = *ChildrenOf(iModel).begin();
     double width = 0, height = 0;
@@ -134,8 +123,10 @@ void Compare(const VEKPrtModel& iModel, const std::string& iName, const Distance
     distance.mean /= 3.0 * pixelsX * pixelsY;
     if (distance.worst <= iLimit.worst && distance.mean <= iLimit.mean) return;
     ADD_FAILURE() << iName << ": the worst pixel is " << distance.worst << " apart, the mean "
-                  << distance.mean << "; see " << iName << ".png";
-    Picture::Save({&first, &second, &difference}, iName + ".png");
+                  << distance.mean << "; see " << iName << "-*.png";
+    first.Save(iName + "-svg.png");
+    second.Save(iName + "-cairo.png");
+    difference.Save(iName + "-difference.png");
 }
 
 // Drawings by seed: elements of all classes, with any attributes and transforms.

@@ -104,6 +104,11 @@ grep -q '>A &lt; B</text>' "$work/no-transform.svg" || fail "the name of the cou
 grep -q '^177 areas from object "countries"; the file has "countries" "land"$' "$work/stdout" || fail "reported: $(cat "$work/stdout")"
 [ -s "$work/stderr" ] && fail "complaints: $(cat "$work/stderr")"
 [ "$(grep -l 'Data: A &amp; B' "$work/world"/*.svg | wc -l)" -eq 8 ] || fail "not eight pages with their credit"
+"$specimen" "$work/world/specimen.svg"
+for page in "$work/world"/*.svg; do
+    complaints=$(xmllint --noout "$page" 2>&1; rsvg-convert -w 400 "$page" -o "$page.png" 2>&1)
+    [ -z "$complaints" ] && [ -s "$page.png" ] || fail "$page is not rendered: $complaints"
+done
 "$atlas" "$world" "$work/land.svg" --level land | grep -q '^1 areas from object "land"' || fail "another level is not drawn"
 "$atlas" "$world" "$work/atlas.pdf" > /dev/null && "$specimen" "$work/specimen.png" || fail "a format is refused"
 [ "$(head -c 4 "$work/atlas.pdf")$(head -c 4 "$work/specimen.png" | tail -c 3)" = %PDFPNG ] || fail "an extension gives another format"
