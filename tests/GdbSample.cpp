@@ -6,18 +6,10 @@
 #include "VEKListPtrVEKMathPoint2D.h"
 #include "VEKPixelImage.h"
 #include "VEKPrtColourTable.h"
-#include "VEKPrtLineElt.h"
-#include "VEKPrtMarkerAttributes.h"
-#include "VEKPrtNURBSElt.h"
-#include "VEKPrtPolyPolygonElt.h"
-#include "VEKPrtPolylineElt.h"
-#include "VEKPrtTextAttributes.h"
 #include "VEKPrtValues.h"
 #include "VEKPrtWalk.h"
-#include "VEKRef.h"
 
-using vekprt::Make;
-using vekprt::VEKRef;
+using namespace vekprt;
 
 namespace {
 
@@ -66,7 +58,7 @@ int main() {
     transform.AddRotation(30);
     transform.AddMatrix(matrix);
     transform.AddTranslation({0, 5});
-    transform.AddTransform(vekprt::transformSkewX);
+    transform.AddTransform(transformSkewX);
 
     const double coordinates[] = {0, 0, 1, 1, 2, 0}, knots[] = {9, 0, 0, 0, 1, 1, 1},
                  weights[] = {9, 1, 0.5, 1};
