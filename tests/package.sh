@@ -14,16 +14,8 @@ project() {
     mkdir -p "$work/$1"
     { printf 'cmake_minimum_required(VERSION 3.22)\nproject(client CXX)\nadd_executable(client main.cpp)\n'; cat; } \
         > "$work/$1/CMakeLists.txt"
-    cat > "$work/$1/main.cpp" << 'END'
-#include "VEKPrtStrokeAttributes.h"
-int main() {
-    double width = 0.0;
-    VEKPrtStrokeAttributes stroke;
-    stroke.SetStrokeWidth(2.5);
-    stroke.GetStrokeWidth(width);
-    return width == 2.5 ? 0 : 1;
-}
-END
+    printf '#include "VEKPrtStrokeAttributes.h"\nint main() { return VEKPrtStrokeAttributes() == VEKPrtStrokeAttributes() ? 0 : 1; }\n' \
+        > "$work/$1/main.cpp"
     cat >> "$work/$1/CMakeLists.txt" << 'END'
 target_link_libraries(client PRIVATE VEKPrt2DModel::VEKPrt2DModel)
 target_link_options(client PRIVATE LINKER:--as-needed,--gc-sections)
@@ -70,7 +62,7 @@ END
 run find-package -DCMAKE_PREFIX_PATH="$work/stage"
 readelf -d "$work/find-package/build/client" | grep -q 'NEEDED.*VEKFramework' && fail "the client needs the framework itself"
 project unknown-component << 'END'
-find_package(VEKPrt2DModel 1 REQUIRED COMPONENTS Svg Wax)
+find_package(VEKPrt2DModel 1 REQUIRED COMPONENTS Svg Cairo Wax)
 END
 refused "an unknown component" 'no component Wax' \
     cmake -S "$work/unknown-component" -B "$work/unknown-component/build" -DCMAKE_PREFIX_PATH="$work/stage"
@@ -93,6 +85,10 @@ run quick-start -DCMAKE_PREFIX_PATH="$work/stage"
 # shellcheck disable=SC2046
 c++ "$work/quick-start/main.cpp" $(flags "$work/stage" VEKPrt2DModelSvg) -o "$work/plain"
 LD_LIBRARY_PATH=$libraries "$work/plain" | grep -q '<line .*stroke="#c81e28"' || fail "no line is drawn"
+sed 's/SvgWriter/CairoWriter/; s/WriteSvg(\*model, 1,/WritePdf(*model,/' "$work/quick-start/main.cpp" > "$work/pdf.cpp"
+# shellcheck disable=SC2046
+c++ "$work/pdf.cpp" $(flags "$work/stage" VEKPrt2DModelCairo) -o "$work/plain"
+LD_LIBRARY_PATH=$libraries "$work/plain" | grep -aq '%PDF' || fail "no PDF is written"
 
 # A host with a framework of its own, installed beside the reference; each client finds its own.
 hosted=$work/hosted
