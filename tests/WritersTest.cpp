@@ -276,6 +276,8 @@ TEST(Svg, IsAsRecorded) {
         Page page;
         make(page);
         written += std::string("== ") + name + '\n' + Folded(page.Svg() + page.warnings);
+        page.Pdf();
+        written += Folded(page.warnings);
     }
     if (std::getenv("VEKPRT_RECORD")) std::ofstream(PAGES) << written;
     std::ostringstream recorded;
@@ -321,15 +323,18 @@ TEST(Writers, GivePagesTheirSizeAndTitle) {
 TEST(Cairo, LinksBecomeAnnotations) {
     Page page;
     const auto outer = page.Link("https://example.org/(1)"), inner = page.Link("#x"),
-               nowhere = page.Link("#y");
-    for (const auto& group : {outer, inner, nowhere})
+               nowhere = page.Link("#y"), top = page.Link("#page");
+    for (const auto& group : {outer, inner, nowhere, top})
         group->AddChild(Make<VEKPrtRectangleElt>(Point(0, 20), Point(5, 30)).Get());
     outer->AddChild(inner.Get());
     outer->AddChild(Make<VEKPrtLineElt>(Point(0, 20), Point(5, 30)).Get());
     page.Add<VEKPrtLineElt>(Point(0, 20), Point(5, 30))->SetID("x");
+    page.image->SetID("page");
     const std::string pdf = page.Pdf();
     EXPECT_EQ(CountOf(pdf, "/URI (https://example.org/%281%29)"), 2) << "before and after the inner link";
-    EXPECT_EQ(CountOf(pdf, "/Subtype /Link"), 4) << pdf;
+    EXPECT_EQ(CountOf(pdf, "/Subtype /Link"), 5) << pdf;
+    EXPECT_EQ(CountOf(pdf, "(element-0)"), 2) << "the link to the page, and where it leads to";
+    EXPECT_EQ(CountOf(pdf, "(element-1)"), 3) << "the inner group is drawn twice";
     EXPECT_EQ(page.warnings, "");
 }
 

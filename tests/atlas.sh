@@ -111,6 +111,7 @@ for page in "$work/world"/*.svg; do
 done
 "$atlas" "$world" "$work/land.svg" --level land | grep -q '^1 areas from object "land"' || fail "another level is not drawn"
 "$atlas" "$world" "$work/atlas.pdf" > /dev/null && "$specimen" "$work/specimen.png" || fail "a format is refused"
+grep -aq '(element-7) \[' "$work/atlas.pdf" || fail "not eight pages are linked in the document"
 [ "$(head -c 4 "$work/atlas.pdf")$(head -c 4 "$work/specimen.png" | tail -c 3)" = %PDFPNG ] || fail "an extension gives another format"
 [ $failures -eq 0 ] && echo "atlas: all cases"
 exit $failures

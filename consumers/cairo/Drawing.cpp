@@ -148,6 +148,20 @@ Box SizeInPoints(const Reporter& iReporter, const VEKPrtImageElt& iPage) {
     return {box.x * point, box.y * point, box.width * point, box.height * point};
 }
 
+// Where links to the element's identifier lead.
+template <class Use>
+void Drawing::DrawAsDestination(const VEKPrtGraphicPrimitiveElt& iElement, Use iDraw) {
+    if (_destinations.empty()) return iDraw();
+    VEKUnicodeString id;
+    iElement.GetID(id);
+    const auto found = _destinations.find(id.ToUtf8());
+    if (found == _destinations.end() || found->second.isSet || _inPattern) return iDraw();
+    found->second.isSet = true;
+    cairo_tag_begin(_cairo, CAIRO_TAG_DEST, ("name='" + found->second.name + "'").c_str());
+    iDraw();
+    cairo_tag_end(_cairo, CAIRO_TAG_DEST);
+}
+
 void Drawing::DrawPage(VEKPrtImageElt& ioPage) {
     constexpr long minAllowance = 10000000, minOutlineAllowance = 100000, allowanceFactor = 10;
     const Contents contents = ContentsOf(ioPage);
@@ -174,7 +188,7 @@ void Drawing::DrawPage(VEKPrtImageElt& ioPage) {
     cairo_set_dash(_cairo, nullptr, 0, 0);
     MeasureBound();
     const Scope scope(*this, ioPage, PlacementOf(ioPage));
-    if (scope) DrawChildren(ioPage);
+    if (scope) DrawAsDestination(ioPage, [&] { DrawChildren(ioPage); });
 }
 
 void Drawing::MeasureBound() {
@@ -197,15 +211,7 @@ bool Drawing::Fits(const VEKPrtGraphicPrimitiveElt& iElement, std::initializer_l
 
 void Drawing::Draw(VEKPrtGraphicPrimitiveElt& ioElement) {
     if (--_allowance < 0) return _reporter.Warn(ioElement, "used at too many places; omitted");
-    if (_destinations.empty()) return Visit(ioElement, *this);
-    VEKUnicodeString id;
-    ioElement.GetID(id);
-    const auto found = _destinations.find(id.ToUtf8());
-    if (found == _destinations.end() || found->second.isSet || _inPattern) return Visit(ioElement, *this);
-    found->second.isSet = true;
-    cairo_tag_begin(_cairo, CAIRO_TAG_DEST, ("name='" + found->second.name + "'").c_str());
-    Visit(ioElement, *this);
-    cairo_tag_end(_cairo, CAIRO_TAG_DEST);
+    DrawAsDestination(ioElement, [&] { Visit(ioElement, *this); });
 }
 
 template <class Container>

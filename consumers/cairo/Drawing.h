@@ -56,6 +56,8 @@ public:
     /// The page, its upper left corner at the origin, and a point as one unit.
     void DrawPage(VEKPrtImageElt& ioPage);
     void Draw(VEKPrtGraphicPrimitiveElt& ioElement);
+    template <class Use>
+    void DrawAsDestination(const VEKPrtGraphicPrimitiveElt& iElement, Use iDraw);
 
     template <class Shape>
     std::enable_if_t<HasStroke<Shape>::value> operator()(Shape& ioShape);

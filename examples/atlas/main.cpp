@@ -30,7 +30,7 @@ void Run(const fs::path& iInput, const fs::path& iOutput, const std::string& iLe
          const std::string& iCredit) {
     const Topology topology = ReadTopology(ReadFile(iInput), iLevel);
     const std::string name = iInput.filename().string();
-    const Atlas atlas(topology, name.substr(0, name.find('.', 1)), iCredit);
+    const Atlas atlas(topology, name.substr(0, name.find('.', 1)), iCredit, iOutput.extension() == ".pdf");
     FileSet files;
     int number = 0;
     for (const VEKPrtImageElt& page : vekprt::ChildrenOf(atlas.Model())) {

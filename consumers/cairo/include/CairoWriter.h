@@ -37,8 +37,8 @@ WriteResult DrawPage(const VEKPrtModel& iModel, int iPage, cairo_t* ioTarget,
 /// Writes all pages as one PDF document, each at its true size, and flushes the stream.
 ///
 /// The title of the first page that has one becomes the document's, and each title an entry of the outline.
-/// Links of groups become link annotations; text stays text, with its fonts embedded.  A model without pages
-/// gives NoSuchPage.
+/// Links of groups become link annotations; "#id" leads to the element or page with that identifier.  Text
+/// stays text, with its fonts embedded.  A model without pages gives NoSuchPage.
 WriteResult WritePdf(const VEKPrtModel& iModel, std::ostream& ioStream, std::ostream& ioWarnings = std::cerr);
 
 /// Writes the page at position \p iPage (from 1) as PNG, on white, and flushes the stream.
