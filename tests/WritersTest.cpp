@@ -149,6 +149,8 @@ const std::pair<const char*, std::function<void(Page&)>> g_pages[] = {
          ioPage.Add<VEKPrtTextElt>(nowhere, VEKUnicodeString("x"));
          ioPage.Add<VEKPrtRectangleElt>(nowhere, nowhere);
          ioPage.Add<VEKPrtCircleElt>(Point(), 1e39);
+         ioPage.Add<VEKPrtEllipseElt>(Point(0, 1e5), 1.0, 2.5e5, 0.0F); // for cairo alone
+         ioPage.Add<VEKPrtBitmapImageElt>(Point(0, INFINITY), 1.0, 1.0, 0.0, Make<VEKPixelImage>(1, 1).Get());
          ioPage.Add<VEKPrtGroupElt>()->SetTransformAttributes(far);
      }},
     {"curves that cannot be drawn",
