@@ -340,21 +340,8 @@ TEST(Consumers, DrawAtRandomAlike) {
 }
 
 TEST(Consumers, DrawEachCellOfTheSpecimenAlike) {
-    const Specimen specimen = BuildSpecimen();
-    const VEKPrtImageElt& sheet = *ChildrenOf(*specimen.model).begin();
-    for (VEKPrtGraphicPrimitiveElt& cell : ChildrenOf(sheet)) {
-        Transform transform;
-        static_cast<VEKPrtGroupElt&>(cell).GetTransformAttributes(transform);
-        Vector corner(0, 0);
-        if (transform.GetTranslation(0, corner) != 1) continue;
-        const auto model = Make<VEKPrtModel>();
-        const auto page = Make<VEKPrtImageElt>(sheet);
-        while (!ChildrenOf(*page).IsEmpty())
-            page->RemoveChild(&*ChildrenOf(*page).begin());
-        page->SetOrigin(Point(corner.GetX(), corner.GetY()));
-        page->SetSize(50, 55.4);
-        page->AddChild(&cell);
-        model->AddImage(page.Get());
-        Compare(*model, Id(cell), Id(cell) == "pattern-fill" ? g_ofPatternFills : g_ofCells);
-    }
+    const std::vector<std::string> cells = SpecimenCells();
+    EXPECT_EQ(cells.size(), 38U);
+    for (const std::string& cell : cells)
+        Compare(*BuildSpecimenCell(cell).model, cell, cell == "pattern-fill" ? g_ofPatternFills : g_ofCells);
 }

@@ -1,4 +1,4 @@
-// The maps of the atlas, by numbers read from the model, and the cells of the specimen sheet.
+// The maps of the atlas, by numbers read from the model.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -8,8 +8,7 @@
 #include <sstream>
 
 #include "AtlasModel.h"
-#include "Specimen.h"
-#include "VEKPrtDump.h"
+#include "VEKPrtWalk.h"
 
 namespace {
 
@@ -338,22 +337,6 @@ TEST_F(WorldAtlas, NamesWhatHasRoom) {
             EXPECT_TRUE(size >= 1.8 && size <= 6.0);
         }
     }
-}
-
-TEST(Specimen, BuildsEachCellAsAPage) {
-    const Specimen sheet = BuildSpecimen();
-    const auto drawingOf = [](const Specimen& iSpecimen, const std::string& iCell) {
-        std::ostringstream text;
-        for (const VEKPrtGraphicPrimitiveElt& child :
-             ChildrenOf(dynamic_cast<VEKPrtGroupElt&>(*FindByID(*iSpecimen.model, iCell.c_str()))))
-            Dump(text, child);
-        return text.str();
-    };
-    const std::vector<std::string> cells = SpecimenCells();
-    EXPECT_EQ(std::set<std::string>(cells.begin(), cells.end()).size(), 38U);
-    for (const std::string& cell : cells)
-        EXPECT_EQ(drawingOf(BuildSpecimenCell(cell), cell), drawingOf(sheet, cell));
-    EXPECT_THROW(BuildSpecimenCell("no-cell"), std::out_of_range);
 }
 
 } // namespace
