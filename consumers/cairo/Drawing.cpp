@@ -33,15 +33,6 @@ void SetSource(cairo_t* ioCairo, cairo_surface_t* iSurface, const Affine& iToSur
     cairo_pattern_set_filter(source, iFilter);
 }
 
-void TraceArc(cairo_t* ioCairo, const EllipseShape& iShape) {
-    cairo_save(ioCairo);
-    cairo_translate(ioCairo, iShape.centre.GetX(), iShape.centre.GetY());
-    cairo_rotate(ioCairo, Radians(iShape.slope));
-    cairo_scale(ioCairo, iShape.radiusX, iShape.radiusY);
-    cairo_arc(ioCairo, 0, 0, 1, Radians(iShape.start), Radians(iShape.end));
-    cairo_restore(ioCairo);
-}
-
 // As the value of a tag's attribute, and as a string of PDF, to which cairo copies it as it is.
 std::string Uri(const std::string& iLink) {
     static const char digits[] = "0123456789ABCDEF";
@@ -128,6 +119,65 @@ private:
     const double _bound;
     const bool _saves;
     bool _isVisible = true;
+};
+
+// Draws outlines as cairo's path, as far as its numbers have room for them.
+class Drawing::Pen {
+public:
+    Pen(cairo_t* iCairo, double iBound) : _cairo(iCairo), _bound(iBound) {}
+    bool Fits() const { return _fits; }
+
+    void MoveTo(const VEKMathPoint2D& iTo) {
+        if (HasRoomFor(iTo)) cairo_move_to(_cairo, iTo.GetX(), iTo.GetY());
+    }
+    void LineTo(const VEKMathPoint2D& iTo) {
+        if (HasRoomFor(iTo)) cairo_line_to(_cairo, iTo.GetX(), iTo.GetY());
+    }
+    // The same curve as a cubic one: each handle is two thirds of the way to the control point.
+    void QuadraticTo(const VEKMathPoint2D& iHandle, const VEKMathPoint2D& iTo) {
+        double x = 0, y = 0;
+        cairo_get_current_point(_cairo, &x, &y);
+        const auto handle = [&](double iX, double iY) {
+            return VEKMathPoint2D(iX + (iHandle.GetX() - iX) * 2 / 3, iY + (iHandle.GetY() - iY) * 2 / 3);
+        };
+        if (HasRoomFor(iHandle)) CubicTo(handle(x, y), handle(iTo.GetX(), iTo.GetY()), iTo);
+    }
+    void CubicTo(const VEKMathPoint2D& iFirst, const VEKMathPoint2D& iSecond, const VEKMathPoint2D& iTo) {
+        if (HasRoomFor(iFirst) && HasRoomFor(iSecond) && HasRoomFor(iTo))
+            cairo_curve_to(_cairo, iFirst.GetX(), iFirst.GetY(), iSecond.GetX(), iSecond.GetY(), iTo.GetX(),
+                           iTo.GetY());
+    }
+    void Close() { cairo_close_path(_cairo); }
+    void Rectangle(const VEKMathPoint2D& iFirst, const VEKMathPoint2D& iSecond) {
+        if (HasRoomFor(iFirst) && HasRoomFor(iSecond))
+            cairo_rectangle(
+                _cairo, std::min(iFirst.GetX(), iSecond.GetX()), std::min(iFirst.GetY(), iSecond.GetY()),
+                std::fabs(iSecond.GetX() - iFirst.GetX()), std::fabs(iSecond.GetY() - iFirst.GetY()));
+    }
+    void Arc(const EllipseShape& iShape) {
+        const VEKMathPoint2D reach(std::fabs(iShape.centre.GetX()) + std::fabs(iShape.radiusX),
+                                   std::fabs(iShape.centre.GetY()) + std::fabs(iShape.radiusY));
+        const bool isFinite = std::isfinite(iShape.start + iShape.end + iShape.slope);
+        _fits = HasRoomFor(reach) && isFinite;
+        if (!_fits || iShape.radiusX == 0.0 || iShape.radiusY == 0.0) return;
+        cairo_save(_cairo);
+        cairo_translate(_cairo, iShape.centre.GetX(), iShape.centre.GetY());
+        cairo_rotate(_cairo, Radians(iShape.slope));
+        cairo_scale(_cairo, iShape.radiusX, iShape.radiusY);
+        cairo_arc(_cairo, 0, 0, 1, Radians(iShape.start), Radians(iShape.end));
+        cairo_restore(_cairo);
+    }
+
+private:
+    // Once something has not fitted, no more is drawn.
+    bool HasRoomFor(const VEKMathPoint2D& iPoint) {
+        _fits = _fits && std::fabs(iPoint.GetX()) <= _bound && std::fabs(iPoint.GetY()) <= _bound;
+        return _fits;
+    }
+
+    cairo_t* const _cairo;
+    const double _bound;
+    bool _fits = true;
 };
 
 Drawing::Drawing(cairo_t* iCairo, const Reporter& iReporter, Images& ioImages, Destinations& ioDestinations)
@@ -230,17 +280,14 @@ void Drawing::DrawChildren(Container& ioContainer, int iNesting) {
 template <class Shape>
 std::enable_if_t<HasStroke<Shape>::value> Drawing::operator()(Shape& ioShape) {
     const Scope scope(*this, ioShape, PlacementOf(ioShape));
-    if (scope && Trace(ioShape)) Paint(ioShape, LookOf(_reporter, ioShape));
+    if (!scope) return;
+    Pen pen(_cairo, _bound);
+    Outliner<Pen>{_reporter, pen, _place.map, _tolerance, _nesting, _outlineAllowance}(ioShape);
+    if (!pen.Fits())
+        _reporter.WarnOutOfRange(ioShape);
+    else if (cairo_has_current_point(_cairo))
+        Paint(ioShape, LookOf(_reporter, ioShape));
     cairo_new_path(_cairo);
-}
-
-void Drawing::operator()(VEKPrtMarkerElt& ioMarker) {
-    const Scope scope(*this, ioMarker, PlacementOf(ioMarker));
-    const Marker marker = MarkerOf(ioMarker);
-    if (!scope || !TracePath(ioMarker, marker.path)) return;
-    Look look{StrokeOf(_reporter, ioMarker), {}};
-    if (marker.isFilled) look.fill = DiscFill(look.stroke);
-    Paint(ioMarker, look);
 }
 
 void Drawing::operator()(VEKPrtBitmapImageElt& ioBitmap) {
@@ -404,136 +451,6 @@ void Drawing::PaintStroke(const VEKPrtGraphicPrimitiveElt& iElement, const Strok
     cairo_set_dash(_cairo, dashes.data(), static_cast<int>(dashes.size()), 0);
     cairo_stroke(_cairo);
     cairo_set_dash(_cairo, nullptr, 0, 0);
-}
-
-bool Drawing::Trace(const VEKPrtLineElt& iLine) {
-    VEKMathPoint2D start(0.0, 0.0), end(0.0, 0.0);
-    iLine.GetParameters(start, end);
-    if (!Fits(iLine, {start.GetX(), start.GetY(), end.GetX(), end.GetY()})) return false;
-    cairo_move_to(_cairo, start.GetX(), start.GetY());
-    cairo_line_to(_cairo, end.GetX(), end.GetY());
-    return true;
-}
-
-bool Drawing::Trace(const VEKPrtRectangleElt& iRectangle) {
-    VEKMathPoint2D first(0.0, 0.0), second(0.0, 0.0);
-    iRectangle.GetPoints(first, second);
-    if (!Fits(iRectangle, {first.GetX(), first.GetY(), second.GetX(), second.GetY()})) return false;
-    cairo_rectangle(_cairo, std::min(first.GetX(), second.GetX()), std::min(first.GetY(), second.GetY()),
-                    std::fabs(second.GetX() - first.GetX()), std::fabs(second.GetY() - first.GetY()));
-    return true;
-}
-
-// Circles, ellipses and their arcs.
-template <class Round>
-bool Drawing::Trace(const Round& iRound) {
-    const EllipseShape shape = EllipseOf(iRound);
-    const double x = std::fabs(shape.centre.GetX()) + std::fabs(shape.radiusX);
-    const double y = std::fabs(shape.centre.GetY()) + std::fabs(shape.radiusY);
-    if (!Fits(iRound, {x, y, 0.0 * shape.start, 0.0 * shape.end, 0.0 * shape.slope})) return false;
-    if (shape.radiusX == 0.0 || shape.radiusY == 0.0) return false;
-    TraceArc(_cairo, shape);
-    if (std::is_same_v<Round, VEKPrtCircleElt> || std::is_same_v<Round, VEKPrtEllipseElt>)
-        cairo_close_path(_cairo);
-    return true;
-}
-
-bool Drawing::TracePoints(const VEKPrtGraphicPrimitiveElt& iElement, const PointSpan& iPoints) {
-    bool fits = true;
-    for (int i = 0; i < iPoints.count; ++i) {
-        const double x = iPoints[i][0], y = iPoints[i][1];
-        fits = fits && std::fabs(x) <= _bound && std::fabs(y) <= _bound;
-        if (i == 0)
-            cairo_move_to(_cairo, x, y);
-        else
-            cairo_line_to(_cairo, x, y);
-    }
-    if (!fits) _reporter.WarnOutOfRange(iElement);
-    return fits;
-}
-
-bool Drawing::Trace(const VEKPrtPolylineElt& iPolyline) {
-    return TracePoints(iPolyline, PointsOf(iPolyline));
-}
-
-bool Drawing::Trace(const VEKPrtPolygonElt& iPolygon) {
-    const bool fits = TracePoints(iPolygon, PointsOf(iPolygon));
-    cairo_close_path(_cairo);
-    return fits;
-}
-
-bool Drawing::Trace(const VEKPrtDisjointPolylineElt& iSegments) {
-    const PointSpan points = PointsOf(iSegments);
-    for (int i = 0; i + 1 < points.count; i += 2)
-        if (!TracePoints(iSegments, {points[i], 2})) return false;
-    return true;
-}
-
-bool Drawing::Trace(const VEKPrtPolyPolygonElt& iPolygons) {
-    for (const PointSpan& polygon : PointsOf(_reporter, iPolygons)) {
-        if (polygon.count > 0 && !TracePoints(iPolygons, polygon)) return false;
-        if (polygon.count > 0) cairo_close_path(_cairo);
-    }
-    return true;
-}
-
-bool Drawing::Trace(const VEKPrtPolyCubicBezierElt& iCurve) {
-    const PointSpan points = PointsOf(iCurve);
-    const int used = WholePieces(_reporter, iCurve, points, 3);
-    for (int i = 0; i < points.count; ++i)
-        if (!Fits(iCurve, {points[i][0], points[i][1]})) return false;
-    if (used > 0) cairo_move_to(_cairo, points[0][0], points[0][1]);
-    for (int i = 1; i < used; i += 3)
-        cairo_curve_to(_cairo, points[i][0], points[i][1], points[i + 1][0], points[i + 1][1],
-                       points[i + 2][0], points[i + 2][1]);
-    return true;
-}
-
-bool Drawing::Trace(const VEKPrtPolyQuadraticBezierElt& iCurve) {
-    Path path;
-    Outliner{_reporter, path, _tolerance}(iCurve);
-    return TracePath(iCurve, path);
-}
-
-bool Drawing::Trace(const VEKPrtNURBSElt& iCurve) {
-    const double stretch = _place.map.Stretch();
-    Path path;
-    Outliner{_reporter, path, stretch > 0.0 ? _tolerance / stretch : 0.0}(iCurve);
-    return TracePath(iCurve, path);
-}
-
-bool Drawing::Trace(const VEKPrtClosedFigureElt& iFigure) {
-    const double stretch = _place.map.Stretch();
-    return TracePath(iFigure, PathOf(_reporter, iFigure, stretch > 0.0 ? _tolerance / stretch : 0.0, _nesting,
-                                     _outlineAllowance));
-}
-
-bool Drawing::TracePath(const VEKPrtGraphicPrimitiveElt& iElement, const Path& iPath) {
-    for (const VEKMathPoint2D& point : iPath.Points())
-        if (!Fits(iElement, {point.GetX(), point.GetY()})) return false;
-    const VEKMathPoint2D* p = iPath.Points().data();
-    for (const char command : iPath.Commands()) {
-        switch (command) {
-        case 'M': cairo_move_to(_cairo, p->GetX(), p->GetY()); break;
-        case 'L': cairo_line_to(_cairo, p->GetX(), p->GetY()); break;
-        case 'Q': {
-            // The same curve as a cubic one: each handle is two thirds of the way to the control point.
-            double x = 0, y = 0;
-            cairo_get_current_point(_cairo, &x, &y);
-            cairo_curve_to(_cairo, x + (p[0].GetX() - x) * 2 / 3, y + (p[0].GetY() - y) * 2 / 3,
-                           p[1].GetX() + (p[0].GetX() - p[1].GetX()) * 2 / 3,
-                           p[1].GetY() + (p[0].GetY() - p[1].GetY()) * 2 / 3, p[1].GetX(), p[1].GetY());
-            break;
-        }
-        case 'C':
-            cairo_curve_to(_cairo, p[0].GetX(), p[0].GetY(), p[1].GetX(), p[1].GetY(), p[2].GetX(),
-                           p[2].GetY());
-            break;
-        default: cairo_close_path(_cairo);
-        }
-        p += command == 'Z' ? 0 : command == 'Q' ? 2 : command == 'C' ? 3 : 1;
-    }
-    return !iPath.Commands().empty();
 }
 
 void Drawing::operator()(VEKPrtTextElt& ioText) {

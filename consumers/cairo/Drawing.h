@@ -61,7 +61,6 @@ public:
 
     template <class Shape>
     std::enable_if_t<HasStroke<Shape>::value> operator()(Shape& ioShape);
-    void operator()(VEKPrtMarkerElt& ioMarker);
     void operator()(VEKPrtTextElt& ioText);
     void operator()(VEKPrtBitmapImageElt& ioBitmap);
     void operator()(VEKPrtGroupElt& ioGroup);
@@ -74,22 +73,7 @@ public:
 
 private:
     class Scope;
-
-    // Make a path; false, with a warning where something is amiss, when there is nothing to draw.
-    bool Trace(const VEKPrtLineElt& iLine);
-    bool Trace(const VEKPrtRectangleElt& iRectangle);
-    bool Trace(const VEKPrtPolylineElt& iPolyline);
-    bool Trace(const VEKPrtPolygonElt& iPolygon);
-    bool Trace(const VEKPrtDisjointPolylineElt& iSegments);
-    bool Trace(const VEKPrtPolyPolygonElt& iPolygons);
-    bool Trace(const VEKPrtPolyCubicBezierElt& iCurve);
-    bool Trace(const VEKPrtPolyQuadraticBezierElt& iCurve);
-    bool Trace(const VEKPrtNURBSElt& iCurve);
-    bool Trace(const VEKPrtClosedFigureElt& iFigure);
-    template <class Round>
-    bool Trace(const Round& iRound);
-    bool TracePath(const VEKPrtGraphicPrimitiveElt& iElement, const Path& iPath);
-    bool TracePoints(const VEKPrtGraphicPrimitiveElt& iElement, const PointSpan& iPoints);
+    class Pen;
 
     // The path is painted and then dropped.
     void Paint(const VEKPrtGraphicPrimitiveElt& iElement, const Look& iLook);

@@ -31,6 +31,7 @@ bool Affine::operator==(const Affine& iOther) const {
 
 double Affine::Scale() const { return std::sqrt(std::fabs(Determinant())); }
 double Affine::Stretch() const { return std::max(std::hypot(a, b), std::hypot(c, d)); }
+double Affine::Unstretched(double iLength) const { return Stretch() > 0.0 ? iLength / Stretch() : 0.0; }
 
 Affine Affine::Inverse() const {
     const double det = Determinant();

@@ -27,6 +27,8 @@ struct Affine {
     double Scale() const;
     /// The larger of the scale factors of the two axes.
     double Stretch() const;
+    /// A length where this leads to, as the one that is stretched to it; 0 where everything becomes a point.
+    double Unstretched(double iLength) const;
     /// Meant for maps whose determinant is not 0.
     Affine Inverse() const;
 };

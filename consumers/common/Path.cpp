@@ -18,46 +18,44 @@ bool Meet(const VEKMathPoint2D& iA, const VEKMathPoint2D& iB) {
 void Path::Add(char iCommand, std::initializer_list<VEKMathPoint2D> iPoints) {
     _commands += iCommand;
     for (const VEKMathPoint2D& point : iPoints)
-        _points.push_back(point);
-}
-
-void Path::QuadraticTo(const double* iTwoPoints) {
-    const double* const p = iTwoPoints;
-    Add('Q', {_map(p[0], p[1]), _map(p[2], p[3])});
-}
-
-void Path::CubicTo(const double* iThreePoints) {
-    const double* const p = iThreePoints;
-    Add('C', {_map(p[0], p[1]), _map(p[2], p[3]), _map(p[4], p[5])});
+        _points.push_back(_map(point.GetX(), point.GetY()));
 }
 
 void Path::Close() {
     if (IsOpen()) _commands += 'Z';
 }
 
-void Path::Arc(const VEKMathPoint2D& iCentre, double iRadiusX, double iRadiusY, double iSlope, double iStart,
-               double iEnd) {
-    if (!std::isfinite(iStart + iEnd)) return MoveTo(NAN, NAN);
+void Path::Rectangle(const VEKMathPoint2D& iFirst, const VEKMathPoint2D& iSecond) {
+    MoveTo(iFirst);
+    LineTo({iSecond.GetX(), iFirst.GetY()});
+    LineTo(iSecond);
+    LineTo({iFirst.GetX(), iSecond.GetY()});
+    Close();
+}
+
+void Path::Arc(const EllipseShape& iShape) {
+    if (!std::isfinite(iShape.start + iShape.end)) return MoveTo({NAN, NAN});
     // Pieces of 45 degrees at most: off the true arc by less than 5 millionths of the radius.
-    const int pieces = std::max(1, static_cast<int>(std::ceil((iEnd - iStart) / 45.0 - 1e-9)));
-    const double step = Radians(iEnd - iStart) / pieces;
+    const double turn = iShape.end - iShape.start;
+    const int pieces = std::max(1, static_cast<int>(std::ceil(turn / 45.0 - 1e-9)));
+    const double step = Radians(turn) / pieces;
     const double handle = 4.0 / 3.0 * std::tan(step / 4.0);
-    const double cosSlope = std::cos(Radians(iSlope));
-    const double sinSlope = std::sin(Radians(iSlope));
+    const double cosSlope = std::cos(Radians(iShape.slope));
+    const double sinSlope = std::sin(Radians(iShape.slope));
     const Affine outer = _map;
-    _map = outer * Affine{iRadiusX * cosSlope, iRadiusX * sinSlope, -iRadiusY * sinSlope,
-                          iRadiusY * cosSlope, iCentre.GetX(),      iCentre.GetY()};
-    MoveTo(std::cos(Radians(iStart)), std::sin(Radians(iStart)));
+    _map = outer * Affine{iShape.radiusX * cosSlope, iShape.radiusX * sinSlope, -iShape.radiusY * sinSlope,
+                          iShape.radiusY * cosSlope, iShape.centre.GetX(),      iShape.centre.GetY()};
+    // On the unit circle, or so much further along its tangent.
+    const auto at = [](double iAngle, double iFurther) {
+        return VEKMathPoint2D(std::cos(iAngle) - iFurther * std::sin(iAngle),
+                              std::sin(iAngle) + iFurther * std::cos(iAngle));
+    };
+    const double start = Radians(iShape.start);
+    MoveTo(at(start, 0));
     for (int i = 0; i < pieces; ++i) {
-        const double from = Radians(iStart) + i * step;
+        const double from = start + i * step;
         const double to = from + step;
-        const double unit[6] = {std::cos(from) - handle * std::sin(from),
-                                std::sin(from) + handle * std::cos(from),
-                                std::cos(to) + handle * std::sin(to),
-                                std::sin(to) - handle * std::cos(to),
-                                std::cos(to),
-                                std::sin(to)};
-        CubicTo(unit);
+        CubicTo(at(from, handle), at(to, -handle), at(to, 0));
     }
     _map = outer;
 }

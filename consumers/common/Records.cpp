@@ -119,6 +119,23 @@ Fill ReadFill(const Reporter& iReporter, const VEKPrtGraphicPrimitiveElt& iEleme
     return fill;
 }
 
+VEKPrintMarkerAttribute StyleOf(const VEKPrtMarkerElt& iMarker) {
+    VEKPrtMarkerAttributes record;
+    VEKPrintMarkerAttribute style{};
+    iMarker.GetMarkerAttributes(record);
+    record.GetMarkerStyle(style);
+    return style;
+}
+
+Look LookOf(const Reporter& iReporter, const VEKPrtMarkerElt& iMarker) {
+    Look look{StrokeOf(iReporter, iMarker), {}};
+    if (StyleOf(iMarker) != markerDisc) return look;
+    look.fill.kind = look.stroke.isDrawn ? Fill::Colour : Fill::None;
+    look.fill.colour = look.stroke.colour;
+    look.fill.opacity = look.stroke.opacity;
+    return look;
+}
+
 std::vector<Elementary> PlacementOf(const VEKPrtImageElt& iPage) {
     VEKMath2x2Matrix matrix;
     iPage.GetMatrix(matrix);
@@ -164,14 +181,6 @@ Bitmap BitmapOf(const Reporter& iReporter, const VEKPrtBitmapImageElt& iBitmap) 
     bitmap.placement.insert(bitmap.placement.end(), {Translation(origin.GetX(), origin.GetY()),
                                                      Rotation(orientation), Scaling(width, height)});
     return bitmap;
-}
-
-Fill DiscFill(const Stroke& iStroke) {
-    Fill fill;
-    if (iStroke.isDrawn) fill.kind = Fill::Colour;
-    fill.colour = iStroke.colour;
-    fill.opacity = iStroke.opacity;
-    return fill;
 }
 
 std::string LinkOf(const Reporter& iReporter, const VEKPrtGroupElt& iGroup) {

@@ -86,6 +86,9 @@ Look LookOf(const Reporter& iReporter, const Element& iElement) {
     if (style != VEKPrtDrawInterior) look.stroke = StrokeOf(iReporter, iElement);
     return look;
 }
+VEKPrintMarkerAttribute StyleOf(const VEKPrtMarkerElt& iMarker);
+/// The disc is the one marker that is filled: as it is stroked.
+Look LookOf(const Reporter& iReporter, const VEKPrtMarkerElt& iMarker);
 
 template <class Element>
 std::vector<Elementary> PlacementOf(const Element& iElement) {
@@ -124,9 +127,6 @@ struct Bitmap {
     std::vector<Elementary> placement = {};
 };
 Bitmap BitmapOf(const Reporter& iReporter, const VEKPrtBitmapImageElt& iBitmap);
-
-/// The disc is the one marker that is filled: as it is stroked.
-Fill DiscFill(const Stroke& iStroke);
 
 /// Where the link of a group leads; empty, with a warning, for one that would run a program.
 std::string LinkOf(const Reporter& iReporter, const VEKPrtGroupElt& iGroup);

@@ -17,14 +17,12 @@ struct ElementWriter {
     void operator()(VEKPrtRectangleElt& ioRectangle) const;
     void operator()(VEKPrtCircleElt& ioCircle) const;
     void operator()(VEKPrtEllipseElt& ioEllipse) const;
-    void operator()(VEKPrtMarkerElt& ioMarker) const;
     void operator()(VEKPrtTextElt& ioText) const;
     void operator()(VEKPrtBitmapImageElt& ioBitmap) const;
     void operator()(VEKPrtGroupElt& ioGroup) const;
     void operator()(VEKPrtImageElt& ioNested) const;
     void operator()(VEKPrtSymbolElt& ioSymbol) const;
     void operator()(VEKPrtPatternElt& ioPattern) const;
-    void operator()(VEKPrtClosedFigureElt& ioFigure) const;
     void operator()(VEKPrtClosedFigureRegionElt& ioRegion) const;
     template <class Bare>
     std::enable_if_t<std::is_same_v<Bare, VEKPrtGraphicPrimitiveElt>> operator()(Bare& ioBare) const;
@@ -39,7 +37,9 @@ std::enable_if_t<HasStroke<Shape>::value> ElementWriter::operator()(Shape& ioSha
     const Placement placement(page, ioShape, PlacementOf(ioShape));
     if (!placement) return;
     Path path;
-    Outliner{page.reporter, path, page.Tolerance()}(ioShape);
+    const double tolerance = 10.0 * page.step;
+    Outliner<Path>{page.reporter, path, page.place.map, tolerance, page.nesting, page.outlineAllowance}(
+        ioShape);
     WritePath(page, ioShape, placement, path, LookOf(page.reporter, ioShape));
 }
 template <class Bare>

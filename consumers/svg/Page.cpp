@@ -79,9 +79,4 @@ std::string SvgPage::ImageReference(const VEKPixelImage& iImage) {
     return "#" + id;
 }
 
-double SvgPage::Tolerance() const {
-    const double stretch = place.map.Stretch();
-    return stretch > 0.0 ? 10.0 * step / stretch : 0.0;
-}
-
 } // namespace vekprt::svg

@@ -68,8 +68,6 @@ struct SvgPage {
     std::string Colour(const VEKPrtGraphicPrimitiveElt& iElement, unsigned iIndex);
     /// A reference to an image in the unit square, y down; written here where it is used first.
     std::string ImageReference(const VEKPixelImage& iImage);
-    /// How far chords may be off their curves, in the coordinates of the element.
-    double Tolerance() const;
 };
 
 /// Writes an element as its class demands, or refers to it where it has been written.

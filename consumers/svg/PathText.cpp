@@ -5,10 +5,6 @@
 
 namespace vekprt::svg {
 
-static int PointCount(char iCommand) {
-    return iCommand == 'Z' ? 0 : iCommand == 'Q' ? 2 : iCommand == 'C' ? 3 : 1;
-}
-
 // Differences of rounded coordinates, which add up to rounded coordinates.  Readers add in single precision:
 // periodic absolute segments stop the error from accumulating.
 std::string PathText(const drawing::Path& iPath, const Grid& iGrid) {
@@ -30,7 +26,7 @@ std::string PathText(const drawing::Path& iPath, const Grid& iGrid) {
         const char letter = isRelative && command != 'Z' ? static_cast<char>(command - 'A' + 'a') : command;
         text += letter != last || command == 'M' ? letter : ' ';
         last = letter;
-        for (int i = 0; i < PointCount(command); ++i, ++point) {
+        for (int i = 0; i < drawing::Path::PointCount(command); ++i, ++point) {
             char pair[2 * Grid::maxText + 2];
             char* end = pair;
             if (i > 0) *end++ = ' ';

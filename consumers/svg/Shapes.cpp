@@ -73,20 +73,4 @@ void ElementWriter::operator()(VEKPrtEllipseElt& ioEllipse) const {
                PaintOf(page, ioEllipse, LookOf(page.reporter, ioEllipse)));
 }
 
-void ElementWriter::operator()(VEKPrtMarkerElt& ioMarker) const {
-    const Placement placement(page, ioMarker, PlacementOf(ioMarker));
-    if (!placement) return;
-    const Marker marker = MarkerOf(ioMarker);
-    Look look{StrokeOf(page.reporter, ioMarker), {}};
-    if (marker.isFilled) look.fill = DiscFill(look.stroke);
-    WritePath(page, ioMarker, placement, marker.path, look);
-}
-
-void ElementWriter::operator()(VEKPrtClosedFigureElt& ioFigure) const {
-    const Placement placement(page, ioFigure, PlacementOf(ioFigure));
-    if (!placement) return;
-    const Path path = PathOf(page.reporter, ioFigure, page.Tolerance(), page.nesting, page.outlineAllowance);
-    WritePath(page, ioFigure, placement, path, LookOf(page.reporter, ioFigure));
-}
-
 } // namespace vekprt::svg
