@@ -16,13 +16,6 @@ namespace cairo {
 
 namespace {
 
-struct Surface : std::unique_ptr<cairo_surface_t, decltype(&cairo_surface_destroy)> {
-    explicit Surface(cairo_surface_t* iSurface) : unique_ptr(iSurface, &cairo_surface_destroy) {}
-};
-struct Context : std::unique_ptr<cairo_t, decltype(&cairo_destroy)> {
-    explicit Context(const Surface& iSurface) : unique_ptr(cairo_create(iSurface.get()), &cairo_destroy) {}
-};
-
 WriteResult ResultOf(cairo_status_t iStatus) {
     switch (iStatus) {
     case CAIRO_STATUS_SUCCESS: return {WriteResult::Written};
@@ -46,11 +39,6 @@ cairo_status_t WriteTo(void* ioStream, const unsigned char* iData, unsigned iLen
 WriteResult Flushed(std::ostream& ioStream, WriteResult iResult) {
     if (iResult && !ioStream.flush().good()) return {WriteResult::StreamFailed};
     return iResult;
-}
-
-VEKPrtImageElt* PageAt(const VEKPrtModel& iModel, int iPage) {
-    const auto* const pages = ListOf(iModel);
-    return pages ? static_cast<VEKPrtImageElt*>((*pages)[iPage]) : nullptr;
 }
 
 // Names for the identifiers that links of the pages lead to.
@@ -127,7 +115,7 @@ WriteResult WritePdf(const VEKPrtModel& iModel, std::ostream& ioStream, std::ost
     if (!ioStream.good()) return {WriteResult::StreamFailed};
     try {
         const Surface pdf(cairo_pdf_surface_create_for_stream(WriteTo, &ioStream, 1, 1));
-        const Context context(pdf);
+        const Context context(cairo_create(pdf.get()));
         WritePages(iModel, pdf.get(), context.get(), Reporter("cairo", &ioWarnings));
         const WriteResult drawn = ResultOf(cairo_status(context.get()));
         cairo_surface_finish(pdf.get());
@@ -150,7 +138,7 @@ WriteResult WritePng(const VEKPrtModel& iModel, int iPage, double iDotsPerInch, 
         return {WriteResult::OutOfMemory};
     const Surface picture(
         cairo_image_surface_create(CAIRO_FORMAT_RGB24, static_cast<int>(width), static_cast<int>(height)));
-    const Context context(picture);
+    const Context context(cairo_create(picture.get()));
     cairo_set_source_rgb(context.get(), 1, 1, 1);
     cairo_paint(context.get());
     cairo_scale(context.get(), scale, scale);

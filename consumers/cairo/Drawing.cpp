@@ -54,7 +54,7 @@ std::string Uri(const std::string& iLink) {
 
 cairo_surface_t* Images::SurfaceOf(const Reporter& iReporter, const VEKPrtGraphicPrimitiveElt& iElement,
                                    const VEKPixelImage& iImage) {
-    auto& surface = _surfaces[&iImage];
+    Surface& surface = _surfaces[&iImage];
     if (surface) return surface.get();
     const int width = iImage.GetWidth(), height = iImage.GetHeight();
     surface.reset(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height));
@@ -364,13 +364,11 @@ void Drawing::operator()(VEKPrtPatternElt& ioPattern) {
     const double height =
         std::clamp(std::ceil(tile.height * std::hypot(toDevice.c, toDevice.d)), 1.0, maxSide);
     const cairo_rectangle_t extents = {0, 0, width, height};
-    const std::unique_ptr<cairo_surface_t, decltype(&cairo_surface_destroy)> surface(
-        cairo_recording_surface_create(CAIRO_CONTENT_COLOR_ALPHA, &extents), &cairo_surface_destroy);
+    const Surface surface(cairo_recording_surface_create(CAIRO_CONTENT_COLOR_ALPHA, &extents));
     const Affine toTile =
         Affine{width / tile.width, 0, 0, height / tile.height, 0, 0} * Affine{1, 0, 0, 1, -tile.x, -tile.y};
     {
-        const std::unique_ptr<cairo_t, decltype(&cairo_destroy)> recorder(cairo_create(surface.get()),
-                                                                          &cairo_destroy);
+        const Context recorder(cairo_create(surface.get()));
         const cairo_matrix_t matrix = MatrixOf(toTile);
         cairo_set_matrix(recorder.get(), &matrix);
         cairo_set_miter_limit(recorder.get(), mitreLimit);

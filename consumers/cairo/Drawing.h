@@ -17,6 +17,17 @@ namespace vekprt::cairo {
 
 using namespace drawing;
 
+/// Owners of what cairo and Pango hand out.
+template <auto Release>
+struct Releaser {
+    template <class Object>
+    void operator()(Object* iObject) const {
+        Release(iObject);
+    }
+};
+using Surface = std::unique_ptr<cairo_surface_t, Releaser<cairo_surface_destroy>>;
+using Context = std::unique_ptr<cairo_t, Releaser<cairo_destroy>>;
+
 /// Pixel images as cairo has them: converted once, and stored once in a document.
 class Images {
 public:
@@ -25,10 +36,7 @@ public:
                                const VEKPixelImage& iImage);
 
 private:
-    struct Destroy {
-        void operator()(cairo_surface_t* iSurface) const { cairo_surface_destroy(iSurface); }
-    };
-    std::map<const VEKPixelImage*, std::unique_ptr<cairo_surface_t, Destroy>> _surfaces;
+    std::map<const VEKPixelImage*, Surface> _surfaces;
 };
 
 /// The elements that links of a document lead to, by identifier.

@@ -7,16 +7,14 @@ namespace vekprt::cairo {
 
 namespace {
 
-struct Unref {
-    void operator()(gpointer iObject) const { g_object_unref(iObject); }
-};
+template <class Class>
+using Object = std::unique_ptr<Class, Releaser<g_object_unref>>;
 
 // Fonts are laid out at this size and scaled: Pango counts in 1024ths of a unit.
 constexpr double layoutSize = 100.0;
 
-std::unique_ptr<PangoLayout, Unref> NewLayout(const Lettering& iLettering) {
-    const std::unique_ptr<PangoContext, Unref> context(
-        pango_font_map_create_context(pango_cairo_font_map_get_default()));
+Object<PangoLayout> NewLayout(const Lettering& iLettering) {
+    const Object<PangoContext> context(pango_font_map_create_context(pango_cairo_font_map_get_default()));
     cairo_font_options_t* const options = cairo_font_options_create();
     cairo_font_options_set_hint_style(options, CAIRO_HINT_STYLE_NONE);
     cairo_font_options_set_hint_metrics(options, CAIRO_HINT_METRICS_OFF);
@@ -25,7 +23,7 @@ std::unique_ptr<PangoLayout, Unref> NewLayout(const Lettering& iLettering) {
     pango_context_set_round_glyph_positions(context.get(), FALSE);
     pango_context_set_base_dir(context.get(), PANGO_DIRECTION_LTR);
 
-    std::unique_ptr<PangoLayout, Unref> layout(pango_layout_new(context.get()));
+    Object<PangoLayout> layout(pango_layout_new(context.get()));
     PangoFontDescription* const font = pango_font_description_new();
     pango_font_description_set_family(font, iLettering.family.c_str());
     pango_font_description_set_weight(font, static_cast<PangoWeight>(iLettering.weight));
@@ -47,7 +45,7 @@ std::unique_ptr<PangoLayout, Unref> NewLayout(const Lettering& iLettering) {
 
 void Drawing::PaintText(const VEKPrtTextElt& iText, const Lettering& iLettering, const Look& iLook,
                         bool iIsImageFill) {
-    const std::unique_ptr<PangoLayout, Unref> layout = NewLayout(iLettering);
+    const Object<PangoLayout> layout = NewLayout(iLettering);
     const double scale = iLettering.height / layoutSize;
     const auto eachLine = [&](void (*iUse)(cairo_t*, PangoLayoutLine*)) {
         cairo_save(_cairo);

@@ -6,6 +6,11 @@
 
 namespace vekprt::drawing {
 
+VEKPrtImageElt* PageAt(const VEKPrtModel& iModel, int iPage) {
+    const auto* const pages = ListOf(iModel);
+    return pages ? static_cast<VEKPrtImageElt*>((*pages)[iPage]) : nullptr;
+}
+
 Contents ContentsOf(VEKPrtImageElt& ioPage, const std::function<void(VEKPrtGraphicPrimitiveElt&)>& iUse) {
     Contents contents;
     std::unordered_set<const VEKPrtGraphicPrimitiveElt*> seen;

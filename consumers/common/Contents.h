@@ -7,8 +7,12 @@
 
 class VEKPrtGraphicPrimitiveElt;
 class VEKPrtImageElt;
+class VEKPrtModel;
 
 namespace vekprt::drawing {
+
+/// The page at position \p iPage (from 1); null if there is none.
+VEKPrtImageElt* PageAt(const VEKPrtModel& iModel, int iPage);
 
 struct Contents {
     /// Those that are held more than once.

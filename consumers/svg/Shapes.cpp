@@ -9,14 +9,19 @@ namespace vekprt::svg {
 
 using Measures = std::initializer_list<std::pair<const char*, double>>;
 
-static void WriteShape(SvgPage& ioPage, const VEKPrtGraphicPrimitiveElt& iElement, const char* iName,
-                       const Placement& iPlacement, Measures iMeasures, const Paint& iPaint) {
+template <class Shape>
+static void WriteShape(SvgPage& ioPage, const Shape& iShape, const char* iName, Measures iMeasures) {
+    const Placement placement(ioPage, iShape, PlacementOf(iShape));
+    if (!placement) return;
+    Look look = LookOf(ioPage.reporter, iShape);
+    const Paint paint =
+        HasFill<Shape>::value ? PaintOf(ioPage, iShape, std::move(look)) : Paint{std::move(look), {}};
     for (const auto& [name, value] : iMeasures)
-        if (!ioPage.reporter.AreInRange(iElement, {value})) return;
-    SvgElement element(ioPage, iElement, iName, iPlacement);
+        if (!ioPage.reporter.AreInRange(iShape, {value})) return;
+    SvgElement element(ioPage, iShape, iName, placement);
     for (const auto& [name, value] : iMeasures)
         element.Attribute(name, value);
-    element.Attributes(iPaint).End();
+    element.Attributes(paint).End();
 }
 
 void WritePath(SvgPage& ioPage, const VEKPrtGraphicPrimitiveElt& iElement, const Placement& iPlacement,
@@ -30,47 +35,35 @@ void WritePath(SvgPage& ioPage, const VEKPrtGraphicPrimitiveElt& iElement, const
 void ElementWriter::operator()(VEKPrtLineElt& ioLine) const {
     VEKMathPoint2D p(0.0, 0.0), q(0.0, 0.0);
     ioLine.GetParameters(p, q);
-    const Placement placement(page, ioLine, PlacementOf(ioLine));
-    if (!placement) return;
-    WriteShape(page, ioLine, "line", placement,
-               {{"x1", p.GetX()}, {"y1", p.GetY()}, {"x2", q.GetX()}, {"y2", q.GetY()}},
-               {LookOf(page.reporter, ioLine), {}});
+    WriteShape(page, ioLine, "line",
+               {{"x1", p.GetX()}, {"y1", p.GetY()}, {"x2", q.GetX()}, {"y2", q.GetY()}});
 }
 
 void ElementWriter::operator()(VEKPrtRectangleElt& ioRectangle) const {
     VEKMathPoint2D p(0.0, 0.0), q(0.0, 0.0);
     ioRectangle.GetPoints(p, q);
-    const Placement placement(page, ioRectangle, PlacementOf(ioRectangle));
-    if (!placement) return;
-    WriteShape(page, ioRectangle, "rect", placement,
+    WriteShape(page, ioRectangle, "rect",
                {{"x", std::min(p.GetX(), q.GetX())},
                 {"y", std::min(p.GetY(), q.GetY())},
                 {"width", std::fabs(q.GetX() - p.GetX())},
-                {"height", std::fabs(q.GetY() - p.GetY())}},
-               PaintOf(page, ioRectangle, LookOf(page.reporter, ioRectangle)));
+                {"height", std::fabs(q.GetY() - p.GetY())}});
 }
 
 void ElementWriter::operator()(VEKPrtCircleElt& ioCircle) const {
     const EllipseShape shape = EllipseOf(ioCircle);
-    const Placement placement(page, ioCircle, PlacementOf(ioCircle));
-    if (!placement) return;
-    WriteShape(page, ioCircle, "circle", placement,
-               {{"cx", shape.centre.GetX()}, {"cy", shape.centre.GetY()}, {"r", std::fabs(shape.radiusX)}},
-               PaintOf(page, ioCircle, LookOf(page.reporter, ioCircle)));
+    WriteShape(page, ioCircle, "circle",
+               {{"cx", shape.centre.GetX()}, {"cy", shape.centre.GetY()}, {"r", std::fabs(shape.radiusX)}});
 }
 
 void ElementWriter::operator()(VEKPrtEllipseElt& ioEllipse) const {
     const EllipseShape shape = EllipseOf(ioEllipse);
     // Turned as a whole, the element would turn its fill pattern, too.
     if (shape.slope != 0.0) return operator()<VEKPrtEllipseElt>(ioEllipse);
-    const Placement placement(page, ioEllipse, PlacementOf(ioEllipse));
-    if (!placement) return;
-    WriteShape(page, ioEllipse, "ellipse", placement,
+    WriteShape(page, ioEllipse, "ellipse",
                {{"cx", shape.centre.GetX()},
                 {"cy", shape.centre.GetY()},
                 {"rx", std::fabs(shape.radiusX)},
-                {"ry", std::fabs(shape.radiusY)}},
-               PaintOf(page, ioEllipse, LookOf(page.reporter, ioEllipse)));
+                {"ry", std::fabs(shape.radiusY)}});
 }
 
 } // namespace vekprt::svg

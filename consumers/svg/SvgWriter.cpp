@@ -111,8 +111,7 @@ void WriteElement(SvgPage& ioPage, VEKPrtGraphicPrimitiveElt& ioElement) {
 namespace vekprt {
 
 WriteResult WriteSvg(const VEKPrtModel& iModel, int iPage, std::ostream& ioStream, std::ostream& ioWarnings) {
-    const auto* const pages = ListOf(iModel);
-    auto* const page = pages ? static_cast<VEKPrtImageElt*>((*pages)[iPage]) : nullptr;
+    VEKPrtImageElt* const page = drawing::PageAt(iModel, iPage);
     if (!page) return {WriteResult::NoSuchPage};
     if (!ioStream.good()) return {WriteResult::StreamFailed};
     try {
