@@ -15,6 +15,12 @@ namespace vekprt {
 
 namespace detail {
 
+// The type that a getter yields; some getters are not const.
+template <class Class, class Value>
+Value ValueOf(void (Class::*)(Value&) const);
+template <class Class, class Value>
+Value ValueOf(void (Class::*)(Value&));
+
 // Appends " name=value" to the line of an element.
 class DumpLine {
 public:
@@ -25,26 +31,21 @@ public:
         _stream << ' ' << iName << '=';
         Write(iValue);
     }
-    // What a getter yields.
-    template <class Class, class Value>
-    void Get(const char* iName, const Class& iObject, void (Class::*iGet)(Value&) const) {
+    // What getters yield: pairs of a name and a getter.
+    template <class Class, class Value, class... Rest>
+    void Get(const Class& iObject, const char* iName, void (Class::*iGet)(Value&) const, Rest... iRest) {
         Value value;
         (iObject.*iGet)(value);
         Put(iName, value);
+        Get(iObject, iRest...);
     }
+    template <class Class>
+    void Get(const Class&) {}
     // The same, but nothing for what a new object has.
-    template <class Class, class Value>
-    void Changed(const char* iName, const Class& iObject, void (Class::*iGet)(Value&) const) {
-        Value value, initial;
-        (iObject.*iGet)(value);
-        (Class().*iGet)(initial);
-        if (!(value == initial)) Put(iName, value);
-    }
-    // For the getters that are not const.
-    template <class Class, class Value>
-    void Changed(const char* iName, Class& ioObject, void (Class::*iGet)(Value&)) {
-        Value value, initial;
+    template <class Class, class Getter>
+    void Changed(Class& ioObject, const char* iName, Getter iGet) {
         Class plain;
+        decltype(ValueOf(iGet)) value, initial;
         (ioObject.*iGet)(value);
         (plain.*iGet)(initial);
         if (!(value == initial)) Put(iName, value);
@@ -105,52 +106,52 @@ private:
 
 inline void DumpRecord(DumpLine& ioLine, VEKPrtStrokeAttributes& ioStroke) {
     using S = VEKPrtStrokeAttributes;
-    ioLine.Changed("stroke.colour", ioStroke, &S::GetStrokeColourIndex);
-    ioLine.Changed("stroke.transparency", ioStroke, &S::GetStrokeColourTransparency);
-    ioLine.Changed("stroke.type", ioStroke, &S::GetStrokeType);
+    ioLine.Changed(ioStroke, "stroke.colour", &S::GetStrokeColourIndex);
+    ioLine.Changed(ioStroke, "stroke.transparency", &S::GetStrokeColourTransparency);
+    ioLine.Changed(ioStroke, "stroke.type", &S::GetStrokeType);
     float* dashes = nullptr;
     unsigned char count = 0;
     ioStroke.GetStrokeTypePattern(dashes, count);
     if (count > 0) ioLine.Array("stroke.dashes", dashes, count);
     delete[] dashes;
-    ioLine.Changed("stroke.width", ioStroke, &S::GetStrokeWidth);
-    ioLine.Changed("stroke.style", ioStroke, &S::GetStrokeStyle);
-    ioLine.Changed("stroke.cap", ioStroke, &S::GetStrokeCap);
-    ioLine.Changed("stroke.join", ioStroke, &S::GetStrokeJoin);
+    ioLine.Changed(ioStroke, "stroke.width", &S::GetStrokeWidth);
+    ioLine.Changed(ioStroke, "stroke.style", &S::GetStrokeStyle);
+    ioLine.Changed(ioStroke, "stroke.cap", &S::GetStrokeCap);
+    ioLine.Changed(ioStroke, "stroke.join", &S::GetStrokeJoin);
 }
 inline void DumpRecord(DumpLine& ioLine, VEKPrtFillAttributes& ioFill) {
     using F = VEKPrtFillAttributes;
-    ioLine.Changed("fill.style", ioFill, &F::GetFillStyle);
-    ioLine.Changed("fill.rule", ioFill, &F::GetFillRule);
-    ioLine.Changed("fill.colour", ioFill, &F::GetFillColourIndex);
-    ioLine.Changed("fill.transparency", ioFill, &F::GetFillColourTransparency);
+    ioLine.Changed(ioFill, "fill.style", &F::GetFillStyle);
+    ioLine.Changed(ioFill, "fill.rule", &F::GetFillRule);
+    ioLine.Changed(ioFill, "fill.colour", &F::GetFillColourIndex);
+    ioLine.Changed(ioFill, "fill.transparency", &F::GetFillColourTransparency);
     VEKPixelImage* image = nullptr;
     VEKMathVector2D first, second, none(0.0, 0.0);
     ioFill.GetPattern(image, first, second);
     if (image) ioLine.References("fill.image.references", *image);
     if (!(first == none)) ioLine.Put("fill.first", first);
     if (!(second == none)) ioLine.Put("fill.second", second);
-    ioLine.Changed("fill.reference", ioFill, &F::GetPatternRefPoint);
+    ioLine.Changed(ioFill, "fill.reference", &F::GetPatternRefPoint);
 }
 inline void DumpRecord(DumpLine& ioLine, VEKPrtTextAttributes& ioText) {
     using T = VEKPrtTextAttributes;
     VEKFont* font = nullptr;
     ioText.GetFont(font);
     if (font) ioLine.Put("text.font", VEKUnicodeString(font->GetFamily()));
-    ioLine.Changed("text.weight", ioText, &T::GetWeight);
-    ioLine.Changed("text.height", ioText, &T::GetHeight);
-    ioLine.Changed("text.anchor", ioText, &T::GetAnchor);
-    ioLine.Changed("text.slant", ioText, &T::GetSlant);
-    ioLine.Changed("text.direction", ioText, &T::GetDirection);
-    ioLine.Changed("text.spacing", ioText, &T::GetExtraSpacing);
-    ioLine.Changed("text.expansion", ioText, &T::GetExpansion);
-    ioLine.Changed("text.mode", ioText, &T::GetWritingMode);
+    ioLine.Changed(ioText, "text.weight", &T::GetWeight);
+    ioLine.Changed(ioText, "text.height", &T::GetHeight);
+    ioLine.Changed(ioText, "text.anchor", &T::GetAnchor);
+    ioLine.Changed(ioText, "text.slant", &T::GetSlant);
+    ioLine.Changed(ioText, "text.direction", &T::GetDirection);
+    ioLine.Changed(ioText, "text.spacing", &T::GetExtraSpacing);
+    ioLine.Changed(ioText, "text.expansion", &T::GetExpansion);
+    ioLine.Changed(ioText, "text.mode", &T::GetWritingMode);
 }
 inline void DumpRecord(DumpLine& ioLine, VEKPrtMarkerAttributes& ioMarker) {
-    ioLine.Changed("marker.style", ioMarker, &VEKPrtMarkerAttributes::GetMarkerStyle);
+    ioLine.Changed(ioMarker, "marker.style", &VEKPrtMarkerAttributes::GetMarkerStyle);
 }
 inline void DumpRecord(DumpLine& ioLine, VEKPrtGroupAttributes& ioGroup) {
-    ioLine.Changed("group.link", ioGroup, &VEKPrtGroupAttributes::GetLinkURI);
+    ioLine.Changed(ioGroup, "group.link", &VEKPrtGroupAttributes::GetLinkURI);
 }
 // One transform, read back by its position.
 template <class Value>
@@ -192,8 +193,7 @@ struct DumpOwn {
     DumpLine& line;
 
     void operator()(const VEKPrtLineElt& iElement) const {
-        line.Get("start", iElement, &VEKPrtLineElt::GetStartPoint);
-        line.Get("end", iElement, &VEKPrtLineElt::GetEndPoint);
+        line.Get(iElement, "start", &VEKPrtLineElt::GetStartPoint, "end", &VEKPrtLineElt::GetEndPoint);
     }
     void operator()(const VEKPrtRectangleElt& iElement) const {
         VEKMathPoint2D first, second;
@@ -202,42 +202,34 @@ struct DumpOwn {
         line.Put("second", second);
     }
     void operator()(const VEKPrtCircleElt& iElement) const {
-        line.Get("centre", iElement, &VEKPrtCircleElt::GetCenter);
-        line.Get("radius", iElement, &VEKPrtCircleElt::GetRadius);
+        line.Get(iElement, "centre", &VEKPrtCircleElt::GetCenter, "radius", &VEKPrtCircleElt::GetRadius);
     }
     void operator()(const VEKPrtCircularArcElt& iElement) const {
-        line.Get("centre", iElement, &VEKPrtCircularArcElt::GetCenter);
-        line.Get("radius", iElement, &VEKPrtCircularArcElt::GetRadius);
-        line.Get("start", iElement, &VEKPrtCircularArcElt::GetStartAngle);
-        line.Get("end", iElement, &VEKPrtCircularArcElt::GetEndAngle);
+        using E = VEKPrtCircularArcElt;
+        line.Get(iElement, "centre", &E::GetCenter, "radius", &E::GetRadius, "start", &E::GetStartAngle,
+                 "end", &E::GetEndAngle);
     }
     void operator()(const VEKPrtEllipseElt& iElement) const {
-        line.Get("centre", iElement, &VEKPrtEllipseElt::GetCenter);
-        line.Get("horz", iElement, &VEKPrtEllipseElt::GetHorzRadius);
-        line.Get("vert", iElement, &VEKPrtEllipseElt::GetVertRadius);
-        line.Get("slope", iElement, &VEKPrtEllipseElt::GetSlope);
+        using E = VEKPrtEllipseElt;
+        line.Get(iElement, "centre", &E::GetCenter, "horz", &E::GetHorzRadius, "vert", &E::GetVertRadius,
+                 "slope", &E::GetSlope);
     }
     void operator()(const VEKPrtEllipticalArcElt& iElement) const {
-        line.Get("centre", iElement, &VEKPrtEllipticalArcElt::GetCenter);
-        line.Get("horz", iElement, &VEKPrtEllipticalArcElt::GetHorzRadius);
-        line.Get("vert", iElement, &VEKPrtEllipticalArcElt::GetVertRadius);
-        line.Get("start", iElement, &VEKPrtEllipticalArcElt::GetStartAngle);
-        line.Get("end", iElement, &VEKPrtEllipticalArcElt::GetEndAngle);
-        line.Get("slope", iElement, &VEKPrtEllipticalArcElt::GetSlope);
+        using E = VEKPrtEllipticalArcElt;
+        line.Get(iElement, "centre", &E::GetCenter, "horz", &E::GetHorzRadius, "vert", &E::GetVertRadius,
+                 "start", &E::GetStartAngle, "end", &E::GetEndAngle, "slope", &E::GetSlope);
     }
     void operator()(const VEKPrtMarkerElt& iElement) const {
-        line.Get("point", iElement, &VEKPrtMarkerElt::GetPoint);
-        line.Get("size", iElement, &VEKPrtMarkerElt::GetSize);
+        line.Get(iElement, "point", &VEKPrtMarkerElt::GetPoint, "size", &VEKPrtMarkerElt::GetSize);
         DumpRecordOf(line, iElement, &VEKPrtMarkerElt::GetMarkerAttributes);
     }
     void operator()(const VEKPrtTextElt& iElement) const {
-        line.Get("position", iElement, &VEKPrtTextElt::GetPosition);
-        line.Get("text", iElement, &VEKPrtTextElt::GetText);
+        line.Get(iElement, "position", &VEKPrtTextElt::GetPosition, "text", &VEKPrtTextElt::GetText);
         DumpRecordOf(line, iElement, &VEKPrtTextElt::GetTextAttributes);
     }
     void operator()(const VEKPrtBitmapImageElt& iElement) const {
         Box(iElement);
-        line.Get("orientation", iElement, &VEKPrtBitmapImageElt::GetOrientation);
+        line.Get(iElement, "orientation", &VEKPrtBitmapImageElt::GetOrientation);
         VEKPixelImage* image = nullptr;
         iElement.GetPixelImage(image);
         if (image) line.References("image.references", *image);
@@ -280,8 +272,8 @@ struct DumpOwn {
     void operator()(const VEKPrtSymbolElt& iElement) const { Box(iElement); }
     void operator()(const VEKPrtImageElt& iElement) const {
         Box(iElement);
-        line.Changed("units", iElement, &VEKPrtImageElt::GetUnits);
-        line.Changed("matrix", iElement, &VEKPrtImageElt::GetMatrix);
+        line.Changed(iElement, "units", &VEKPrtImageElt::GetUnits);
+        line.Changed(iElement, "matrix", &VEKPrtImageElt::GetMatrix);
         VEKPrtColourTable* table = nullptr;
         const_cast<VEKPrtImageElt&>(iElement).GetColourTable(table);
         int count = 0;
@@ -309,7 +301,7 @@ private:
     void Box(const Element& iElement) const {
         double width = 0, height = 0;
         iElement.GetSize(width, height);
-        line.Get("origin", iElement, &Element::GetOrigin);
+        line.Get(iElement, "origin", &Element::GetOrigin);
         line.Put("width", width);
         line.Put("height", height);
     }
@@ -333,19 +325,16 @@ private:
     }
     template <class Element>
     void Fill(const Element& iElement, std::true_type) const {
-        line.Changed("draw", iElement, &Element::GetDrawStyle);
+        line.Changed(iElement, "draw", &Element::GetDrawStyle);
         DumpRecordOf(line, iElement, &Element::GetFillAttributes);
     }
     template <class Element>
     void Transforms(const Element& iElement, std::true_type) const {
         DumpRecordOf(line, iElement, &Element::GetTransformAttributes);
     }
-    template <class Element>
-    void Stroke(const Element&, std::false_type) const {}
-    template <class Element>
-    void Fill(const Element&, std::false_type) const {}
-    template <class Element>
-    void Transforms(const Element&, std::false_type) const {}
+    static void Stroke(const VEKPrtGraphicPrimitiveElt&, std::false_type) {}
+    static void Fill(const VEKPrtGraphicPrimitiveElt&, std::false_type) {}
+    static void Transforms(const VEKPrtGraphicPrimitiveElt&, std::false_type) {}
 };
 
 inline void DumpElement(std::ostream& ioStream, VEKPrtGraphicPrimitiveElt& ioElement, int iDepth) {
@@ -355,10 +344,10 @@ inline void DumpElement(std::ostream& ioStream, VEKPrtGraphicPrimitiveElt& ioEle
     const char* const name = element.IsA();
     ioStream << (name ? name : "?");
     DumpLine line(ioStream);
-    line.Changed("id", element, &VEKPrtGraphicPrimitiveElt::GetID);
+    line.Changed(element, "id", &VEKPrtGraphicPrimitiveElt::GetID);
     line.References("references", ioElement);
-    line.Changed("title", element, &VEKPrtGraphicPrimitiveElt::GetTitle);
-    line.Changed("description", element, &VEKPrtGraphicPrimitiveElt::GetDescription);
+    line.Changed(element, "title", &VEKPrtGraphicPrimitiveElt::GetTitle);
+    line.Changed(element, "description", &VEKPrtGraphicPrimitiveElt::GetDescription);
     Visit(element, DumpOwn{line});
     Visit(element, DumpShared{line});
     ioStream << '\n';

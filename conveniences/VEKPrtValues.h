@@ -3,6 +3,8 @@
 #ifndef VEKPrtValues_H
 #define VEKPrtValues_H
 
+#include <initializer_list>
+
 #include "VEKPrintLineAttribute.h"
 #include "VEKPrintMarkerAttribute.h"
 #include "VEKPrintTextAttribute.h"
@@ -68,9 +70,8 @@ constexpr auto markerTriangle = static_cast<VEKPrintMarkerAttribute>(7);
 
 namespace detail {
 
-template <std::size_t Count>
-const char* NameAt(const char* const (&iNames)[Count], int iIndex) {
-    return iIndex >= 0 && iIndex < static_cast<int>(Count) ? iNames[iIndex] : nullptr;
+inline const char* NameAt(int iIndex, std::initializer_list<const char*> iNames) {
+    return iIndex >= 0 && iIndex < static_cast<int>(iNames.size()) ? iNames.begin()[iIndex] : nullptr;
 }
 
 } // namespace detail
@@ -80,48 +81,37 @@ const char* NameAt(const char* const (&iNames)[Count], int iIndex) {
 
 /// The name by which Dump shows the value; null for a value that has none.
 inline const char* NameOf(VEKPrintTransformType iValue) {
-    static const char* const names[] = {"matrix",  "translation", "rotation", "scale-x",
-                                        "scale-y", "skew-x",      "skew-y"};
-    return detail::NameAt(names, static_cast<int>(iValue) - static_cast<int>(transformMatrix));
+    return detail::NameAt(static_cast<int>(iValue) - static_cast<int>(transformMatrix),
+                          {"matrix", "translation", "rotation", "scale-x", "scale-y", "skew-x", "skew-y"});
 }
 inline const char* NameOf(VEKPrintLineAttribute iValue) {
-    static const char* const names[] = {
-        "solid",  "dashed", "dotted", "dash-dot", "dash-dot-dot", "long-dash", "fine-dash", "pattern",
-        "scaled", "fixed",  "butt",   "round",    "square",       "mitre",     "round",     "bevel"};
-    return detail::NameAt(names, static_cast<int>(iValue) - static_cast<int>(lineTypeSolid));
+    return detail::NameAt(static_cast<int>(iValue) - static_cast<int>(lineTypeSolid),
+                          {"solid", "dashed", "dotted", "dash-dot", "dash-dot-dot", "long-dash", "fine-dash",
+                           "pattern", "scaled", "fixed", "butt", "round", "square", "mitre", "round",
+                           "bevel"});
 }
 inline const char* NameOf(VEKPrintTextAttribute iValue) {
-    static const char* const names[] = {"light",       "regular",       "medium",          "bold",
-                                        "black",       "baseline-left", "baseline-centre", "baseline-right",
-                                        "middle-left", "middle-centre", "middle-right",    "top-left",
-                                        "top-centre",  "top-right"};
-    return detail::NameAt(names, static_cast<int>(iValue) - static_cast<int>(textWeightLight));
+    return detail::NameAt(static_cast<int>(iValue) - static_cast<int>(textWeightLight),
+                          {"light", "regular", "medium", "bold", "black", "baseline-left", "baseline-centre",
+                           "baseline-right", "middle-left", "middle-centre", "middle-right", "top-left",
+                           "top-centre", "top-right"});
 }
 inline const char* NameOf(VEKPrintMarkerAttribute iValue) {
-    static const char* const names[] = {"plus", "cross",  "asterisk", "circle",
-                                        "disc", "square", "diamond",  "triangle"};
-    return detail::NameAt(names, static_cast<int>(iValue) - static_cast<int>(markerPlus));
+    return detail::NameAt(static_cast<int>(iValue) - static_cast<int>(markerPlus),
+                          {"plus", "cross", "asterisk", "circle", "disc", "square", "diamond", "triangle"});
 }
 inline const char* NameOf(VEKPrtDrawStyle iValue) {
-    static const char* const names[] = {"interior", "outline", "both"};
-    return detail::NameAt(names, iValue);
+    return detail::NameAt(iValue, {"interior", "outline", "both"});
 }
 inline const char* NameOf(VEKPrtFillStyle iValue) {
-    static const char* const names[] = {"solid", "pattern", "none"};
-    return detail::NameAt(names, iValue);
+    return detail::NameAt(iValue, {"solid", "pattern", "none"});
 }
-inline const char* NameOf(VEKPrtFillRule iValue) {
-    static const char* const names[] = {"non-zero", "even-odd"};
-    return detail::NameAt(names, iValue);
-}
+inline const char* NameOf(VEKPrtFillRule iValue) { return detail::NameAt(iValue, {"non-zero", "even-odd"}); }
 inline const char* NameOf(VEKPrtTextWritingMode iValue) {
-    static const char* const names[] = {"horizontal", "vertical"};
-    return detail::NameAt(names, iValue);
+    return detail::NameAt(iValue, {"horizontal", "vertical"});
 }
 inline const char* NameOf(VEKPrtImageUnits iValue) {
-    static const char* const names[] = {"pixel",      "point",      "pica", "inch",
-                                        "millimetre", "centimetre", "metre"};
-    return detail::NameAt(names, iValue);
+    return detail::NameAt(iValue, {"pixel", "point", "pica", "inch", "millimetre", "centimetre", "metre"});
 }
 /// @}
 
