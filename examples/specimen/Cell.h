@@ -71,6 +71,13 @@ void Set(Element& ioElement, const Record& iRecord, const Rest&... iRest) {
     Set(ioElement, iRest...);
 }
 
+/// Adds an element with such records to a container.
+template <class Container, class Element, class... Records>
+void AddTo(Container& ioContainer, const VEKRef<Element>& iElement, const Records&... iRecords) {
+    Set(*iElement, iRecords...);
+    ioContainer.AddChild(iElement.Get());
+}
+
 inline VEKRef<VEKPrtRectangleElt> Box(double iX1, double iY1, double iX2, double iY2) {
     return Make<VEKPrtRectangleElt>(Point(iX1, iY1), Point(iX2, iY2));
 }
@@ -94,8 +101,7 @@ public:
 
     template <class Element, class... Records>
     void Add(const VEKRef<Element>& iElement, const Records&... iRecords) const {
-        Set(*iElement, iRecords...);
-        group.AddChild(iElement.Get());
+        AddTo(group, iElement, iRecords...);
     }
     /// Adds a group, and returns it as a cell to draw into.
     Cell Group(const Transform& iTransform) const {

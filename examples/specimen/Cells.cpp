@@ -3,8 +3,11 @@
 
 #include "Cell.h"
 #include "VEKPixelImage.h"
+#include "VEKPrtValues.h"
 
 namespace {
+
+using vekprt::NameOf;
 
 using S = StrokeAttributes;
 using F = FillAttributes;
@@ -12,58 +15,70 @@ using T = TextAttributes;
 
 constexpr unsigned char g_transparencies[] = {64, 128, 191, 255};
 
-struct Adder {
-    std::vector<CellContent>& list;
-    void operator()(const char* iName, const char* iHeading, const char* iSubject,
-                    void (*iDraw)(const Cell&)) const {
-        list.push_back({iName, iHeading, iSubject, iDraw});
-    }
-};
-
 Point Polar(double iX, double iY, double iRadius, double iDegrees) {
     return {iX + iRadius * std::cos(iDegrees * pi / 180), iY + iRadius * std::sin(iDegrees * pi / 180)};
 }
 
-// Coordinates of five corners, joined in steps of one (a pentagon) or of two (a star).
-std::vector<double> FiveCorners(double iX, double iY, double iRadius, int iStep) {
+// An element whose points have these coordinates.
+template <class Element>
+VEKRef<Element> Through(const std::vector<double>& iCoordinates) {
+    return Make<Element>(iCoordinates.data(), static_cast<int>(iCoordinates.size() / 2));
+}
+
+// Five corners, joined in steps of one (a pentagon) or of two (a star).
+VEKRef<VEKPrtPolygonElt> FiveCorners(double iX, double iY, double iRadius, int iStep) {
     std::vector<double> coordinates;
     for (int i = 0; i < 5; ++i) {
         const Point corner = Polar(iX, iY, iRadius, 90 - 72 * iStep * i);
         coordinates.insert(coordinates.end(), {corner.GetX(), corner.GetY()});
     }
-    return coordinates;
+    return Through<VEKPrtPolygonElt>(coordinates);
 }
 
 // Control points and the polygon through them.
-void DrawConstruction(const Cell& iCell, const double* iPoints, int iCount) {
+void DrawConstruction(const Cell& iCell, const std::vector<double>& iPoints) {
     static const float dashes[] = {1.0F, 0.7F};
     StrokeAttributes stroke = Stroke(grey, 0.15);
     stroke.SetStrokeTypePattern(dashes, 2);
-    iCell.Add(Make<VEKPrtPolylineElt>(iPoints, iCount), stroke);
-    for (int i = 0; i < iCount; ++i)
-        iCell.Marks({{iPoints[2 * i], iPoints[2 * i + 1]}});
+    iCell.Add(Through<VEKPrtPolylineElt>(iPoints), stroke);
+    for (std::size_t i = 0; i < iPoints.size(); i += 2)
+        iCell.Marks({{iPoints[i], iPoints[i + 1]}});
+}
+template <class Curve>
+void DrawCurve(const Cell& iCell, const std::vector<double>& iPoints) {
+    DrawConstruction(iCell, iPoints);
+    iCell.Add(Through<Curve>(iPoints), Stroke(ink, 0.7));
 }
 
-void AddElementCells(const Adder& iAdd) {
-    iAdd("line", "Line", "VEKPrtLineElt", [](const Cell& iCell) {
+} // namespace
+
+std::vector<CellContent> Cells() {
+    std::vector<CellContent> cells;
+    const auto add = [&](const char* iName, const char* iHeading, const char* iSubject,
+                         void (*iDraw)(const Cell&)) {
+        cells.push_back({iName, iHeading, iSubject, iDraw});
+    };
+
+    // The element classes.
+    add("line", "Line", "VEKPrtLineElt", [](const Cell& iCell) {
         iCell.Line({6, 8}, {44, 34}, Stroke(ink, 0.7));
         iCell.Marks({{6, 8}, {44, 34}});
         iCell.Texts({{8.5, 5.6, "start"}, {41.5, 35.2, "end", right}});
     });
 
-    iAdd("rectangle", "Rectangle", "VEKPrtRectangleElt", [](const Cell& iCell) {
+    add("rectangle", "Rectangle", "VEKPrtRectangleElt", [](const Cell& iCell) {
         iCell.Add(Box(8, 8, 42, 34), Stroke(ink), Fill(ochre));
         iCell.Marks({{8, 8}, {42, 34}});
         iCell.Texts({{10, 9.6, "first corner"}, {40, 31, "second corner", right}});
     });
 
-    iAdd("circle", "Circle", "VEKPrtCircleElt", [](const Cell& iCell) {
+    add("circle", "Circle", "VEKPrtCircleElt", [](const Cell& iCell) {
         iCell.Add(Circle(25, 21, 15.0), Stroke(ink), Fill(teal));
         iCell.Line({25, 21}, {37, 30}, Stroke(paper, 0.25));
         iCell.Marks({{25, 21}});
     });
 
-    iAdd("circular-arc", "Circular arc", "VEKPrtCircularArcElt", [](const Cell& iCell) {
+    add("circular-arc", "Circular arc", "VEKPrtCircularArcElt", [](const Cell& iCell) {
         iCell.Add(Make<VEKPrtCircularArcElt>(Point(25, 19), 16.0, 20.0F, 250.0F), Stroke(ink), Fill(faint));
         for (const double angle : {20.0, 250.0})
             iCell.Line({25, 19}, Polar(25, 19, 16, angle), Stroke(red, 0.15));
@@ -71,64 +86,61 @@ void AddElementCells(const Adder& iAdd) {
         iCell.Marks({{25, 19}});
     });
 
-    iAdd("ellipse", "Ellipse", "VEKPrtEllipseElt", [](const Cell& iCell) {
+    add("ellipse", "Ellipse", "VEKPrtEllipseElt", [](const Cell& iCell) {
         iCell.Add(Make<VEKPrtEllipseElt>(Point(25, 21), 19.0, 9.0, 25.0F), Stroke(ink), Fill(blue));
         iCell.Line(Polar(25, 21, 19, 25), Polar(25, 21, -19, 25), Stroke(paper, 0.2));
         iCell.Text({25, 2.6, "slope 25°", centre});
     });
 
-    iAdd("elliptical-arc", "Elliptical arc", "VEKPrtEllipticalArcElt", [](const Cell& iCell) {
+    add("elliptical-arc", "Elliptical arc", "VEKPrtEllipticalArcElt", [](const Cell& iCell) {
         iCell.Add(Make<VEKPrtEllipticalArcElt>(Point(25, 22), 19.0, 10.0, 45.0F, 300.0F, 25.0F), Stroke(ink),
                   Fill(faint));
         iCell.Marks({{25, 22}});
         iCell.Text({25, 2.6, "45° to 300°, slope 25°", centre});
     });
 
-    iAdd("polyline", "Polyline", "VEKPrtPolylineElt", [](const Cell& iCell) {
-        static const double points[] = {5, 10, 12, 32, 19, 10, 26, 32, 33, 10, 40, 32, 45, 16};
-        iCell.Add(Make<VEKPrtPolylineElt>(points, 7), Stroke(ink, 0.6));
+    add("polyline", "Polyline", "VEKPrtPolylineElt", [](const Cell& iCell) {
+        iCell.Add(Through<VEKPrtPolylineElt>({5, 10, 12, 32, 19, 10, 26, 32, 33, 10, 40, 32, 45, 16}),
+                  Stroke(ink, 0.6));
     });
 
-    iAdd("polygon", "Polygon", "VEKPrtPolygonElt", [](const Cell& iCell) {
-        iCell.Add(Make<VEKPrtPolygonElt>(FiveCorners(25, 19.5, 17, 1).data(), 5), Stroke(ink), Fill(red));
-    });
+    add("polygon", "Polygon", "VEKPrtPolygonElt",
+        [](const Cell& iCell) { iCell.Add(FiveCorners(25, 19.5, 17, 1), Stroke(ink), Fill(red)); });
 
-    iAdd("disjoint-polyline", "Disjoint polyline", "VEKPrtDisjointPolylineElt", [](const Cell& iCell) {
+    add("disjoint-polyline", "Disjoint polyline", "VEKPrtDisjointPolylineElt", [](const Cell& iCell) {
         std::vector<double> points;
         for (int i = 0; i < 24; ++i) {
             const int angle = i / 2 * 30;
             const Point end = Polar(25, 21, i % 2 ? 17 : 8, angle);
             points.insert(points.end(), {end.GetX(), end.GetY()});
         }
-        iCell.Add(Make<VEKPrtDisjointPolylineElt>(points.data(), 24), Stroke(teal, 0.9));
+        iCell.Add(Through<VEKPrtDisjointPolylineElt>(points), Stroke(teal, 0.9));
     });
 
-    iAdd("poly-polygon", "Poly-polygon", "VEKPrtPolyPolygonElt", [](const Cell& iCell) {
+    add("poly-polygon", "Poly-polygon", "VEKPrtPolyPolygonElt", [](const Cell& iCell) {
         static const double points[] = {5,  6,  45, 6,  45, 36, 5,  36, 10, 11,   22,
                                         11, 22, 31, 10, 31, 27, 11, 40, 11, 33.5, 31};
         static const int counts[] = {4, 4, 3};
         iCell.Add(Make<VEKPrtPolyPolygonElt>(points, counts, 3), Stroke(ink), Fill(ochre));
     });
 
-    iAdd("cubic-bezier", "Cubic Béziers", "VEKPrtPolyCubicBezierElt", [](const Cell& iCell) {
-        static const double points[] = {4, 19, 8, 38, 20, 38, 25, 20, 30, 2, 42, 2, 46, 21};
-        DrawConstruction(iCell, points, 7);
-        iCell.Add(Make<VEKPrtPolyCubicBezierElt>(points, 7), Stroke(ink, 0.7));
+    add("cubic-bezier", "Cubic Béziers", "VEKPrtPolyCubicBezierElt", [](const Cell& iCell) {
+        DrawCurve<VEKPrtPolyCubicBezierElt>(iCell, {4, 19, 8, 38, 20, 38, 25, 20, 30, 2, 42, 2, 46, 21});
     });
 
-    iAdd("quadratic-bezier", "Quadratic Béziers", "VEKPrtPolyQuadraticBezierElt", [](const Cell& iCell) {
-        static const double points[] = {4, 8, 15, 38, 25, 20, 35, 2, 46, 34};
-        DrawConstruction(iCell, points, 5);
-        iCell.Add(Make<VEKPrtPolyQuadraticBezierElt>(points, 5), Stroke(ink, 0.7));
+    add("quadratic-bezier", "Quadratic Béziers", "VEKPrtPolyQuadraticBezierElt", [](const Cell& iCell) {
+        DrawCurve<VEKPrtPolyQuadraticBezierElt>(iCell, {4, 8, 15, 38, 25, 20, 35, 2, 46, 34});
     });
 
     // A full circle, which takes a rational curve, and a part of an open cubic by its bounds.
-    iAdd("nurbs", "NURBS", "VEKPrtNURBSElt", [](const Cell& iCell) {
+    add("nurbs", "NURBS", "VEKPrtNURBSElt", [](const Cell& iCell) {
         const double s = std::sqrt(0.5), weights[] = {1, s, 1, s, 1, s, 1, s, 1};
-        static const double circle[] = {24, 26, 24, 36, 14, 36, 4, 36, 4, 26, 4, 16, 14, 16, 24, 16, 24, 26};
+        const std::vector<double> circle = {24, 26, 24, 36, 14, 36, 4,  36, 4,
+                                            26, 4,  16, 14, 16, 24, 16, 24, 26};
         static const double circleKnots[] = {0, 0, 0, .25, .25, .5, .5, .75, .75, 1, 1, 1};
-        DrawConstruction(iCell, circle, 9);
-        iCell.Add(Make<VEKPrtNURBSElt>(3, 9, circle, circleKnots, 0.0F, 1.0F, weights), Stroke(ink, 0.7));
+        DrawConstruction(iCell, circle);
+        iCell.Add(Make<VEKPrtNURBSElt>(3, 9, circle.data(), circleKnots, 0.0F, 1.0F, weights),
+                  Stroke(ink, 0.7));
         static const double open[] = {20, 6, 28, 20, 34, 3, 40, 3, 47, 12, 43, 30},
                             ones[] = {1, 1, 1, 1, 1, 1};
         static const double openKnots[] = {0, 0, 0, 0, 1.0 / 3, 2.0 / 3, 1, 1, 1, 1};
@@ -137,7 +149,7 @@ void AddElementCells(const Adder& iAdd) {
         iCell.Text({47, 36, "bounds ¼ to ¾", right});
     });
 
-    iAdd("marker", "Markers by style", "VEKPrtMarkerElt", [](const Cell& iCell) {
+    add("marker", "Markers by style", "VEKPrtMarkerElt", [](const Cell& iCell) {
         for (int style = 0; style < 8; ++style) {
             const double x = 8 + 11.3 * (style % 4), y = style < 4 ? 30 : 13;
             iCell.Marker({x, y}, style, 6, Stroke(ink));
@@ -145,14 +157,14 @@ void AddElementCells(const Adder& iAdd) {
         }
     });
 
-    iAdd("text", "Text", "VEKPrtTextElt", [](const Cell& iCell) {
+    add("text", "Text", "VEKPrtTextElt", [](const Cell& iCell) {
         iCell.Text({25, 23, "Äg", centre, 20}, &T::SetFont, iCell.fonts.serif.get());
         iCell.Line({6, 23}, {44, 23}, Stroke(red, 0.15));
         iCell.Text({25, 9, "Zwölf Boxkämpfer", centre, 4});
         iCell.Text({25, 3.5, "σ = √(Δx² + Δy²)", centre, 3}, &T::SetFont, iCell.fonts.mono.get());
     });
 
-    iAdd("bitmap", "Bitmap", "VEKPrtBitmapImageElt", [](const Cell& iCell) {
+    add("bitmap", "Bitmap", "VEKPrtBitmapImageElt", [](const Cell& iCell) {
         // Ripples around a point off the middle, so that a wrong orientation shows.
         constexpr int size = 96;
         const auto image = Make<VEKPixelImage>(size, size);
@@ -171,7 +183,7 @@ void AddElementCells(const Adder& iAdd) {
         iCell.Marks({{38.5, 9}});
     });
 
-    iAdd("group", "Group with link", "VEKPrtGroupElt", [](const Cell& iCell) {
+    add("group", "Group with link", "VEKPrtGroupElt", [](const Cell& iCell) {
         const Cell inner = iCell.Group(Place(25, 21, 12.0F));
         inner.group.SetTitle("A group with a link");
         inner.group.SetGroupAttributes(With(VEKPrtGroupAttributes(), &VEKPrtGroupAttributes::SetLinkURI,
@@ -181,32 +193,25 @@ void AddElementCells(const Adder& iAdd) {
         inner.Texts({{-5, -1, "one transform,", left, 2.6}, {-5, -4.6, "one link", left, 2.6}});
     });
 
-    iAdd("pattern", "Pattern", "VEKPrtPatternElt", [](const Cell& iCell) {
+    add("pattern", "Pattern", "VEKPrtPatternElt", [](const Cell& iCell) {
         // The symbol's box is the area that the pattern fills.
         const auto panel = Make<VEKPrtSymbolElt>(Point(5, 5), 40.0, 32.0);
         const auto tile = Make<VEKPrtPatternElt>(Point(5, 5), 8.0, 8.0);
-        const auto disc = Circle(9, 9, 2.4);
-        Set(*disc, Fill(teal), VEKPrtDrawInterior);
-        tile->AddChild(disc.Get());
-        for (const double x : {5.0, 13.0}) {
-            const auto line = Make<VEKPrtLineElt>(Point(x, 5), Point(18 - x, 13));
-            Set(*line, Stroke(ochre));
-            tile->AddChild(line.Get());
-        }
-        panel->AddChild(tile.Get());
+        AddTo(*tile, Circle(9, 9, 2.4), Fill(teal), VEKPrtDrawInterior);
+        for (const double x : {5.0, 13.0})
+            AddTo(*tile, Make<VEKPrtLineElt>(Point(x, 5), Point(18 - x, 13)), Stroke(ochre));
+        AddTo(*panel, tile);
         iCell.Add(panel);
         iCell.Add(Box(5, 5, 13, 13), Stroke(red, 0.4), VEKPrtDrawOutline);
     });
 
     // A stamp that extends beyond its box and is clipped to it; three groups share the one symbol.
-    iAdd("symbol", "Symbol", "VEKPrtSymbolElt", [](const Cell& iCell) {
+    add("symbol", "Symbol", "VEKPrtSymbolElt", [](const Cell& iCell) {
         const auto symbol = Make<VEKPrtSymbolElt>(Point(0, 0), 12.0, 12.0);
         static const Colour colours[] = {red, ochre, teal, red};
         for (int i = 0; i < 4; ++i) {
             const int column = i % 2, row = i / 2;
-            const auto petal = Circle(12 * column, 12 * row, 6.5);
-            Set(*petal, Stroke(ink, 0.3), Fill(colours[i]));
-            symbol->AddChild(petal.Get());
+            AddTo(*symbol, Circle(12 * column, 12 * row, 6.5), Stroke(ink, 0.3), Fill(colours[i]));
         }
         for (const auto& place : {Place(4, 18, 0.0F, 1.6), Place(27, 20), Place(38, 4, 30.0F)})
             iCell.Group(place).Add(symbol);
@@ -214,14 +219,13 @@ void AddElementCells(const Adder& iAdd) {
     });
 
     // A bracket: an outline of lines and curves, a slot of arcs and lines, and a round hole.
-    iAdd("closed-figure", "Closed figure of regions", "VEKPrtClosedFigureElt", [](const Cell& iCell) {
-        static const double curve[] = {44, 16, 44, 6, 30, 12, 5, 6};
+    add("closed-figure", "Closed figure of regions", "VEKPrtClosedFigureElt", [](const Cell& iCell) {
         const auto line = [](double iX, double iFromY, double iToX, double iToY) {
             return Make<VEKPrtLineElt>(Point(iX, iFromY), Point(iToX, iToY));
         };
         const std::vector<VEKRef<VEKPrtGraphicPrimitiveElt>> regions[] = {
             {line(5, 6, 5, 36), line(5, 36, 44, 36), line(44, 36, 44, 16),
-             Make<VEKPrtPolyCubicBezierElt>(curve, 4)},
+             Through<VEKPrtPolyCubicBezierElt>({44, 16, 44, 6, 30, 12, 5, 6})},
             {Make<VEKPrtCircularArcElt>(Point(14, 19), 4.0, 180.0F, 360.0F), line(18, 19, 18, 27),
              Make<VEKPrtCircularArcElt>(Point(14, 27), 4.0, 0.0F, 180.0F)},
             {Circle(33, 25, 6.0)}};
@@ -229,40 +233,37 @@ void AddElementCells(const Adder& iAdd) {
         for (const auto& parts : regions) {
             const auto region = Make<VEKPrtClosedFigureRegionElt>();
             for (const auto& part : parts)
-                region->AddChild(part.Get());
-            figure->AddChild(region.Get());
+                AddTo(*region, part);
+            AddTo(*figure, region);
         }
         iCell.Add(figure, Stroke(ink, 0.6), Fill(blue));
         iCell.Text({47, 1.4, "three VEKPrtClosedFigureRegionElt", right, 1.9});
     });
-}
 
-void AddAttributeCells(const Adder& iAdd) {
-    iAdd("caps", "Line caps", "SetStrokeCap", [](const Cell& iCell) {
-        static const char* const names[] = {"butt", "round", "square"};
+    // The attributes.
+    add("caps", "Line caps", "SetStrokeCap", [](const Cell& iCell) {
         for (int i = 0; i < 3; ++i) {
             const double y = 33 - 12 * i;
             const auto cap = static_cast<VEKPrintLineAttribute>(VEKPrintLineCapButt + i);
             iCell.Line({19, y}, {42, y}, With(Stroke(teal, 5), &S::SetStrokeCap, cap));
             iCell.Line({19, y}, {42, y}, Stroke(paper, 0.2));
-            iCell.Text({4, y, names[i], middleLeft, 2.6});
+            iCell.Text({4, y, NameOf(cap), middleLeft, 2.6});
         }
         for (const double x : {19.0, 42.0})
             iCell.Line({x, 4}, {x, 38}, Stroke(red, 0.15));
     });
 
-    iAdd("joins", "Line joins", "SetStrokeJoin", [](const Cell& iCell) {
-        static const char* const names[] = {"mitre", "round", "bevel"};
+    add("joins", "Line joins", "SetStrokeJoin", [](const Cell& iCell) {
         for (int i = 0; i < 3; ++i) {
-            const double x = 9 + 16 * i, points[] = {x - 5, 12, x, 30, x + 5, 12};
+            const double x = 9 + 16 * i;
             const auto join = static_cast<VEKPrintLineAttribute>(VEKPrintLineJoinMitre + i);
-            iCell.Add(Make<VEKPrtPolylineElt>(points, 3), With(Stroke(blue, 4), &S::SetStrokeJoin, join));
-            iCell.Add(Make<VEKPrtPolylineElt>(points, 3), Stroke(paper, 0.2));
-            iCell.Text({x, 4.5, names[i], centre, 2.6});
+            for (const auto& stroke : {With(Stroke(blue, 4), &S::SetStrokeJoin, join), Stroke(paper, 0.2)})
+                iCell.Add(Through<VEKPrtPolylineElt>({x - 5, 12, x, 30, x + 5, 12}), stroke);
+            iCell.Text({x, 4.5, NameOf(join), centre, 2.6});
         }
     });
 
-    iAdd("line-types", "Line types", "SetStrokeType", [](const Cell& iCell) {
+    add("line-types", "Line types", "SetStrokeType", [](const Cell& iCell) {
         static const char* const names[] = {"solid",        "dashed",    "dotted",   "dash dot",
                                             "dash dot dot", "long dash", "fine dash"};
         for (int type = 0; type < 7; ++type) {
@@ -273,7 +274,7 @@ void AddAttributeCells(const Adder& iAdd) {
         }
     });
 
-    iAdd("dash-pattern", "Dash pattern", "SetStrokeTypePattern", [](const Cell& iCell) {
+    add("dash-pattern", "Dash pattern", "SetStrokeTypePattern", [](const Cell& iCell) {
         static const float patterns[][6] = {{6, 2}, {8, 2, 2, 2}, {6, 1.5F, 1.5F, 1.5F, 1.5F, 1.5F}};
         static const char* const names[] = {"6 2", "8 2 2 2", "6 1.5 1.5 1.5 1.5 1.5"};
         for (int i = 0; i < 3; ++i) {
@@ -285,7 +286,7 @@ void AddAttributeCells(const Adder& iAdd) {
         }
     });
 
-    iAdd("widths", "Line widths", "SetStrokeWidth", [](const Cell& iCell) {
+    add("widths", "Line widths", "SetStrokeWidth", [](const Cell& iCell) {
         static const char* const widths[] = {"0.13", "0.18", "0.25", "0.35", "0.5", "0.7", "1", "1.4"};
         for (int i = 0; i < 8; ++i) {
             const double y = 36 - 4.6 * i;
@@ -295,7 +296,7 @@ void AddAttributeCells(const Adder& iAdd) {
     });
 
     // Lines of one width, in groups with different scales.
-    iAdd("stroke-styles", "Line styles", "SetStrokeStyle", [](const Cell& iCell) {
+    add("stroke-styles", "Line styles", "SetStrokeStyle", [](const Cell& iCell) {
         static const char* const names[] = {"0.8, scale 1", "0.8, scale 2.5", "0.8, scale 4"};
         iCell.Texts({{5, 38, "scaled", left, 2.6}, {28, 38, "fixed", left, 2.6}});
         for (int row = 0; row < 3; ++row) {
@@ -307,7 +308,7 @@ void AddAttributeCells(const Adder& iAdd) {
         }
     });
 
-    iAdd("stroke-transparency", "Stroke transparency", "SetStrokeColourTransparency", [](const Cell& iCell) {
+    add("stroke-transparency", "Stroke transparency", "SetStrokeColourTransparency", [](const Cell& iCell) {
         iCell.Add(Box(5, 18, 45, 24), Fill(ink), VEKPrtDrawInterior);
         double x = 10;
         for (const unsigned char value : g_transparencies) {
@@ -317,7 +318,7 @@ void AddAttributeCells(const Adder& iAdd) {
         }
     });
 
-    iAdd("fill-transparency", "Fill transparency", "SetFillColourTransparency", [](const Cell& iCell) {
+    add("fill-transparency", "Fill transparency", "SetFillColourTransparency", [](const Cell& iCell) {
         double angle = 90;
         for (const Colour colour : {red, ochre, teal}) {
             iCell.Add(Make<VEKPrtCircleElt>(Polar(25, 21, 7, angle), 11.0),
@@ -327,17 +328,16 @@ void AddAttributeCells(const Adder& iAdd) {
         iCell.Text({46, 2.6, "140 of 255", right});
     });
 
-    iAdd("fill-rules", "Fill rules", "SetFillRule", [](const Cell& iCell) {
+    add("fill-rules", "Fill rules", "SetFillRule", [](const Cell& iCell) {
         for (const auto rule : {VEKPrtFillNonZero, VEKPrtFillEvenOdd}) {
             const double x = rule == VEKPrtFillNonZero ? 13 : 37;
-            iCell.Add(Make<VEKPrtPolygonElt>(FiveCorners(x, 23, 11, 2).data(), 5), Stroke(ink, 0.4),
-                      With(Fill(ochre), &F::SetFillRule, rule));
-            iCell.Text({x, 4.5, rule == VEKPrtFillNonZero ? "non-zero" : "even-odd", centre, 2.6});
+            iCell.Add(FiveCorners(x, 23, 11, 2), Stroke(ink, 0.4), With(Fill(ochre), &F::SetFillRule, rule));
+            iCell.Text({x, 4.5, NameOf(rule), centre, 2.6});
         }
     });
 
     // One tile of pixels along two pairs of vectors, upright and slanting.
-    iAdd("pattern-fill", "Pattern fill", "SetPattern", [](const Cell& iCell) {
+    add("pattern-fill", "Pattern fill", "SetPattern", [](const Cell& iCell) {
         const auto tile = Make<VEKPixelImage>(8, 8);
         for (int i = 0; i < 64; ++i) {
             const bool isInk = (i % 8 + i / 8) % 8 < 2 || i % 8 == 0;
@@ -353,19 +353,18 @@ void AddAttributeCells(const Adder& iAdd) {
         panel(27, Vector(5, 2), Vector(-1, 4), "(5, 2) (−1, 4)");
     });
 
-    iAdd("draw-styles", "Draw styles", "SetDrawStyle", [](const Cell& iCell) {
-        static const char* const names[] = {"interior", "outline", "both"};
+    add("draw-styles", "Draw styles", "SetDrawStyle", [](const Cell& iCell) {
         for (int i = 0; i < 3; ++i) {
             const double x = 9 + 16 * i;
             const auto style = static_cast<VEKPrtDrawStyle>(i);
             iCell.Add(Circle(x, 28, 6.5), Stroke(ink, 0.8), Fill(teal), style);
             const auto letter = iCell.Text({x, 9.5, "R", centre, 11});
             Set(*letter, Stroke(ink, 0.3), Fill(teal), style);
-            iCell.Text({x, 3.5, names[i], centre});
+            iCell.Text({x, 3.5, NameOf(style), centre});
         }
     });
 
-    iAdd("anchors", "Text anchors", "SetAnchor", [](const Cell& iCell) {
+    add("anchors", "Text anchors", "SetAnchor", [](const Cell& iCell) {
         static const char* const names[] = {"baseline", "middle", "top"};
         for (int i = 0; i < 9; ++i) {
             const int column = i % 3, row = i / 3;
@@ -376,7 +375,7 @@ void AddAttributeCells(const Adder& iAdd) {
         }
     });
 
-    iAdd("weights", "Text weights", "SetWeight", [](const Cell& iCell) {
+    add("weights", "Text weights", "SetWeight", [](const Cell& iCell) {
         static const char* const names[] = {"Light", "Regular", "Medium", "Bold", "Black"};
         iCell.Text({25, 38.5, "each as near as the font has it", centre, 1.9});
         for (int i = 0; i < 5; ++i)
@@ -384,7 +383,7 @@ void AddAttributeCells(const Adder& iAdd) {
                        static_cast<VEKPrintTextAttribute>(VEKPrintTextWeightLight + i));
     });
 
-    iAdd("slant-direction", "Slant and direction", "SetSlant, SetDirection", [](const Cell& iCell) {
+    add("slant-direction", "Slant and direction", "SetSlant, SetDirection", [](const Cell& iCell) {
         iCell.Text({4, 30, "slant 15", left, 4}, &T::SetSlant, 15.0F);
         iCell.Text({27, 30, "slant −15", left, 4}, &T::SetSlant, -15.0F);
         iCell.Marks({{25, 6}});
@@ -396,24 +395,23 @@ void AddAttributeCells(const Adder& iAdd) {
         iCell.Text({46, 1.6, "direction", right});
     });
 
-    iAdd("spacing-expansion", "Spacing and expansion", "SetExtraSpacing, SetExpansion",
-         [](const Cell& iCell) {
-             iCell.Text({4, 35, "spacing 0", left, 3}, &T::SetExtraSpacing, 0);
-             iCell.Text({4, 28.8, "spacing 1", left, 3}, &T::SetExtraSpacing, 1);
-             iCell.Text({4, 22.6, "spacing 2", left, 3}, &T::SetExtraSpacing, 2);
-             iCell.Text({4, 16.4, "expansion 1", left, 3}, &T::SetExpansion, 1);
-             iCell.Text({4, 10.2, "expansion 0.6", left, 3}, &T::SetExpansion, 0.6);
-             iCell.Text({4, 4, "expansion 1.6", left, 3}, &T::SetExpansion, 1.6);
-         });
+    add("spacing-expansion", "Spacing and expansion", "SetExtraSpacing, SetExpansion", [](const Cell& iCell) {
+        iCell.Text({4, 35, "spacing 0", left, 3}, &T::SetExtraSpacing, 0);
+        iCell.Text({4, 28.8, "spacing 1", left, 3}, &T::SetExtraSpacing, 1);
+        iCell.Text({4, 22.6, "spacing 2", left, 3}, &T::SetExtraSpacing, 2);
+        iCell.Text({4, 16.4, "expansion 1", left, 3}, &T::SetExpansion, 1);
+        iCell.Text({4, 10.2, "expansion 0.6", left, 3}, &T::SetExpansion, 0.6);
+        iCell.Text({4, 4, "expansion 1.6", left, 3}, &T::SetExpansion, 1.6);
+    });
 
-    iAdd("writing-mode", "Writing mode", "SetWritingMode", [](const Cell& iCell) {
+    add("writing-mode", "Writing mode", "SetWritingMode", [](const Cell& iCell) {
         iCell.Text({8, 35, "VERTICAL", centre, 4.2}, &T::SetWritingMode, VEKPrtTextVertical);
         iCell.Text({16, 35, "ΣΦΩ", centre, 4.2}, &T::SetWritingMode, VEKPrtTextVertical);
         iCell.Texts({{22, 30, "horizontal", left, 4.4}, {22, 24, "mode 0 and mode 1"}});
     });
 
     // The same two transforms in both orders: the first is the outermost.
-    iAdd("transform-order", "Transform order", "AddRotation, AddTranslation", [](const Cell& iCell) {
+    add("transform-order", "Transform order", "AddRotation, AddTranslation", [](const Cell& iCell) {
         const Cell axes = iCell.Group(Place(5, 6));
         const auto box = [&](const Transform& iTransform, Colour iStroke, Colour iFill) {
             axes.Add(Box(0, 0, 12, 6), iTransform, Stroke(iStroke), Fill(iFill));
@@ -430,7 +428,7 @@ void AddAttributeCells(const Adder& iAdd) {
                      {4, 36, "green: translation (24, 0), rotation 30°", left, 2}});
     });
 
-    iAdd("scale-skew-matrix", "Scale, skew, matrix", "AddScaleX … AddMatrix", [](const Cell& iCell) {
+    add("scale-skew-matrix", "Scale, skew, matrix", "AddScaleX … AddMatrix", [](const Cell& iCell) {
         const auto box = [&](double iX, double iY, const char* iText, auto iSet, const auto& iValue) {
             iCell.Add(Box(0, 0, 8, 8), With(Place(iX, iY), iSet, iValue), Stroke(ink), Fill(blue));
             iCell.Text({iX, iY - 4, iText, left, 2});
@@ -441,13 +439,5 @@ void AddAttributeCells(const Adder& iAdd) {
         box(20, 7, "skew y 20", &Transform::AddSkewY, 20.0F);
         box(37, 8, "matrix", &Transform::AddMatrix, VEKMath2x2Matrix(0.9, 0.4, -0.2, 1.1));
     });
-}
-
-} // namespace
-
-std::vector<CellContent> Cells() {
-    std::vector<CellContent> cells;
-    AddElementCells({cells});
-    AddAttributeCells({cells});
     return cells;
 }
