@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <ctime>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -56,8 +57,10 @@ private:
 
 /// Times \p iCount calls of each side in every pass; a call gets its number, from 0.  \p iPrepare is called
 /// before each pass and not timed.
-template <class Library, class Baseline, class Prepare>
-void Compare(benchmark::State& ioState, int iCount, Library iLibrary, Baseline iBaseline, Prepare iPrepare) {
+template <class Library, class Baseline>
+void Compare(
+    benchmark::State& ioState, int iCount, Library iLibrary, Baseline iBaseline,
+    const std::function<void()>& iPrepare = [] {}) {
     const auto nanoseconds = [&](auto& ioCall) {
         return Seconds([&] {
                    for (int i = 0; i < iCount; ++i)
@@ -73,10 +76,6 @@ void Compare(benchmark::State& ioState, int iCount, Library iLibrary, Baseline i
         ioState.SetIterationTime(library * iCount / 1e9);
     }
     pairs.Report(ioState);
-}
-template <class Library, class Baseline>
-void Compare(benchmark::State& ioState, int iCount, Library iLibrary, Baseline iBaseline) {
-    Compare(ioState, iCount, iLibrary, iBaseline, [] {});
 }
 
 #endif

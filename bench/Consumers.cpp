@@ -22,38 +22,9 @@ using vekprt::VEKRef;
 
 namespace {
 
-VEKRef<VEKPrtModel> NewModel(VEKRef<VEKPrtImageElt>& oPage) {
-    auto model = Make<VEKPrtModel>();
-    oPage = Make<VEKPrtImageElt>();
-    oPage->SetSize(420.0, 297.0);
-    auto* const colours = new VEKPrtColourTable;
-    unsigned index = 0;
-    colours->AddColour(200, 30, 40, index);
-    oPage->SetColourTable(colours);
-    model->AddImage(oPage.Get());
-    return model;
-}
-
 VEKMathPoint2D AnyPoint(std::mt19937& ioRandom) {
     std::uniform_real_distribution<double> x(0.0, 420.0), y(0.0, 297.0);
     return VEKMathPoint2D(x(ioRandom), y(ioRandom));
-}
-
-// Writes the page pass by pass; the parts of a page are points, lines or uses.
-void Write(benchmark::State& ioState, const VEKPrtModel& iModel, double iParts) {
-    std::vector<double> nanoseconds;
-    std::size_t bytes = 0;
-    for (auto _ : ioState) {
-        std::ostringstream stream;
-        const double seconds = Seconds([&] {
-            if (!vekprt::WriteSvg(iModel, 1, stream)) ioState.SkipWithError("the page is not written");
-        });
-        nanoseconds.push_back(seconds * 1e9 / iParts);
-        bytes = stream.str().size();
-        ioState.SetIterationTime(seconds);
-    }
-    ioState.counters["part ns"] = Median(nanoseconds);
-    ioState.counters["part bytes"] = static_cast<double>(bytes) / iParts;
 }
 
 // What a client would draw from without the library.
@@ -65,55 +36,76 @@ struct Plain {
     cairo_line_join_t join = CAIRO_LINE_JOIN_MITER;
 };
 
-// As many polylines, or lines for two points, of any points; into a model, and as plain structs.
-template <class Add>
-std::vector<Plain> AddPolylines(VEKPrtImageElt& ioPage, int iCount, int iPoints, Add iAdd) {
-    std::mt19937 random(1);
-    std::vector<Plain> plain(static_cast<std::size_t>(iCount));
-    for (Plain& line : plain) {
-        for (int i = 0; i < iPoints; ++i) {
-            const VEKMathPoint2D point = AnyPoint(random);
-            line.xy.insert(line.xy.end(), {point.GetX(), point.GetY()});
-        }
-        iAdd(ioPage, line.xy);
+// A model of one page.
+struct Sheet {
+    VEKRef<VEKPrtModel> model = Make<VEKPrtModel>();
+    VEKRef<VEKPrtImageElt> page = Make<VEKPrtImageElt>();
+
+    Sheet() {
+        page->SetSize(420.0, 297.0);
+        auto* const colours = new VEKPrtColourTable;
+        unsigned index = 0;
+        colours->AddColour(200, 30, 40, index);
+        page->SetColourTable(colours);
+        model->AddImage(page.Get());
     }
-    return plain;
-}
-std::vector<Plain> AddPolylines(VEKPrtImageElt& ioPage, int iCount, int iPoints) {
-    return AddPolylines(ioPage, iCount, iPoints, [](VEKPrtImageElt& ioTo, const std::vector<double>& iXy) {
-        ioTo.AddChild(Make<VEKPrtPolylineElt>(iXy.data(), static_cast<int>(iXy.size() / 2)).Get());
-    });
-}
-std::vector<Plain> AddLines(VEKPrtImageElt& ioPage, int iCount) {
-    return AddPolylines(ioPage, iCount, 2, [](VEKPrtImageElt& ioTo, const std::vector<double>& iXy) {
-        ioTo.AddChild(
-            Make<VEKPrtLineElt>(VEKMathPoint2D(iXy[0], iXy[1]), VEKMathPoint2D(iXy[2], iXy[3])).Get());
-    });
+    // As many polylines, or lines for two points, of any points; returns them as plain structs, too.
+    std::vector<Plain> AddPolylines(int iCount, int iPoints) const {
+        std::mt19937 random(1);
+        std::vector<Plain> plain(static_cast<std::size_t>(iCount));
+        for (Plain& line : plain) {
+            std::vector<double>& xy = line.xy;
+            for (int i = 0; i < iPoints; ++i) {
+                const VEKMathPoint2D point = AnyPoint(random);
+                xy.insert(xy.end(), {point.GetX(), point.GetY()});
+            }
+            if (iPoints == 2)
+                page->AddChild(
+                    Make<VEKPrtLineElt>(VEKMathPoint2D(xy[0], xy[1]), VEKMathPoint2D(xy[2], xy[3])).Get());
+            else
+                page->AddChild(Make<VEKPrtPolylineElt>(xy.data(), iPoints).Get());
+        }
+        return plain;
+    }
+};
+
+// Writes the page pass by pass; the parts of a page are points, lines or uses.
+void Write(benchmark::State& ioState, const Sheet& iSheet, double iParts) {
+    std::vector<double> nanoseconds;
+    std::size_t bytes = 0;
+    for (auto _ : ioState) {
+        std::ostringstream stream;
+        const double seconds = Seconds([&] {
+            if (!vekprt::WriteSvg(*iSheet.model, 1, stream)) ioState.SkipWithError("the page is not written");
+        });
+        nanoseconds.push_back(seconds * 1e9 / iParts);
+        bytes = stream.str().size();
+        ioState.SetIterationTime(seconds);
+    }
+    ioState.counters["part ns"] = Median(nanoseconds);
+    ioState.counters["part bytes"] = static_cast<double>(bytes) / iParts;
 }
 
 void Points(benchmark::State& ioState) {
     constexpr int length = 1000;
     const int points = static_cast<int>(ioState.range(0));
-    VEKRef<VEKPrtImageElt> page;
-    const auto model = NewModel(page);
-    AddPolylines(*page, points / length, length);
-    Write(ioState, *model, points);
+    const Sheet sheet;
+    sheet.AddPolylines(points / length, length);
+    Write(ioState, sheet, points);
 }
 BENCHMARK(Points)->Apply(Passes)->Arg(100000)->Arg(1000000);
 
 void Lines(benchmark::State& ioState) {
     const int lines = static_cast<int>(ioState.range(0));
-    VEKRef<VEKPrtImageElt> page;
-    const auto model = NewModel(page);
-    AddLines(*page, lines);
-    Write(ioState, *model, lines);
+    const Sheet sheet;
+    sheet.AddPolylines(lines, 2);
+    Write(ioState, sheet, lines);
 }
 BENCHMARK(Lines)->Apply(Passes)->Arg(100000)->Arg(1000000);
 
 void SymbolUses(benchmark::State& ioState) {
     const int uses = static_cast<int>(ioState.range(0));
-    VEKRef<VEKPrtImageElt> page;
-    const auto model = NewModel(page);
+    const Sheet sheet;
     std::mt19937 random(1);
     const auto symbol = Make<VEKPrtSymbolElt>();
     for (int i = 0; i < 50; ++i)
@@ -125,9 +117,9 @@ void SymbolUses(benchmark::State& ioState) {
         transform.AddTranslation(VEKMathVector2D(point.GetX(), point.GetY()));
         group->SetTransformAttributes(transform);
         group->AddChild(symbol.Get());
-        page->AddChild(group.Get());
+        sheet.page->AddChild(group.Get());
     }
-    Write(ioState, *model, uses);
+    Write(ioState, sheet, uses);
 }
 BENCHMARK(SymbolUses)->Apply(Passes)->Arg(1000)->Arg(100000);
 
@@ -162,25 +154,20 @@ void DrawPlain(cairo_t* ioCairo, const std::vector<Plain>& iLines) {
 }
 
 // One drawing a pass.
-void CompareOnPdf(benchmark::State& ioState, const VEKPrtModel& iModel, const std::vector<Plain>& iLines) {
+void CompareOnPdf(benchmark::State& ioState, int iCount, int iPoints) {
+    const Sheet sheet;
+    const std::vector<Plain> lines = sheet.AddPolylines(iCount, iPoints);
+    const auto draw = [&](cairo_t* ioCairo) { vekprt::DrawPage(*sheet.model, 1, ioCairo); };
+    const auto drawPlain = [&](cairo_t* ioCairo) { DrawPlain(ioCairo, lines); };
     Compare(
-        ioState, 1, [&](int) { OnPdf([&](cairo_t* ioCairo) { vekprt::DrawPage(iModel, 1, ioCairo); }); },
-        [&](int) { OnPdf([&](cairo_t* ioCairo) { DrawPlain(ioCairo, iLines); }); });
+        ioState, 1, [&](int) { OnPdf(draw); }, [&](int) { OnPdf(drawPlain); });
 }
 
-void CairoLines(benchmark::State& ioState) {
-    const int lines = static_cast<int>(ioState.range(0));
-    VEKRef<VEKPrtImageElt> page;
-    const auto model = NewModel(page);
-    CompareOnPdf(ioState, *model, AddLines(*page, lines));
-}
+void CairoLines(benchmark::State& ioState) { CompareOnPdf(ioState, static_cast<int>(ioState.range(0)), 2); }
 BENCHMARK(CairoLines)->Apply(Passes)->Arg(100000);
 
 void CairoPolyline(benchmark::State& ioState) {
-    const int points = static_cast<int>(ioState.range(0));
-    VEKRef<VEKPrtImageElt> page;
-    const auto model = NewModel(page);
-    CompareOnPdf(ioState, *model, AddPolylines(*page, 1, points));
+    CompareOnPdf(ioState, 1, static_cast<int>(ioState.range(0)));
 }
 BENCHMARK(CairoPolyline)->Apply(Passes)->Arg(1000000);
 

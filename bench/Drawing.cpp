@@ -74,27 +74,24 @@ private:
         double sum = 0.0;
 
         template <class Element>
-        void AddWidth(const Element& iElement) {
+        void Add(const Element& iElement, std::initializer_list<VEKMathPoint2D> iPoints) {
+            for (const VEKMathPoint2D& point : iPoints)
+                sum += point.GetX() + point.GetY();
             VEKPrtStrokeAttributes stroke;
             double width = 0.0;
             iElement.GetStrokeAttributes(stroke);
             stroke.GetStrokeWidth(width);
             sum += width;
         }
-        void Add(const VEKMathPoint2D& iPoint) { sum += iPoint.GetX() + iPoint.GetY(); }
         void operator()(VEKPrtLineElt& iLine) {
             VEKMathPoint2D a, b;
             iLine.GetParameters(a, b);
-            Add(a);
-            Add(b);
-            AddWidth(iLine);
+            Add(iLine, {a, b});
         }
         void operator()(VEKPrtRectangleElt& iRectangle) {
             VEKMathPoint2D a, b;
             iRectangle.GetPoints(a, b);
-            Add(a);
-            Add(b);
-            AddWidth(iRectangle);
+            Add(iRectangle, {a, b});
         }
         void operator()(VEKPrtPolylineElt& iPolyline) {
             double* points = nullptr;
@@ -102,13 +99,12 @@ private:
             iPolyline.GetPoints(points, count);
             for (int i = 0; i < 2 * count; ++i)
                 sum += points[i];
-            AddWidth(iPolyline);
+            Add(iPolyline, {});
         }
         void operator()(VEKPrtTextElt& iText) {
             VEKMathPoint2D position;
             iText.GetPosition(position);
-            Add(position);
-            AddWidth(iText);
+            Add(iText, {position});
         }
         void operator()(VEKPrtGraphicPrimitiveElt&) {}
     };
