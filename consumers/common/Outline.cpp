@@ -49,15 +49,8 @@ struct Chain {
 
     void operator()(const VEKPrtTextElt& iText) { Refuse(iText); }
     void operator()(const VEKPrtMarkerElt& iMarker) { Refuse(iMarker); }
-    void operator()(const VEKPrtBitmapImageElt& iBitmap) { Refuse(iBitmap); }
-    void operator()(const VEKPrtSymbolElt& iSymbol) { Refuse(iSymbol); }
-    void operator()(const VEKPrtPatternElt& iPattern) { Refuse(iPattern); }
-    void operator()(const VEKPrtImageElt& iImage) { Refuse(iImage); }
     void operator()(const VEKPrtClosedFigureElt& iFigure) { Refuse(iFigure); }
-    template <class Bare>
-    std::enable_if_t<std::is_same_v<Bare, const VEKPrtGraphicPrimitiveElt>> operator()(Bare& iBare) {
-        Refuse(iBare);
-    }
+    void operator()(const VEKPrtGraphicPrimitiveElt& iOther) { Refuse(iOther); }
 
     template <class Container>
     void AppendChildren(const Container& iContainer) {

@@ -27,7 +27,11 @@ template <class Container>
 void WriteGroup(SvgPage& ioPage, Container& ioContainer) {
     const Placement placement(ioPage, ioContainer, PlacementOf(ioContainer));
     if (!placement) return;
-    SvgElement element(ioPage, ioContainer, "g", placement);
+    std::string link;
+    if constexpr (std::is_same_v<Container, VEKPrtGroupElt>) link = LinkOf(ioPage.reporter, ioContainer);
+    if (!link.empty() && link.front() == '#') link = "#" + XmlName(DecodedUri(link.substr(1)));
+    SvgElement element(ioPage, ioContainer, link.empty() ? "g" : "a", placement);
+    ioPage.xml.OptionalAttribute("xlink:href", link);
     element.Content();
     WriteChildren(ioPage, ioContainer);
     element.End();
@@ -35,17 +39,7 @@ void WriteGroup(SvgPage& ioPage, Container& ioContainer) {
 
 } // namespace
 
-void ElementWriter::operator()(VEKPrtGroupElt& ioGroup) const {
-    const Placement placement(page, ioGroup, PlacementOf(ioGroup));
-    if (!placement) return;
-    std::string link = LinkOf(page.reporter, ioGroup);
-    if (!link.empty() && link.front() == '#') link = "#" + XmlName(DecodedUri(link.substr(1)));
-    SvgElement element(page, ioGroup, link.empty() ? "g" : "a", placement);
-    page.xml.OptionalAttribute("xlink:href", link);
-    element.Content();
-    WriteChildren(page, ioGroup);
-    element.End();
-}
+void ElementWriter::operator()(VEKPrtGroupElt& ioGroup) const { WriteGroup(page, ioGroup); }
 
 // A region on its own has no appearance but that of its children.
 void ElementWriter::operator()(VEKPrtClosedFigureRegionElt& ioRegion) const { WriteGroup(page, ioRegion); }

@@ -33,8 +33,6 @@ Grid::Grid(double iStep) {
     _unitsInOne = std::pow(10.0, std::max(_digits, 0));
 }
 
-double Grid::Step() const { return std::isfinite(_unitsInOne) ? std::pow(10.0, -_digits) : 0.0; }
-
 char* Grid::WriteUnits(char* oText, std::int64_t iUnits) const {
     std::int64_t rest = std::abs(iUnits);
     int digits = std::max(_digits, 0);

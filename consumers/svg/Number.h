@@ -22,8 +22,6 @@ public:
     /// Multiples of the power of ten at \p iStep or next below it; no rounding for what is no step.
     explicit Grid(double iStep);
 
-    /// 0 for no rounding.
-    double Step() const;
     bool IsAsFineAs(const Grid& iOther) const { return _digits >= iOther._digits; }
 
     /// Whether Units has room for values of this magnitude.
