@@ -381,7 +381,7 @@ void Drawing::operator()(VEKPrtPatternElt& ioPattern) {
         _allowance = content._allowance;
         _outlineAllowance = content._outlineAllowance;
     }
-    const Box covered = Around(_place.area, _place.map.Inverse() * _place.areaMap);
+    const Box covered = _place.Covered();
     SetSource(_cairo, surface.get(), toTile * transform.Inverse(), CAIRO_EXTEND_REPEAT, CAIRO_FILTER_GOOD);
     cairo_rectangle(_cairo, covered.x, covered.y, covered.width, covered.height);
     cairo_fill(_cairo);

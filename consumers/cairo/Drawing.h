@@ -46,16 +46,6 @@ struct Destination {
 };
 using Destinations = std::map<std::string, Destination>;
 
-/// What an element takes over from its surroundings.
-struct Place {
-    VEKPrtColourTable* colours = nullptr;
-    /// From the coordinates of the element to those of the page.
-    Affine map = {};
-    /// Where a pattern repeats: the box of the page or of the nearest symbol, and the map of its coordinates.
-    Box area = {};
-    Affine areaMap = {};
-};
-
 /// A visitor: draws each element by its class.
 class Drawing {
 public:

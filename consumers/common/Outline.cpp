@@ -97,13 +97,11 @@ EllipseShape EllipseOf(const VEKPrtCircleElt& iCircle) {
     return shape;
 }
 EllipseShape EllipseOf(const VEKPrtCircularArcElt& iArc) {
-    EllipseShape shape;
+    VEKMathPoint2D centre(0.0, 0.0);
+    double radius = 0;
     float start = 0, end = 0;
-    iArc.GetParameters(shape.centre, shape.radiusX, start, end);
-    shape.radiusY = shape.radiusX;
-    shape.start = start;
-    shape.end = ArcEnd(start, end);
-    return shape;
+    iArc.GetParameters(centre, radius, start, end);
+    return {centre, radius, radius, 0, start, ArcEnd(start, end)};
 }
 EllipseShape EllipseOf(const VEKPrtEllipseElt& iEllipse) {
     EllipseShape shape;
@@ -113,13 +111,11 @@ EllipseShape EllipseOf(const VEKPrtEllipseElt& iEllipse) {
     return shape;
 }
 EllipseShape EllipseOf(const VEKPrtEllipticalArcElt& iArc) {
-    EllipseShape shape;
+    VEKMathPoint2D centre(0.0, 0.0);
+    double radiusX = 0, radiusY = 0;
     float start = 0, end = 0, slope = 0;
-    iArc.GetParameters(shape.centre, shape.radiusX, shape.radiusY, start, end, slope);
-    shape.slope = slope;
-    shape.start = start;
-    shape.end = ArcEnd(start, end);
-    return shape;
+    iArc.GetParameters(centre, radiusX, radiusY, start, end, slope);
+    return {centre, radiusX, radiusY, slope, start, ArcEnd(start, end)};
 }
 
 Path PathOf(const Reporter& iReporter, const VEKPrtClosedFigureElt& iFigure, double iTolerance, int iNesting,

@@ -152,11 +152,12 @@ bool Box::operator==(const Box& iOther) const {
     return x == iOther.x && y == iOther.y && width == iOther.width && height == iOther.height;
 }
 
-Box Around(const Box& iBox, const Affine& iMap) {
+Box Place::Covered() const {
+    const Affine toElement = map.Inverse() * areaMap;
     double low[2] = {INFINITY, INFINITY}, high[2] = {-INFINITY, -INFINITY};
-    for (const double x : {iBox.x, iBox.x + iBox.width}) {
-        for (const double y : {iBox.y, iBox.y + iBox.height}) {
-            const VEKMathPoint2D corner = iMap(x, y);
+    for (const double x : {area.x, area.x + area.width}) {
+        for (const double y : {area.y, area.y + area.height}) {
+            const VEKMathPoint2D corner = toElement(x, y);
             const double xy[2] = {corner.GetX(), corner.GetY()};
             for (int i = 0; i < 2; ++i) {
                 low[i] = std::min(low[i], xy[i]);

@@ -116,8 +116,19 @@ Box BoxOf(const Element& iElement) {
     box.y = origin.GetY();
     return box;
 }
-/// The smallest box around \p iBox as \p iMap shows it.
-Box Around(const Box& iBox, const Affine& iMap);
+
+/// What an element takes over from its surroundings.
+struct Place {
+    VEKPrtColourTable* colours = nullptr;
+    /// From the coordinates of the element to those of the page.
+    Affine map = {};
+    /// Where a pattern repeats: the box of the page or of the nearest symbol, and the map of its coordinates.
+    Box area = {};
+    Affine areaMap = {};
+
+    /// The smallest box around that area in the coordinates of the element.
+    Box Covered() const;
+};
 
 /// A bitmap by the lower left corner that it is turned about; no image, with a warning, for one that has no
 /// pixels or no size.

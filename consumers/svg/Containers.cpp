@@ -79,15 +79,14 @@ void ElementWriter::operator()(VEKPrtSymbolElt& ioSymbol) const {
 void ElementWriter::operator()(VEKPrtPatternElt& ioPattern) const {
     SvgElement element(page, ioPattern, "g", Placement(page, ioPattern));
     element.Content();
-    const Affine& map = page.place.map;
     const Box tile = BoxOf(ioPattern);
     const std::vector<Elementary> transforms = PlacementOf(ioPattern);
-    if (tile.IsEmpty() || Compose(transforms).Determinant() == 0.0 || map.Determinant() == 0.0) {
+    if (tile.IsEmpty() || Compose(transforms).Determinant() == 0.0 || page.place.map.Determinant() == 0.0) {
         page.reporter.Warn(ioPattern, "pattern whose box has no area");
         return element.End();
     }
     page.uses |= usesArea;
-    const Box covered = Around(page.place.area, map.Inverse() * page.place.areaMap);
+    const Box covered = page.place.Covered();
     const std::string id = page.NewId("pattern");
     XmlWriter& xml = page.xml;
     {

@@ -14,16 +14,9 @@ using namespace drawing;
 
 struct SvgPage;
 
-/// What an element takes over from its surroundings.
-struct Place {
-    VEKPrtColourTable* colours;
-    /// From the coordinates of the element to those of the page.
-    Affine map;
-    /// What those coordinates are rounded to.
-    Grid grid;
-    /// Where a pattern repeats: the box of the page or of the nearest symbol, and the map of its coordinates.
-    Box area;
-    Affine areaMap = {};
+struct Place : drawing::Place {
+    /// What coordinates of the element are rounded to.
+    Grid grid = {};
 };
 
 std::string Matrix(const Affine& iMap);

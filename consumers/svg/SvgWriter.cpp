@@ -88,7 +88,7 @@ bool WriteDocument(VEKPrtImageElt& ioImage, std::ostream& ioStream, std::ostream
     const double step = box.IsEmpty() ? 0.0 : relativeStep * std::max(box.width, box.height);
 
     XmlWriter xml(ioStream);
-    SvgPage page{xml, Reporter("svg", &ioWarnings), step, {colours, {}, Grid(step), box}};
+    SvgPage page{xml, Reporter("svg", &ioWarnings), step, {{colours, {}, box}, Grid(step)}};
     const Contents contents = ContentsOf(ioImage);
     page.allowance = page.outlineAllowance = minAllowance + allowanceFactor * contents.count;
     for (const VEKPrtGraphicPrimitiveElt* const element : contents.shared)
