@@ -207,9 +207,15 @@ void Drawing::DrawAsDestination(const VEKPrtGraphicPrimitiveElt& iElement, Use i
     const auto found = _destinations.find(id.ToUtf8());
     if (found == _destinations.end() || found->second.isSet || _inPattern) return iDraw();
     found->second.isSet = true;
+    // A link that is around begins anew within: one inside may interrupt it, and tags must nest.
+    std::string link;
+    SwapLink(link);
     cairo_tag_begin(_cairo, CAIRO_TAG_DEST, ("name='" + found->second.name + "'").c_str());
+    SwapLink(link);
     iDraw();
+    SwapLink(link);
     cairo_tag_end(_cairo, CAIRO_TAG_DEST);
+    SwapLink(link);
 }
 
 void Drawing::DrawPage(VEKPrtImageElt& ioPage) {
@@ -264,6 +270,12 @@ void Drawing::Draw(VEKPrtGraphicPrimitiveElt& ioElement) {
     DrawAsDestination(ioElement, [&] { Visit(ioElement, *this); });
 }
 
+void Drawing::SwapLink(std::string& ioLink) {
+    if (!_link.empty()) cairo_tag_end(_cairo, CAIRO_TAG_LINK);
+    _link.swap(ioLink);
+    if (!_link.empty()) cairo_tag_begin(_cairo, CAIRO_TAG_LINK, _link.c_str());
+}
+
 template <class Container>
 void Drawing::DrawChildren(Container& ioContainer, int iNesting) {
     if (std::find(_open.begin(), _open.end(), &ioContainer) != _open.end())
@@ -312,14 +324,9 @@ void Drawing::operator()(VEKPrtGroupElt& ioGroup) {
         link = "uri='" + Uri(link) + "'";
     }
     if (link.empty() || _inPattern) return DrawChildren(ioGroup);
-    // Links cannot be nested: the inner one interrupts the outer one.
-    if (!_link.empty()) cairo_tag_end(_cairo, CAIRO_TAG_LINK);
-    link.swap(_link);
-    cairo_tag_begin(_cairo, CAIRO_TAG_LINK, _link.c_str());
+    SwapLink(link);
     DrawChildren(ioGroup);
-    cairo_tag_end(_cairo, CAIRO_TAG_LINK);
-    link.swap(_link);
-    if (!_link.empty()) cairo_tag_begin(_cairo, CAIRO_TAG_LINK, _link.c_str());
+    SwapLink(link);
 }
 
 void Drawing::operator()(VEKPrtClosedFigureRegionElt& ioRegion) {

@@ -85,6 +85,8 @@ private:
 
     template <class Container>
     void DrawChildren(Container& ioContainer, int iNesting = 1);
+    /// Links cannot be nested: the one that is around ends where another begins.
+    void SwapLink(std::string& ioLink);
     bool Fits(const VEKPrtGraphicPrimitiveElt& iElement, std::initializer_list<double> iValues) const;
     void MeasureBound();
 
