@@ -198,6 +198,13 @@ Box SizeInPoints(const Reporter& iReporter, const VEKPrtImageElt& iPage) {
     return {box.x * point, box.y * point, box.width * point, box.height * point};
 }
 
+// Cairo fails at tags where nothing can be seen.
+bool Drawing::CanTag() const {
+    double left = 0, top = 0, right = 0, bottom = 0;
+    cairo_clip_extents(_cairo, &left, &top, &right, &bottom);
+    return !_inPattern && left < right && top < bottom;
+}
+
 // Where links to the element's identifier lead.
 template <class Use>
 void Drawing::DrawAsDestination(const VEKPrtGraphicPrimitiveElt& iElement, Use iDraw) {
@@ -205,7 +212,7 @@ void Drawing::DrawAsDestination(const VEKPrtGraphicPrimitiveElt& iElement, Use i
     VEKUnicodeString id;
     iElement.GetID(id);
     const auto found = _destinations.find(id.ToUtf8());
-    if (found == _destinations.end() || found->second.isSet || _inPattern) return iDraw();
+    if (found == _destinations.end() || found->second.isSet || !CanTag()) return iDraw();
     found->second.isSet = true;
     // A link that is around begins anew within: one inside may interrupt it, and tags must nest.
     std::string link;
@@ -323,7 +330,7 @@ void Drawing::operator()(VEKPrtGroupElt& ioGroup) {
     } else if (!link.empty()) {
         link = "uri='" + Uri(link) + "'";
     }
-    if (link.empty() || _inPattern) return DrawChildren(ioGroup);
+    if (link.empty() || !CanTag()) return DrawChildren(ioGroup);
     SwapLink(link);
     DrawChildren(ioGroup);
     SwapLink(link);

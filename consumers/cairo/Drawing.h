@@ -54,6 +54,7 @@ public:
     /// The page, its upper left corner at the origin, and a point as one unit.
     void DrawPage(VEKPrtImageElt& ioPage);
     void Draw(VEKPrtGraphicPrimitiveElt& ioElement);
+    bool CanTag() const;
     template <class Use>
     void DrawAsDestination(const VEKPrtGraphicPrimitiveElt& iElement, Use iDraw);
 
