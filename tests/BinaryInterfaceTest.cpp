@@ -19,12 +19,12 @@ SUITE_OF(VirtualTableOfElement, AllElements);
 } // namespace
 
 // A destructor takes two slots, the first two of a record.
-TYPED_TEST(VirtualTableOfRecord, HasItsOrder) { ExpectSlots(2, FieldsOf<TypeParam>()); }
+TYPED_TEST(VirtualTableOfRecord, HasItsOrder) { ExpectSlots<TypeParam>(2, FieldsOf<TypeParam>()); }
 
 // Own functions follow the base's last, GetTitle.
 TYPED_TEST(VirtualTableOfElement, HasItsOrder) {
     const bool isBase = std::is_same_v<TypeParam, VEKPrtGraphicPrimitiveElt>;
-    ExpectSlots(isBase ? 18 : 25, FieldsOf<TypeParam>());
+    ExpectSlots<TypeParam>(isBase ? 18 : 25, FieldsOf<TypeParam>());
 }
 
 TEST(VirtualTables, OfTheFrameworkAndTheModel) {
@@ -39,5 +39,5 @@ TEST(VirtualTables, OfTheFrameworkAndTheModel) {
                       SlotOf(&C::GetImpl), SlotOf(&C::SetImpl), SlotOf(&C::IsNull), SlotOf(&C::IsEqual),
                       SlotOf(static_cast<U* (U::*)(const char*)>(&C::QueryInterface)),
                       SlotOf(&C::ChangeComponentState))});
-    ExpectSlots(18, FieldsOf<VEKPrtModel>());
+    ExpectSlots<VEKPrtModel>(18, FieldsOf<VEKPrtModel>());
 }

@@ -31,17 +31,24 @@ std::size_t SlotOf(Member iMember) {
 
 /// A field, or several that are set together, with values of it; the first is that of a new object.  An entry
 /// without values stands for virtual functions of which the tests are elsewhere, or for a constructor.
-template <class Class>
-struct Field {
+template <class Root>
+struct FieldOfRoot {
     const char* name;
     std::vector<std::size_t> slots = {};
+    std::function<Root*()> construct = {};
     std::size_t count = 0;
-    std::function<void(Class&, std::size_t)> set = {};
-    std::function<std::string(const Class&)> show = {};
+    std::function<void(Root&, std::size_t)> set = [](Root&, std::size_t) {};
+    std::function<std::string(const Root&)> show = {};
     /// Whether an object has a value; the failure shows both.
-    std::function<testing::AssertionResult(const Class&, std::size_t)> has = {};
-    std::function<Class*()> construct = {};
+    std::function<testing::AssertionResult(const Root&, std::size_t)> has = [](const Root&, std::size_t) {
+        return testing::AssertionSuccess();
+    };
 };
+/// A record, or any of the host's objects: so that one list can hold the fields of a class and its bases.
+template <class Class>
+using Root = std::conditional_t<std::is_base_of_v<VEKBaseUnknown, Class>, VEKBaseUnknown, Class>;
+template <class Class>
+using Field = FieldOfRoot<Root<Class>>;
 template <class Class>
 using Fields = std::vector<Field<Class>>;
 
@@ -92,23 +99,27 @@ Field<Class> FieldBy(const char* iName, std::vector<std::size_t> iSlots, Set iSe
                      std::initializer_list<std::tuple<Given<Arguments>...>> iValues) {
     using Values = std::tuple<std::decay_t<Arguments>...>;
     const auto values = std::make_shared<std::vector<Values>>(iValues.begin(), iValues.end());
-    const auto set = [=](Class& ioObject, std::size_t iIndex) {
-        std::apply([&](const auto&... iValue) { std::invoke(iSet, ioObject, iValue...); }, (*values)[iIndex]);
+    const auto set = [=](Root<Class>& ioObject, std::size_t iIndex) {
+        const auto call = [&](const auto&... iValue) {
+            std::invoke(iSet, static_cast<Class&>(ioObject), iValue...);
+        };
+        std::apply(call, (*values)[iIndex]);
     };
-    const auto get = [=](const Class& iObject, std::size_t iUnlike) {
+    const auto get = [=](const Root<Class>& iObject, std::size_t iUnlike) {
         Values found = (*values)[iUnlike % values->size()]; // to be overwritten
-        auto& object = const_cast<Class&>(iObject);         // not all getters are const
+        // Not all getters are const.
+        auto& object = static_cast<Class&>(const_cast<Root<Class>&>(iObject));
         std::apply([&](auto&... oValue) { std::invoke(iGet, object, oValue...); }, found);
         return found;
     };
-    const auto show = [=](const Class& iObject) { return testing::PrintToString(get(iObject, 0)); };
-    const auto has = [=](const Class& iObject, std::size_t iIndex) {
+    const auto show = [=](const Root<Class>& iObject) { return testing::PrintToString(get(iObject, 0)); };
+    const auto has = [=](const Root<Class>& iObject, std::size_t iIndex) {
         const Values found = get(iObject, iIndex + 1);
         if (found == (*values)[iIndex]) return testing::AssertionSuccess();
         return testing::AssertionFailure() << iName << " is " << testing::PrintToString(found) << ", not "
                                            << testing::PrintToString((*values)[iIndex]);
     };
-    return {iName, std::move(iSlots), values->size(), set, show, has};
+    return {iName, std::move(iSlots), {}, values->size(), set, show, has};
 }
 template <class Class, class... Arguments, class Get>
 Field<Class> MakeField(const char* iName, void (Class::*iSet)(Arguments...), Get iGet,
@@ -116,23 +127,12 @@ Field<Class> MakeField(const char* iName, void (Class::*iSet)(Arguments...), Get
     return FieldBy<Class, Arguments...>(iName, {SlotOf(iSet), SlotOf(iGet)}, iSet, iGet, iValues);
 }
 
-template <class Class>
-void ExpectFields(const Class& iObject, std::size_t iValue, const char* iWhat) {
-    for (const Field<Class>& field : FieldsOf<Class>())
-        if (field.count > 0) {
-            EXPECT_TRUE(field.has(iObject, iValue)) << Row<Class>::name << ' ' << iWhat;
-        }
-}
-template <class Class>
-void SetFields(Class& ioObject, std::size_t iValue = 1) {
-    for (const Field<Class>& field : FieldsOf<Class>())
-        if (field.count > 0) field.set(ioObject, iValue);
-}
 /// A record with the second value of each field.
 template <class Record>
 Record Changed() {
     Record record;
-    SetFields(record);
+    for (const Field<Record>& field : FieldsOf<Record>())
+        field.set(record, 1);
     return record;
 }
 

@@ -28,7 +28,7 @@ struct Samples {
 /// A constructor from values: the fields before it get their second values, the others their first.
 #define CONSTRUCTED(...)                                                                                     \
     Field<C> {                                                                                               \
-        "constructor", {}, 0, {}, {}, {}, [] { return new C(__VA_ARGS__); }                                  \
+        "constructor", {}, [] { return new C(__VA_ARGS__); }                                                 \
     }
 #define TRANSFORM FIELD(TransformAttributes, {Transform()}, {Changed<Transform>()})
 #define STROKE FIELD(StrokeAttributes, {Stroke()}, {Changed<Stroke>()})

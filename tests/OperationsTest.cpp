@@ -1,7 +1,8 @@
-// Random operations on objects of all classes and, side by side, on a plain model of their contents and
-// reference counts.  After each step all objects must agree with it.
+// All operations of all classes.  At random, side by side with a plain model of contents and reference
+// counts: after each step all objects must agree with it.  And each operation by itself, with every
+// allocation failing in turn, alone and from there on.
 //
-// VEKPRT_RANDOM_STEPS and VEKPRT_RANDOM_SEED in the environment say how many steps, and which.
+// VEKPRT_RANDOM_STEPS and VEKPRT_RANDOM_SEED in the environment say how many random steps, and which.
 #include <iostream>
 #include <random>
 #include <set>
@@ -11,55 +12,52 @@
 namespace {
 
 using Object = VEKBaseUnknown;
+using Ref = VEKRef<Object>;
 using Base = VEKPrtGraphicPrimitiveElt;
 const std::string g_parameters = "Parameters";
 
 // What a class can do, with its objects untyped.
 struct Kind {
     const char* name;
-    Fields<Object> fields = {}; // of an element the identity strings first
-    std::size_t identity = 0;   // how many of them copies do not carry
-    bool duplicatesIdentity = false;
+    Fields<Object> fields = {FieldBy<Object, void*>(
+        "Impl", {}, &Object::SetImpl, [](const Object& iObject, void*& oData) { oData = iObject.GetImpl(); },
+        {{nullptr}, {&g_font}})};
+    std::size_t uncopied = 1; // how many of them copies do not carry: an element's identity, too
+    bool duplicatesAll = false;
     bool keepsLast = false; // whether an assignment passes over the last of the old members
+    long mayLose = 0;       // arrays of a page's colour table: those that came before or after a failed one
     std::function<Object*()> make = {};
     std::function<Object*(Object&)> copy = {};
     std::function<Object*(Object&)> duplicate = {};
     std::function<void(Object&, Object&)> assign = {};
-    std::function<const VEKRawCollPV*(const Object&)> list = {};
-    std::function<bool(const Object&)> accepts = {};
+    std::function<const VEKRawCollPV*(const Object&)> list = [](const Object&) { return nullptr; };
+    std::function<bool(const Object&)> accepts = [](const Object&) { return false; };
     std::function<void(Object&, Object*)> add = {}, remove = {};
-};
 
-template <class Class, class Fielded>
-void AddFields(Kind& ioKind) {
-    for (const Field<Fielded>& field : FieldsOf<Fielded>())
-        if (field.count > 0)
-            ioKind.fields.push_back({field.name,
-                                     {},
-                                     field.count,
-                                     [=](Object& ioObject, std::size_t iValue) {
-                                         field.set(static_cast<Class&>(ioObject), iValue);
-                                     },
-                                     {},
-                                     [=](const Object& iObject, std::size_t iValue) {
-                                         return field.has(static_cast<const Class&>(iObject), iValue);
-                                     }});
-}
+    void AddFields(const Fields<Object>& iFields) {
+        for (const Field<Object>& field : iFields)
+            if (field.count > 0) fields.push_back(field);
+    }
+};
 
 template <class Class>
 Kind KindOf() {
     Kind kind{Row<Class>::name};
     const auto typed = [](Object& ioObject) -> Class& { return static_cast<Class&>(ioObject); };
+    kind.mayLose = std::is_same_v<Class, VEKPrtImageElt> ? 2 : 0;
     kind.make = [] { return new Class; };
     kind.copy = [=](Object& iSource) { return new Class(typed(iSource)); };
-    kind.assign = [=](Object& ioTarget, Object& iSource) { typed(ioTarget) = typed(iSource); };
+    kind.assign = [=](Object& ioTarget, Object& iSource) {
+        EXPECT_EQ(&(typed(ioTarget) = typed(iSource)), &ioTarget);
+    };
     if constexpr (!isModel<Class>) {
-        constexpr bool isBase = std::is_same_v<Class, Base>;
         kind.duplicate = [=](Object& ioSource) { return Duplicated(typed(ioSource)).Detach(); };
-        kind.duplicatesIdentity = isBase || Row<Class>::recipe != Duplication::ByConstruction;
-        AddFields<Class, Base>(kind);
-        if (!isBase) kind.identity = kind.fields.size();
-        if (!isBase) AddFields<Class, Class>(kind);
+        kind.duplicatesAll = Row<Class>::recipe != Duplication::ByConstruction;
+        kind.AddFields(FieldsOf<Base>());
+        if constexpr (!std::is_same_v<Class, Base>) {
+            kind.uncopied = kind.fields.size();
+            kind.AddFields(FieldsOf<Class>());
+        }
     }
     if constexpr (HasMembers<Class>::value) {
         using Member = MemberOf<Class>;
@@ -133,7 +131,7 @@ public:
             std::vector<const void*> expected, found;
             for (const Node* const member : node->members)
                 expected.push_back(member->real);
-            const auto* const list = kind.list ? kind.list(*node->real) : nullptr;
+            const auto* const list = kind.list(*node->real);
             for (int position = 1; list && position <= list->Size(); ++position)
                 found.push_back((*list)[position]);
             EXPECT_EQ(found, expected) << "the members of a " << kind.name;
@@ -166,14 +164,14 @@ private:
     Node* Copied(const Node& iSource) {
         Node* const copy = Born(*iSource.kind);
         copy->values = iSource.values;
-        std::fill_n(copy->values.begin(), iSource.kind->identity, 0);
+        std::fill_n(copy->values.begin(), iSource.kind->uncopied, 0);
         if (iSource.hasList) Share(*copy, iSource.members);
         return copy;
     }
     Node* DuplicateOf(const Node& iSource) {
         Node* const copy = Born(*iSource.kind);
         copy->values = iSource.values;
-        if (!iSource.kind->duplicatesIdentity) std::fill_n(copy->values.begin(), iSource.kind->identity, 0);
+        if (!iSource.kind->duplicatesAll) std::fill_n(copy->values.begin(), iSource.kind->uncopied, 0);
         copy->hasList = iSource.hasList;
         for (const Node* const member : iSource.members)
             copy->members.push_back(DuplicateOf(*member));
@@ -222,22 +220,21 @@ private:
     }
     std::string Change(Node& ioNode) {
         const Fields<Object>& fields = ioNode.kind->fields;
-        if (fields.empty()) return "nothing";
         const std::size_t at = Any(fields.size()), value = Any(fields[at].count);
         fields[at].set(*ioNode.real, value);
         // Parameters are all the fields of its own that come before.
-        for (std::size_t i = fields[at].name == g_parameters ? 3 : at; i <= at; ++i)
+        for (std::size_t i = fields[at].name == g_parameters ? ioNode.kind->uncopied : at; i <= at; ++i)
             ioNode.values[i] = value;
         return ioNode.kind->name + (std::string(" set ") + fields[at].name);
     }
     std::string AddOrRemove() {
         Node& holder = *AnyOf(_held);
-        if (!holder.kind->list) return "nothing";
+        if (!holder.kind->add) return "nothing";
         const bool adds = Any(3) > 0;
-        Node* const member = Any(10) == 0          ? nullptr
-                             : adds || Any(4) == 0 ? AnyOf(_held)
-                                                   : AnyOf(holder.members);
-        if (member && !holder.kind->accepts(*member->real)) return "nothing";
+        std::vector<Node*> members = {nullptr};
+        for (Node* const node : adds || Any(4) == 0 ? _held : holder.members)
+            if (holder.kind->accepts(*node->real)) members.push_back(node);
+        Node* const member = AnyOf(members);
         const bool isOwn = member == &holder;
         if (adds && member && !isOwn && (member->Contains(&holder) || holder.members.size() > 9))
             return "nothing";
@@ -296,6 +293,52 @@ long FromEnvironment(const char* iName, long iDefault) {
     return value ? std::atol(value) : iDefault;
 }
 
+// A member that is its own duplicate, with one more reference: its count tells how often it was taken.
+struct Counting : VEKPrtClosedFigureRegionElt {
+    template <class Out>
+    void Hand(Out*& oCopy) {
+        AddRef();
+        oCopy = this;
+    }
+    void Duplicate(Base*& oCopy) override { Hand(oCopy); }
+    void Duplicate(VEKPrtClosedFigureRegionElt*& oCopy) override { Hand(oCopy); }
+};
+
+// One operation on a new object: yields that object, or the one that it made.  A setter says what to look at.
+struct Operation {
+    const char* name;
+    std::function<Ref(const Ref&)> run;
+    std::function<bool(const Object&)> holds = {};
+};
+
+std::vector<Operation> OperationsOf(const Kind& iKind, Object& ioSource, Object* iMember) {
+    const auto made = [&](const std::function<Object*(Object&)>& iMake) {
+        return [&](const Ref&) { return Ref::Adopt(iMake(ioSource)); };
+    };
+    const auto changed = [](const auto& iChange) {
+        return [=](const Ref& iTarget) {
+            iChange(*iTarget);
+            return iTarget;
+        };
+    };
+    std::vector<Operation> operations = {
+        {"copied", made(iKind.copy)},
+        {"assigned", changed([&](Object& ioTarget) { iKind.assign(ioTarget, ioSource); })}};
+    if (iKind.duplicate) operations.push_back({"duplicated", made(iKind.duplicate)});
+    for (const Field<Object>& field : iKind.fields)
+        operations.push_back({field.name, changed([&](Object& ioTarget) { field.set(ioTarget, 1); }),
+                              [&](const Object& iTarget) { return field.has(iTarget, 1); }});
+    if (iKind.add)
+        operations.push_back({"added to", changed([=](Object& ioTarget) { iKind.add(ioTarget, iMember); }),
+                              [&](const Object& iTarget) { return iKind.list(iTarget)->Size() > 0; }});
+    return operations;
+}
+
+void ExpectAll(const Kind& iKind, const Object& iObject, std::size_t iFirst, const char* iWhat) {
+    for (std::size_t i = iFirst; i < iKind.fields.size(); ++i)
+        EXPECT_TRUE(iKind.fields[i].has(iObject, 1)) << iKind.name << ' ' << iWhat;
+}
+
 } // namespace
 
 TEST(Random, AgreesWithAPlainModel) {
@@ -307,5 +350,53 @@ TEST(Random, AgreesWithAPlainModel) {
         const std::string done = world.Step();
         world.Verify();
         if (HasFailure()) FAIL() << "step " << step << " (" << done << "), seed " << seed;
+    }
+}
+
+TEST(EveryAllocation, CanFail) {
+    const DemandedLeak leak(0, 0);
+    for (const Kind& kind : KindsOf(AllElements())) {
+        const auto source = Ref::Adopt(kind.make());
+        for (const Field<Object>& field : kind.fields)
+            field.set(*source, 1);
+        auto member = Ref::Adopt(new Counting);
+        if (!kind.accepts(*member)) member = Ref::Adopt(new VEKPrtImageElt);
+        if (kind.add) kind.add(*source, member.Get());
+        const unsigned long references = Count(member);
+        for (const auto& operation : OperationsOf(kind, *source, member.Get()))
+            for (const bool sticky : {false, true}) {
+                long hits = 1;
+                for (long nth = 0; hits > 0; ++nth) {
+                    SCOPED_TRACE(std::string(kind.name) + " " + operation.name + ", allocation " +
+                                 std::to_string(nth) + (sticky ? " and all that follow" : ""));
+                    const long objects = VEKBaseUnknown::CountLiveObjects(), blocks = LiveBlocks();
+                    {
+                        const auto target = Ref::Adopt(kind.make());
+                        AllocationFaults faults(nth, sticky);
+                        const auto result = operation.run(target);
+                        hits = faults.Stop();
+                        const auto* const list = result ? kind.list(*result) : nullptr;
+                        EXPECT_EQ(Count(member), references + (list ? 1 : 0));
+                        if (list && list->Size() == 0) member->Release(); // lost, as the list could not grow
+                        if (operation.holds) {
+                            operation.run(target);
+                            EXPECT_TRUE(operation.holds(*target)) << "set again";
+                        } else if (hits == 0) {
+                            EXPECT_EQ(list != nullptr, kind.add != nullptr);
+                            ExpectAll(kind, *result, kind.uncopied, "in the end");
+                        }
+                    }
+                    const long lost = LiveBlocks() - blocks;
+                    EXPECT_EQ(VEKBaseUnknown::CountLiveObjects(), objects);
+                    EXPECT_GE(lost, 0);
+                    EXPECT_LE(lost, hits > 0 ? kind.mayLose : 0);
+                    DemandedLeak::Add(0, lost);
+                    ExpectAll(kind, *source, 0, "the source");
+                    EXPECT_EQ(Count(member), references) << "the source's member";
+                    if (nth == 0 && operation.name == std::string("copied")) {
+                        EXPECT_GT(hits, 0) << "nothing failed";
+                    }
+                }
+            }
     }
 }
