@@ -2,7 +2,6 @@
 #ifndef Fields_H
 #define Fields_H
 
-#include <cstring>
 #include <functional>
 #include <memory>
 #include <numeric>
@@ -19,22 +18,11 @@ using Transform = VEKPrtTransformAttributes;
 using Stroke = VEKPrtStrokeAttributes;
 using Fill = VEKPrtFillAttributes;
 
-/// The slot of a virtual function, from its member pointer as the platform's C++ ABI lays it out: the offset
-/// in the table comes first, and the mark of a virtual function is 1, there or in the second word.
-template <class Member>
-std::size_t SlotOf(Member iMember) {
-    std::ptrdiff_t words[2];
-    static_assert(sizeof words == sizeof iMember, "two words");
-    std::memcpy(words, &iMember, sizeof words);
-    return static_cast<std::size_t>(words[0]) / sizeof(void*);
-}
-
 /// A field, or several that are set together, with values of it; the first is that of a new object.  An entry
-/// without values stands for virtual functions of which the tests are elsewhere, or for a constructor.
+/// without values stands for a constructor.
 template <class Root>
 struct FieldOfRoot {
     const char* name;
-    std::vector<std::size_t> slots = {};
     std::function<Root*()> construct = {};
     std::size_t count = 0;
     std::function<void(Root&, std::size_t)> set = [](Root&, std::size_t) {};
@@ -52,7 +40,7 @@ using Field = FieldOfRoot<Root<Class>>;
 template <class Class>
 using Fields = std::vector<Field<Class>>;
 
-/// What the tests know of a class: its name, how it is duplicated, and its fields in the order of the slots.
+/// What the tests know of a class: its name, how it is duplicated, and its fields.
 /// A class without a row does not compile.
 template <class Class>
 struct Row;
@@ -95,7 +83,7 @@ using Given = std::conditional_t<std::is_enum_v<std::decay_t<T>>, Number<std::de
 
 /// A field that is set and read by any functions.
 template <class Class, class... Arguments, class Set, class Get>
-Field<Class> FieldBy(const char* iName, std::vector<std::size_t> iSlots, Set iSet, Get iGet,
+Field<Class> FieldBy(const char* iName, Set iSet, Get iGet,
                      std::initializer_list<std::tuple<Given<Arguments>...>> iValues) {
     using Values = std::tuple<std::decay_t<Arguments>...>;
     const auto values = std::make_shared<std::vector<Values>>(iValues.begin(), iValues.end());
@@ -119,12 +107,12 @@ Field<Class> FieldBy(const char* iName, std::vector<std::size_t> iSlots, Set iSe
         return testing::AssertionFailure() << iName << " is " << testing::PrintToString(found) << ", not "
                                            << testing::PrintToString((*values)[iIndex]);
     };
-    return {iName, std::move(iSlots), {}, values->size(), set, show, has};
+    return {iName, {}, values->size(), set, show, has};
 }
 template <class Class, class... Arguments, class Get>
 Field<Class> MakeField(const char* iName, void (Class::*iSet)(Arguments...), Get iGet,
                        std::initializer_list<std::tuple<Given<Arguments>...>> iValues) {
-    return FieldBy<Class, Arguments...>(iName, {SlotOf(iSet), SlotOf(iGet)}, iSet, iGet, iValues);
+    return FieldBy<Class, Arguments...>(iName, iSet, iGet, iValues);
 }
 
 /// A record with the second value of each field.

@@ -20,7 +20,7 @@ const std::string g_parameters = "Parameters";
 struct Kind {
     const char* name;
     Fields<Object> fields = {FieldBy<Object, void*>(
-        "Impl", {}, &Object::SetImpl, [](const Object& iObject, void*& oData) { oData = iObject.GetImpl(); },
+        "Impl", &Object::SetImpl, [](const Object& iObject, void*& oData) { oData = iObject.GetImpl(); },
         {{nullptr}, {&g_font}})};
     std::size_t uncopied = 1; // how many of them copies do not carry: an element's identity, too
     bool duplicatesAll = false;

@@ -17,26 +17,18 @@ struct Samples {
     inline static const Vector none{0, 0};
 };
 
-// The entries of a row, where C is the class: a field with its values, or virtual functions that are no
-// field's.
+// The entries of a row, where C is the class.
 #define FIELD(Name, ...) MakeField(#Name, &C::Set##Name, &C::Get##Name, {__VA_ARGS__})
-#define PAIR(Name) SlotOf(&C::Set##Name), SlotOf(&C::Get##Name)
-#define FUNCTIONS(Name, ...)                                                                                 \
-    Field<C> {                                                                                               \
-        Name, { __VA_ARGS__ }                                                                                \
-    }
 /// A constructor from values: the fields before it get their second values, the others their first.
 #define CONSTRUCTED(...)                                                                                     \
     Field<C> {                                                                                               \
-        "constructor", {}, [] { return new C(__VA_ARGS__); }                                                 \
+        "constructor", [] { return new C(__VA_ARGS__); }                                                     \
     }
 #define TRANSFORM FIELD(TransformAttributes, {Transform()}, {Changed<Transform>()})
 #define STROKE FIELD(StrokeAttributes, {Stroke()}, {Changed<Stroke>()})
 #define FILL FIELD(FillAttributes, {Fill()}, {Changed<Fill>()})
 #define STROKED STROKE, TRANSFORM
 #define PAINTED FIELD(DrawStyle, {1}, {-123456}), STROKE, FILL, TRANSFORM
-#define KIND_SLOTS(Name) SlotOf(&C::Add##Name), SlotOf(&C::Get##Name)
-#define CHILDREN FUNCTIONS("children", SlotOf(&C::AddChild), SlotOf(&C::RemoveChild), SlotOf(&C::GetChildren))
 
 // The fields of all rows are compiled once, in the source that defines DEFINES_ROWS.
 #if defined(DEFINES_ROWS)
@@ -69,30 +61,21 @@ struct Samples {
     LIST(Class, __VA_ARGS__)
 enum class Duplication { ByAssignment, ByCopying, ByConstruction };
 
-PLAIN_ROW(VEKPrtTransformAttributes,
-          FieldBy<C, Entries>(
-              "Entries",
-              {SlotOf(&C::GetTransformTab), SlotOf(&C::AddTransformAttributes), KIND_SLOTS(Matrix),
-               KIND_SLOTS(ScaleX), KIND_SLOTS(ScaleY), KIND_SLOTS(Rotation), KIND_SLOTS(SkewX),
-               KIND_SLOTS(SkewY), KIND_SLOTS(Translation), SlotOf(&C::AddTransform)},
-              SetEntries, [](const C& iTransform, Entries& oEntries) { oEntries = EntriesOf(iTransform); },
-              {{}, {g_oneOfEach}, {{{3, 2}, {2, 30}, {3, 3}}}}))
-PLAIN_ROW(VEKPrtColourTable,
-          FUNCTIONS("all", SlotOf(&C::GetColourCount), SlotOf(&C::AddColour), SlotOf(&C::ModifyColour),
-                    SlotOf(&C::GetColourIndex), SlotOf(&C::GetColour)))
-PLAIN_ROW(VEKPrtModel,
-          FUNCTIONS("images", SlotOf(&C::AddImage), SlotOf(&C::RemoveImage), SlotOf(&C::GetImages)))
+PLAIN_ROW(VEKPrtModel)
+PLAIN_ROW(VEKPrtTransformAttributes, FieldBy<C, Entries>("Entries", SetEntries,
+                                                         [](const C& iTransform, Entries& oEntries) {
+                                                             oEntries = EntriesOf(iTransform);
+                                                         },
+                                                         {{}, {g_oneOfEach}, {{{3, 2}, {2, 30}, {3, 3}}}}))
 PLAIN_ROW(VEKPrtStrokeAttributes, FIELD(StrokeColourIndex, {0}, {7}),
           FIELD(StrokeColourTransparency, {255}, {254}), FIELD(StrokeType, {0}, {2}),
           FieldBy<C, std::vector<float>>(
-              "Dashes", {PAIR(StrokeTypePattern)}, SetDashes,
-              [](const C& iStroke, auto& oDashes) { oDashes = DashesOf(iStroke); },
+              "Dashes", SetDashes, [](const C& iStroke, auto& oDashes) { oDashes = DashesOf(iStroke); },
               {{}, {{1, 2, 3}}, {{1}}, {{1, 2}}, {{2, 2, 3}}, {{1, 2, std::nextafter(3.0F, 4.0F)}}}),
           FIELD(StrokeWidth, {static_cast<double>(0.1F)}, {-2.0}, {0.1}), FIELD(StrokeStyle, {8}, {9}),
           FIELD(StrokeCap, {10}, {11}), FIELD(StrokeJoin, {13}, {15}))
-PLAIN_ROW(VEKPrtFillAttributes, FUNCTIONS("Duplicate", SlotOf(&C::Duplicate)), FIELD(FillStyle, {0}, {1}),
-          FIELD(FillRule, {1}, {0}), FIELD(FillColourIndex, {0}, {7}),
-          FIELD(FillColourTransparency, {255}, {0}),
+PLAIN_ROW(VEKPrtFillAttributes, FIELD(FillStyle, {0}, {1}), FIELD(FillRule, {1}, {0}),
+          FIELD(FillColourIndex, {0}, {7}), FIELD(FillColourTransparency, {255}, {0}),
           FIELD(Pattern, {nullptr, none, none}, {nullptr, Vector(1, 2), Vector(3, 4)},
                 {nullptr, Vector(0, DBL_MIN), none}, {nullptr, none, Vector(1, 0)},
                 {g_image.Get(), none, none}),
@@ -104,8 +87,8 @@ PLAIN_ROW(VEKPrtTextAttributes, FIELD(Font, {nullptr}, {&g_font}), FIELD(Weight,
 PLAIN_ROW(VEKPrtMarkerAttributes, FIELD(MarkerStyle, {0}, {5}))
 PLAIN_ROW(VEKPrtGroupAttributes, FIELD(LinkURI, {""}, {"https://example.org"}))
 
-ROW(VEKPrtGraphicPrimitiveElt, 25, ByConstruction, FUNCTIONS("Duplicate", SlotOf(&C::Duplicate)),
-    FIELD(ID, {""}, {"id"}), FIELD(Description, {""}, {"description"}), FIELD(Title, {""}, {"title"}))
+ROW(VEKPrtGraphicPrimitiveElt, 25, ByConstruction, FIELD(ID, {""}, {"id"}),
+    FIELD(Description, {""}, {"description"}), FIELD(Title, {""}, {"title"}))
 
 ROW(VEKPrtLineElt, 13, ByAssignment, FIELD(StartPoint, {origin}, {a}), FIELD(EndPoint, {origin}, {b}),
     FIELD(Parameters, {origin, origin}, {a, b}), CONSTRUCTED(a, b), STROKED)
@@ -134,7 +117,7 @@ ROW(VEKPrtTextElt, 13, ByAssignment, FIELD(Position, {origin}, {a}), FIELD(Text,
 inline Field<VEKPrtBitmapImageElt> PixelImageField() {
     using C = VEKPrtBitmapImageElt;
     return FieldBy<C, int>(
-        "PixelImage", {PAIR(PixelImage)},
+        "PixelImage",
         [](C& ioBitmap, int iWidth) { ioBitmap.SetPixelImage(iWidth > 0 ? g_image.Get() : nullptr); },
         [](const C& iBitmap, int& oWidth) {
             VEKPixelImage* image = nullptr;
@@ -144,14 +127,13 @@ inline Field<VEKPrtBitmapImageElt> PixelImageField() {
         {{0}, {1}});
 }
 ROW(VEKPrtBitmapImageElt, 20, ByAssignment, FIELD(Origin, {origin}, {a}), FIELD(Size, {0, 0}, {3, 4}),
-    FIELD(Orientation, {0}, {0.1F}), CONSTRUCTED(a, 3.0, 4.0, 0.1, nullptr), PixelImageField(),
-    FUNCTIONS("Parameters", PAIR(Parameters)), TRANSFORM)
+    FIELD(Orientation, {0}, {0.1F}), CONSTRUCTED(a, 3.0, 4.0, 0.1, nullptr), PixelImageField(), TRANSFORM)
 
 /// The reds of a colour table; none without a table.
 inline Field<VEKPrtImageElt> ColourTableField() {
     using C = VEKPrtImageElt;
     return FieldBy<C, std::vector<int>>(
-        "ColourTable", {PAIR(ColourTable)},
+        "ColourTable",
         [](C& ioPage, const std::vector<int>& iReds) {
             auto* const table = iReds.empty() ? nullptr : new (std::nothrow) VEKPrtColourTable;
             unsigned index = 0;
@@ -171,24 +153,21 @@ inline Field<VEKPrtImageElt> ColourTableField() {
 }
 ROW(VEKPrtImageElt, 14, ByConstruction, FIELD(Origin, {origin}, {a}), FIELD(Size, {0, 0}, {3, 4}),
     FIELD(Units, {4}, {-123456}), FIELD(Matrix, {Matrix()}, {Matrix(1, 2, 3, 4)}),
-    CONSTRUCTED(a, 3.0, 4.0, Value<VEKPrtImageUnits>(-123456), Matrix(1, 2, 3, 4)), ColourTableField(),
-    CHILDREN)
+    CONSTRUCTED(a, 3.0, 4.0, Value<VEKPrtImageUnits>(-123456), Matrix(1, 2, 3, 4)), ColourTableField())
 ROW(VEKPrtGroupElt, 14, ByConstruction,
-    FIELD(GroupAttributes, {VEKPrtGroupAttributes()}, {Changed<VEKPrtGroupAttributes>()}), TRANSFORM,
-    CHILDREN)
+    FIELD(GroupAttributes, {VEKPrtGroupAttributes()}, {Changed<VEKPrtGroupAttributes>()}), TRANSFORM)
 ROW(VEKPrtPatternElt, 16, ByConstruction, FIELD(Origin, {origin}, {a}), FIELD(Size, {0, 0}, {3, 4}),
-    CONSTRUCTED(a, 3.0, 4.0), TRANSFORM, CHILDREN)
+    CONSTRUCTED(a, 3.0, 4.0), TRANSFORM)
 ROW(VEKPrtSymbolElt, 15, ByConstruction, FIELD(Origin, {origin}, {a}), FIELD(Size, {0, 0}, {3, 4}),
-    CONSTRUCTED(a, 3.0, 4.0), TRANSFORM, CHILDREN)
-ROW(VEKPrtClosedFigureElt, 21, ByConstruction, PAINTED, CHILDREN)
-ROW(VEKPrtClosedFigureRegionElt, 27, ByConstruction,
-    FUNCTIONS("Duplicate", SlotOf(static_cast<void (C::*)(C*&)>(&C::Duplicate))), TRANSFORM, CHILDREN)
+    CONSTRUCTED(a, 3.0, 4.0), TRANSFORM)
+ROW(VEKPrtClosedFigureElt, 21, ByConstruction, PAINTED)
+ROW(VEKPrtClosedFigureRegionElt, 27, ByConstruction, TRANSFORM)
 
 using Coordinates = std::vector<double>;
 template <class C>
 Field<C> PointsField() {
     return FieldBy<C, Coordinates>(
-        "Points", {PAIR(Points)},
+        "Points",
         [](C& ioElement, const Coordinates& iPoints) {
             ioElement.SetPoints(iPoints.data(), static_cast<int>(iPoints.size() / 2));
         },
@@ -209,7 +188,7 @@ ROW(VEKPrtPolygonElt, 16, ByCopying, PointsField<C>(), PAINTED)
 inline Field<VEKPrtPolyPolygonElt> PolygonsField() {
     using C = VEKPrtPolyPolygonElt;
     return FieldBy<C, Coordinates, std::vector<int>>(
-        "Points", {PAIR(Points)},
+        "Points",
         [](C& ioElement, const Coordinates& iPoints, const std::vector<int>& iCounts) {
             ioElement.SetPoints(iPoints.data(), iCounts.data(), static_cast<int>(iCounts.size()));
         },
@@ -229,7 +208,7 @@ ROW(VEKPrtPolyPolygonElt, 20, ByCopying, PolygonsField(), PAINTED)
 inline Field<VEKPrtNURBSElt> CurveField() {
     using C = VEKPrtNURBSElt;
     return FieldBy<C, int, Coordinates, Coordinates, Coordinates>(
-        "Curve", {PAIR(Parameters)},
+        "Curve",
         [](C& ioCurve, int iOrder, const Coordinates& iPoints, const Coordinates& iKnots,
            const Coordinates& iWeights) {
             ioCurve.SetParameters(iOrder, static_cast<int>(iPoints.size() / 2), iPoints.data(), iKnots.data(),
