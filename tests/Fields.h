@@ -81,7 +81,7 @@ struct Number {
 template <class T>
 using Given = std::conditional_t<std::is_enum_v<std::decay_t<T>>, Number<std::decay_t<T>>, std::decay_t<T>>;
 
-/// A field that is set and read by any functions.
+/// A field that is set and read by any functions; the latter returns the values, or has a parameter for each.
 template <class Class, class... Arguments, class Set, class Get>
 Field<Class> FieldBy(const char* iName, Set iSet, Get iGet,
                      std::initializer_list<std::tuple<Given<Arguments>...>> iValues) {
@@ -94,11 +94,15 @@ Field<Class> FieldBy(const char* iName, Set iSet, Get iGet,
         std::apply(call, (*values)[iIndex]);
     };
     const auto get = [=](const Root<Class>& iObject, std::size_t iUnlike) {
-        Values found = (*values)[iUnlike % values->size()]; // to be overwritten
         // Not all getters are const.
         auto& object = static_cast<Class&>(const_cast<Root<Class>&>(iObject));
-        std::apply([&](auto&... oValue) { std::invoke(iGet, object, oValue...); }, found);
-        return found;
+        if constexpr (std::is_invocable_v<Get, Class&>) {
+            return Values(std::invoke(iGet, object));
+        } else {
+            Values found = (*values)[iUnlike % values->size()]; // to be overwritten
+            std::apply([&](auto&... oValue) { std::invoke(iGet, object, oValue...); }, found);
+            return found;
+        }
     };
     const auto show = [=](const Root<Class>& iObject) { return testing::PrintToString(get(iObject, 0)); };
     const auto has = [=](const Root<Class>& iObject, std::size_t iIndex) {
@@ -228,6 +232,68 @@ inline Stroke Dashed(const std::vector<float>& iDashes) {
     Stroke stroke;
     SetDashes(stroke, iDashes);
     return stroke;
+}
+
+/// What elements hold of arrays, which are their own.
+struct Arrays {
+    int order = -99, count = -99;
+    double *points = nullptr, *knots = nullptr, *weights = nullptr;
+    int* counts = nullptr;
+    float first = -99, second = -99;
+    /// The points of all polygons.
+    long long Total() const { return counts ? std::accumulate(counts, counts + count, 0LL) : 0; }
+};
+template <class Element>
+Arrays ArraysOf(const Element& iElement) {
+    Arrays arrays;
+    iElement.GetPoints(arrays.points, arrays.count);
+    return arrays;
+}
+inline Arrays ArraysOf(const VEKPrtPolyPolygonElt& iElement) {
+    Arrays arrays;
+    iElement.GetPoints(arrays.points, arrays.counts, arrays.count);
+    return arrays;
+}
+inline Arrays ArraysOf(const VEKPrtNURBSElt& iCurve) {
+    Arrays a;
+    iCurve.GetParameters(a.order, a.count, a.points, a.knots, a.first, a.second, a.weights);
+    return a;
+}
+/// None of what is not there.
+template <class Value>
+std::vector<Value> CopyOf(const Value* iArray, long long iCount) {
+    return iArray ? std::vector<Value>(iArray, iArray + iCount) : std::vector<Value>();
+}
+
+/// Each colour as one number.
+using Colours = std::vector<int>;
+inline int Add(VEKPrtColourTable& ioTable, int iColour) {
+    unsigned index = 0;
+    const auto component = [=](int iShift) { return static_cast<unsigned char>(iColour >> iShift); };
+    return ioTable.AddColour(component(16), component(8), component(0), index);
+}
+inline Colours ColoursOf(const VEKPrtColourTable& iTable) {
+    int count = -1;
+    Colours colours;
+    unsigned char red = 77, green = 77, blue = 77;
+    EXPECT_EQ(iTable.GetColourCount(count), 1);
+    EXPECT_EQ(iTable.GetColour(static_cast<unsigned>(count), red, green, blue), -1);
+    EXPECT_TRUE(red == 77 && green == 77 && blue == 77) << "outputs are written on success only";
+    for (int i = 0; i < count; ++i) {
+        EXPECT_EQ(iTable.GetColour(static_cast<unsigned>(i), red, green, blue), 1);
+        colours.push_back(red << 16 | green << 8 | blue);
+    }
+    return colours;
+}
+inline VEKPrtColourTable* TableOf(VEKPrtImageElt& ioImage) {
+    VEKPrtColourTable* table = nullptr;
+    ioImage.GetColourTable(table);
+    return table;
+}
+inline VEKPixelImage* PixelsOf(const VEKPrtBitmapImageElt& iBitmap) {
+    VEKPixelImage* image = nullptr;
+    iBitmap.GetPixelImage(image);
+    return image;
 }
 
 #endif

@@ -19,9 +19,8 @@ const std::string g_parameters = "Parameters";
 // What a class can do, with its objects untyped.
 struct Kind {
     const char* name;
-    Fields<Object> fields = {FieldBy<Object, void*>(
-        "Impl", &Object::SetImpl, [](const Object& iObject, void*& oData) { oData = iObject.GetImpl(); },
-        {{nullptr}, {&g_font}})};
+    Fields<Object> fields = {
+        FieldBy<Object, void*>("Impl", &Object::SetImpl, &Object::GetImpl, {{nullptr}, {&g_font}})};
     std::size_t uncopied = 1; // how many of them copies do not carry: an element's identity, too
     bool duplicatesAll = false;
     bool keepsLast = false; // whether an assignment passes over the last of the old members

@@ -4,7 +4,7 @@
 #include <climits>
 #include <sstream>
 
-#include "Rows.h"
+#include "Fields.h"
 
 namespace {
 
@@ -18,33 +18,16 @@ std::string Shown(const Value* iArray, long long iCount) {
 }
 template <class Element>
 std::string ShowPoints(const Element& iElement) {
-    double* points = nullptr;
-    int count = -99;
-    iElement.GetPoints(points, count);
-    return std::to_string(count) + Shown(points, 2LL * count);
-}
-std::string ShowPoints(const VEKPrtPolyPolygonElt& iElement) {
-    double* points = nullptr;
-    int *counts = nullptr, count = -99;
-    iElement.GetPoints(points, counts, count);
-    const long long total = counts ? std::accumulate(counts, counts + count, 0LL) : 0;
-    return std::to_string(count) + Shown(counts, count) + Shown(points, 2 * total);
-}
-struct Arrays {
-    int order = 0, count = 0;
-    double *points = nullptr, *knots = nullptr, *weights = nullptr;
-    float first = -1, second = -1;
-};
-Arrays ArraysOf(const VEKPrtNURBSElt& iCurve) {
-    Arrays a;
-    iCurve.GetParameters(a.order, a.count, a.points, a.knots, a.first, a.second, a.weights);
-    return a;
-}
-std::string ShowPoints(const VEKPrtNURBSElt& iCurve) {
-    const Arrays a = ArraysOf(iCurve);
+    constexpr bool isCurve = std::is_same_v<Element, VEKPrtNURBSElt>;
+    constexpr bool hasCounts = std::is_same_v<Element, VEKPrtPolyPolygonElt>;
+    const Arrays a = ArraysOf(iElement);
     std::ostringstream text;
-    text << a.order << ' ' << a.count << ' ' << a.first << ' ' << a.second << Shown(a.points, 2LL * a.count)
-         << Shown(a.knots, a.order + a.count) << Shown(a.weights, a.count);
+    if (isCurve) text << a.order << ' ';
+    text << a.count;
+    if (isCurve) text << ' ' << a.first << ' ' << a.second;
+    if (hasCounts) text << Shown(a.counts, a.count);
+    text << Shown(a.points, 2 * (hasCounts ? a.Total() : a.count));
+    if (isCurve) text << Shown(a.knots, a.order + a.count) << Shown(a.weights, a.count);
     return text.str();
 }
 
@@ -106,23 +89,18 @@ TYPED_TEST(EveryPointArray, ReplacesAndCopiesAsGiven) {
         element->SetPoints(iPoints, iCount);
         return ShowPoints(*element);
     };
-    const auto own = [&] {
-        double* points = nullptr;
-        int count = 0;
-        element->GetPoints(points, count);
-        return points;
-    };
     const auto assigned = [&] {
         *target = *element;
         return ShowPoints(*target);
     };
     EXPECT_EQ(shownWith(g_five, 5), "5 (1 2 3 4 5 6 7 8 9 10)") << "nothing is rounded";
     ExpectRoomReused([&] { element->SetPoints(g_five, 5); });
-    EXPECT_EQ(shownWith(own() + 6, 3), "3 (7 8 9 10 0 0)") << "from its own array, as far as that goes";
+    EXPECT_EQ(shownWith(ArraysOf(*element).points + 6, 3), "3 (7 8 9 10 0 0)")
+        << "from its own array, as far as that goes";
     EXPECT_EQ(assigned(), "3 (7 8 9 10 0 0)");
     EXPECT_EQ(shownWith(g_five, 0), "0 ()");
     EXPECT_EQ(assigned(), "0 none") << "an array of no length is not copied";
-    EXPECT_EQ(shownWith(own(), 2), "2 (0 0 0 0)") << "from an own array of no length";
+    EXPECT_EQ(shownWith(ArraysOf(*element).points, 2), "2 (0 0 0 0)") << "from an own array of no length";
     WithFault(0, [&] { EXPECT_EQ(assigned(), "2 none"); });
     WithFault(0, [&] { EXPECT_EQ(shownWith(g_five, 4), "4 none") << "the count is kept"; });
     EXPECT_EQ(assigned(), "2 none") << "neither has an array: the count stays";
@@ -169,10 +147,8 @@ TEST(PolyPolygon, HoldsPointsAndCounts) {
     const auto element = Make<P>(g_five, counts, 2), target = Make<P>(g_five, counts, 1);
     *element = *std::as_const(element).Get();
     ExpectRoomReused([&] { element->SetPoints(g_five, counts, 2); });
-    double* points = nullptr;
-    int *own = nullptr, count = 0;
-    element->GetPoints(points, own, count);
-    element->SetPoints(points + 2, own, 3);
+    const Arrays own = ArraysOf(*element);
+    element->SetPoints(own.points + 2, own.counts, 3);
     EXPECT_EQ(ShowPoints(*element), "3 (2 1 0) (3 4 5 6 0 0)") << "its own arrays, as far as they go";
     for (const auto& [nth, expected] : {std::pair(0, "2 none none"), std::pair(1, "2 (2 1) none")}) {
         WithFault(nth, [&] { element->SetPoints(g_five, counts, 2); });

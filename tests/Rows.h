@@ -62,15 +62,12 @@ struct Samples {
 enum class Duplication { ByAssignment, ByCopying, ByConstruction };
 
 PLAIN_ROW(VEKPrtModel)
-PLAIN_ROW(VEKPrtTransformAttributes, FieldBy<C, Entries>("Entries", SetEntries,
-                                                         [](const C& iTransform, Entries& oEntries) {
-                                                             oEntries = EntriesOf(iTransform);
-                                                         },
+PLAIN_ROW(VEKPrtTransformAttributes, FieldBy<C, Entries>("Entries", SetEntries, EntriesOf,
                                                          {{}, {g_oneOfEach}, {{{3, 2}, {2, 30}, {3, 3}}}}))
 PLAIN_ROW(VEKPrtStrokeAttributes, FIELD(StrokeColourIndex, {0}, {7}),
           FIELD(StrokeColourTransparency, {255}, {254}), FIELD(StrokeType, {0}, {2}),
           FieldBy<C, std::vector<float>>(
-              "Dashes", SetDashes, [](const C& iStroke, auto& oDashes) { oDashes = DashesOf(iStroke); },
+              "Dashes", SetDashes, DashesOf,
               {{}, {{1, 2, 3}}, {{1}}, {{1, 2}}, {{2, 2, 3}}, {{1, 2, std::nextafter(3.0F, 4.0F)}}}),
           FIELD(StrokeWidth, {static_cast<double>(0.1F)}, {-2.0}, {0.1}), FIELD(StrokeStyle, {8}, {9}),
           FIELD(StrokeCap, {10}, {11}), FIELD(StrokeJoin, {13}, {15}))
@@ -113,43 +110,29 @@ ROW(VEKPrtTextElt, 13, ByAssignment, FIELD(Position, {origin}, {a}), FIELD(Text,
     FIELD(Parameters, {origin, ""}, {a, "x"}), CONSTRUCTED(a, "x"), FIELD(DrawStyle, {1}, {-123456}), STROKE,
     FILL, FIELD(TextAttributes, {VEKPrtTextAttributes()}, {Changed<VEKPrtTextAttributes>()}), TRANSFORM)
 
-/// The width of the image that is held, which it shares with its copies.
+/// Whether an image is held: duplicates hold another one.
 inline Field<VEKPrtBitmapImageElt> PixelImageField() {
     using C = VEKPrtBitmapImageElt;
-    return FieldBy<C, int>(
+    return FieldBy<C, bool>(
         "PixelImage",
-        [](C& ioBitmap, int iWidth) { ioBitmap.SetPixelImage(iWidth > 0 ? g_image.Get() : nullptr); },
-        [](const C& iBitmap, int& oWidth) {
-            VEKPixelImage* image = nullptr;
-            iBitmap.GetPixelImage(image);
-            oWidth = image ? image->GetWidth() : 0;
-        },
-        {{0}, {1}});
+        [](C& ioBitmap, bool iHeld) { ioBitmap.SetPixelImage(iHeld ? g_image.Get() : nullptr); },
+        [](const C& iBitmap) { return PixelsOf(iBitmap) != nullptr; }, {{false}, {true}});
 }
 ROW(VEKPrtBitmapImageElt, 20, ByAssignment, FIELD(Origin, {origin}, {a}), FIELD(Size, {0, 0}, {3, 4}),
     FIELD(Orientation, {0}, {0.1F}), CONSTRUCTED(a, 3.0, 4.0, 0.1, nullptr), PixelImageField(), TRANSFORM)
 
-/// The reds of a colour table; none without a table.
 inline Field<VEKPrtImageElt> ColourTableField() {
     using C = VEKPrtImageElt;
-    return FieldBy<C, std::vector<int>>(
+    return FieldBy<C, Colours>(
         "ColourTable",
-        [](C& ioPage, const std::vector<int>& iReds) {
-            auto* const table = iReds.empty() ? nullptr : new (std::nothrow) VEKPrtColourTable;
-            unsigned index = 0;
-            for (const int red : iReds)
-                if (table) table->AddColour(static_cast<unsigned char>(red), 0, 0, index);
+        [](C& ioPage, const Colours& iColours) {
+            auto* const table = iColours.empty() ? nullptr : new (std::nothrow) VEKPrtColourTable;
+            for (const int colour : iColours)
+                if (table) Add(*table, colour);
             ioPage.SetColourTable(table);
         },
-        [](C& ioPage, std::vector<int>& oReds) {
-            VEKPrtColourTable* table = nullptr;
-            unsigned char red = 0, green = 0, blue = 0;
-            ioPage.GetColourTable(table);
-            oReds.clear();
-            for (unsigned i = 0; table && table->GetColour(i, red, green, blue) == 1; ++i)
-                oReds.push_back(red);
-        },
-        {{}, {{7, 8}}});
+        [](C& ioPage) { return TableOf(ioPage) ? ColoursOf(*TableOf(ioPage)) : Colours(); },
+        {{}, {{0x070605, 8}}});
 }
 ROW(VEKPrtImageElt, 14, ByConstruction, FIELD(Origin, {origin}, {a}), FIELD(Size, {0, 0}, {3, 4}),
     FIELD(Units, {4}, {-123456}), FIELD(Matrix, {Matrix()}, {Matrix(1, 2, 3, 4)}),
@@ -171,11 +154,9 @@ Field<C> PointsField() {
         [](C& ioElement, const Coordinates& iPoints) {
             ioElement.SetPoints(iPoints.data(), static_cast<int>(iPoints.size() / 2));
         },
-        [](const C& iElement, Coordinates& oPoints) {
-            double* points = nullptr;
-            int count = 0;
-            iElement.GetPoints(points, count);
-            oPoints.assign(points, points + (points ? 2 * count : 0));
+        [](const C& iElement) {
+            const Arrays arrays = ArraysOf(iElement);
+            return CopyOf(arrays.points, 2 * arrays.count);
         },
         {{}, {{1, 2, 3, 4}}, {{5, 6}}});
 }
@@ -192,13 +173,9 @@ inline Field<VEKPrtPolyPolygonElt> PolygonsField() {
         [](C& ioElement, const Coordinates& iPoints, const std::vector<int>& iCounts) {
             ioElement.SetPoints(iPoints.data(), iCounts.data(), static_cast<int>(iCounts.size()));
         },
-        [](const C& iElement, Coordinates& oPoints, std::vector<int>& oCounts) {
-            double* points = nullptr;
-            int *counts = nullptr, count = 0;
-            iElement.GetPoints(points, counts, count);
-            oCounts.assign(counts, counts + (counts ? count : 0));
-            oPoints.assign(points,
-                           points + (points ? 2 * std::accumulate(oCounts.begin(), oCounts.end(), 0) : 0));
+        [](const C& iElement) {
+            const Arrays arrays = ArraysOf(iElement);
+            return std::tuple(CopyOf(arrays.points, 2 * arrays.Total()), CopyOf(arrays.counts, arrays.count));
         },
         {{}, {{1, 2, 3, 4, 5, 6}, {2, 1}}});
 }
@@ -214,15 +191,13 @@ inline Field<VEKPrtNURBSElt> CurveField() {
             ioCurve.SetParameters(iOrder, static_cast<int>(iPoints.size() / 2), iPoints.data(), iKnots.data(),
                                   0.0F, 1.0F, iWeights.data());
         },
-        [](const C& iCurve, int& oOrder, Coordinates& oPoints, Coordinates& oKnots, Coordinates& oWeights) {
-            double *points = nullptr, *knots = nullptr, *weights = nullptr;
-            int count = 0;
-            float first = 9, second = 9;
-            iCurve.GetParameters(oOrder, count, points, knots, first, second, weights);
-            oPoints.assign(points, points + (points ? 2 * count : 0));
-            oKnots = oWeights = Coordinates(knots && weights ? 1 : 0); // for the one that is not read
-            oKnots.insert(oKnots.end(), knots, knots + (knots ? oOrder + count : 0));
-            oWeights.insert(oWeights.end(), weights, weights + (weights ? count : 0));
+        [](const C& iCurve) {
+            const Arrays arrays = ArraysOf(iCurve);
+            Coordinates knots = CopyOf(arrays.knots, arrays.order + arrays.count),
+                        weights = CopyOf(arrays.weights, arrays.count);
+            for (Coordinates* const each : {&knots, &weights})
+                each->insert(each->begin(), each->empty() ? 0 : 1, 0.0); // for the one that is not read
+            return std::tuple(arrays.order, CopyOf(arrays.points, 2 * arrays.count), knots, weights);
         },
         {{0, {}, {}, {}}, {2, {1, 2, 3, 4}, {0, 5, 6, 7, 8}, {0, 9, 10}}});
 }
