@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <functional>
 #include <string>
 
 #include "VEKListPtrVEKMathPoint2D.h"
@@ -124,6 +125,21 @@ VEKRef<Element> Duplicated(Element& ioSource) {
     ioSource.Duplicate(copy);
     return VEKRef<Element>::Adopt(static_cast<Element*>(copy));
 }
+
+/// A client's class that does something when it is counted and while it is destroyed.
+template <class Base>
+struct Hooked : Base {
+    using Base::Base;
+    std::function<void()> counted;
+    std::function<void(Hooked&)> destroyed;
+    unsigned long AddRef() override {
+        if (counted) counted();
+        return Base::AddRef();
+    }
+    ~Hooked() override {
+        if (destroyed) destroyed(*this);
+    }
+};
 
 inline VEKPixelImage* ImageOf(VEKPrtFillAttributes& ioFill) {
     VEKPixelImage* image = nullptr;
