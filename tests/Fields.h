@@ -26,7 +26,6 @@ struct FieldOfRoot {
     std::function<Root*()> construct = {};
     std::size_t count = 0;
     std::function<void(Root&, std::size_t)> set = [](Root&, std::size_t) {};
-    std::function<std::string(const Root&)> show = {};
     /// Whether an object has a value; the failure shows both.
     std::function<testing::AssertionResult(const Root&, std::size_t)> has = [](const Root&, std::size_t) {
         return testing::AssertionSuccess();
@@ -67,8 +66,7 @@ inline void PrintTo(const VEKPrintLinkURI& iLink, std::ostream* ioStream) { *ioS
 template <class Record>
 void PrintChanges(const Record& iRecord, std::ostream* ioStream) {
     for (const Field<Record>& field : FieldsOf<Record>())
-        if (field.show && field.show(iRecord) != field.show(Record()))
-            *ioStream << field.name << ' ' << field.show(iRecord) << "; ";
+        if (const auto asNew = field.has(iRecord, 0); !asNew) *ioStream << asNew.message() << "; ";
 }
 
 /// Enumerations are given by number.
@@ -104,14 +102,13 @@ Field<Class> FieldBy(const char* iName, Set iSet, Get iGet,
             return found;
         }
     };
-    const auto show = [=](const Root<Class>& iObject) { return testing::PrintToString(get(iObject, 0)); };
     const auto has = [=](const Root<Class>& iObject, std::size_t iIndex) {
         const Values found = get(iObject, iIndex + 1);
         if (found == (*values)[iIndex]) return testing::AssertionSuccess();
         return testing::AssertionFailure() << iName << " is " << testing::PrintToString(found) << ", not "
                                            << testing::PrintToString((*values)[iIndex]);
     };
-    return {iName, {}, values->size(), set, show, has};
+    return {iName, {}, values->size(), set, has};
 }
 template <class Class, class... Arguments, class Get>
 Field<Class> MakeField(const char* iName, void (Class::*iSet)(Arguments...), Get iGet,
@@ -206,16 +203,10 @@ inline bool operator==(const Transform& iLeft, const Transform& iRight) {
     return EntriesOf(iLeft) == EntriesOf(iRight);
 }
 inline bool operator==(const VEKPrtGroupAttributes& iLeft, const VEKPrtGroupAttributes& iRight) {
-    VEKPrintLinkURI left, right;
-    iLeft.GetLinkURI(left);
-    iRight.GetLinkURI(right);
-    return left == right;
+    return testing::PrintToString(iLeft) == testing::PrintToString(iRight);
 }
-inline bool operator==(VEKPrtMarkerAttributes iLeft, VEKPrtMarkerAttributes iRight) {
-    VEKPrintMarkerAttribute left, right;
-    iLeft.GetMarkerStyle(left);
-    iRight.GetMarkerStyle(right);
-    return left == right;
+inline bool operator==(const VEKPrtMarkerAttributes& iLeft, const VEKPrtMarkerAttributes& iRight) {
+    return testing::PrintToString(iLeft) == testing::PrintToString(iRight);
 }
 
 inline void SetDashes(Stroke& ioStroke, const std::vector<float>& iDashes) {

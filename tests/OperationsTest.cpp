@@ -138,9 +138,7 @@ public:
 
 private:
     std::size_t Any(std::size_t iCount) { return _random() % iCount; }
-    Node* AnyOf(const std::vector<Node*>& iNodes) {
-        return iNodes.empty() ? nullptr : iNodes[Any(iNodes.size())];
-    }
+    Node* AnyOf(const std::vector<Node*>& iNodes) { return iNodes[Any(iNodes.size())]; }
 
     // The plain operations.
 
@@ -259,8 +257,10 @@ private:
             Hold(DuplicateOf(ioNode), copy);
         } else {
             // From one of its own class, itself included, or from a member that perhaps nobody else holds.
-            Node* source = Any(3) == 0 ? AnyOf(ioNode.members) : AnyOf(_held);
-            if (!source || source->kind != &kind) source = &ioNode;
+            std::vector<Node*> sources = {&ioNode};
+            for (Node* const node : Any(3) == 0 ? ioNode.members : _held)
+                if (node->kind == &kind) sources.push_back(node);
+            Node* const source = AnyOf(sources);
             const auto contains = [&](const Node* iMember) { return iMember->Contains(&ioNode); };
             if (source != &ioNode && std::any_of(source->members.begin(), source->members.end(), contains))
                 return "nothing";
@@ -324,9 +324,9 @@ std::vector<Operation> OperationsOf(const Kind& iKind, Object& ioSource, const F
     return operations;
 }
 
-void ExpectFields(const Kind& iKind, const Object& iObject, std::size_t iFirst, const char* iWhat) {
+void ExpectFields(const Kind& iKind, const Object& iObject, std::size_t iValue, std::size_t iFirst = 0) {
     for (std::size_t i = iFirst; i < iKind.fields.size(); ++i)
-        EXPECT_TRUE(iKind.fields[i].has(iObject, 1)) << iKind.name << ' ' << iWhat;
+        EXPECT_TRUE(iKind.fields[i].has(iObject, iValue)) << iKind.name;
 }
 
 // Runs an operation with an allocation that fails; yields whether it got that far.
@@ -349,7 +349,7 @@ bool RunsIntoFault(const Kind& iKind, const Operation& iOperation, Object& ioMem
             EXPECT_TRUE(iOperation.field->has(*target, 1)) << "set again";
         } else if (!hit) {
             EXPECT_EQ(list != nullptr, iKind.add != nullptr);
-            ExpectFields(iKind, *result, iKind.uncopied, "in the end");
+            ExpectFields(iKind, *result, 1, iKind.uncopied);
         }
     }
     const long lost = LiveBlocks() - blocks;
@@ -400,7 +400,10 @@ TEST(EveryAllocation, CanFail) {
                     hit = RunsIntoFault(kind, operation, *member, nth, sticky);
                     EXPECT_TRUE(hit || nth > 0 || operation.field) << "nothing failed";
                 }
-                ExpectFields(kind, *source, 0, "the source");
+                ExpectFields(kind, *source, 1);
             }
+        kind.assign(*source, *Ref::Adopt(kind.make()));
+        ExpectFields(kind, *source, 0);
+        if (kind.keepsLast) member->Release();
     }
 }

@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <functional>
 #include <string>
+#include <tuple>
 
 #include "VEKListPtrVEKMathPoint2D.h"
 #include "VEKPixelImage.h"
@@ -16,46 +17,34 @@
 
 using namespace vekprt;
 
-// Type lists for typed tests, derived from the one list of element classes and from what each class has.
+// Types for typed tests, derived from the one list of element classes and from what each class has.
 
-template <class... Lists>
-struct Join {
-    using Result = testing::Types<>;
-};
 template <class... Classes>
-struct Join<testing::Types<Classes...>> {
-    using Result = testing::Types<Classes...>;
-};
-template <class... First, class... Second, class... Rest>
-struct Join<testing::Types<First...>, testing::Types<Second...>, Rest...>
-    : Join<testing::Types<First..., Second...>, Rest...> {};
+testing::Types<Classes...> Listed(std::tuple<Classes...>);
+template <template <class> class Has, class... Others, class... Classes>
+auto Filter(ClassList<Classes...>) -> decltype(Listed(std::tuple_cat(
+    std::declval<std::tuple<Others...>>(),
+    std::declval<std::conditional_t<Has<Classes>::value, std::tuple<Classes>, std::tuple<>>>()...)));
+/// The element classes that have something, and others.
+template <template <class> class Has, class... Others>
+using ElementsWith = decltype(Filter<Has, Others...>(ElementClasses()));
 
-template <template <class> class Has, class... Classes>
-typename Join<std::conditional_t<Has<Classes>::value, testing::Types<Classes>, testing::Types<>>...>::Result
-    Filter(ClassList<Classes...>);
-template <template <class> class Has>
-using ElementsWith = decltype(Filter<Has>(ElementClasses()));
-
-// Found for a class that has the function; the overloads with an ellipsis for one that has not.
+/// An array of points that is set alone.
 template <class Class>
-auto SetsPoints(Class* ioElement)
-    -> decltype(ioElement->SetPoints(static_cast<const double*>(nullptr), 0), std::true_type());
-std::false_type SetsPoints(...);
+using HasPoints = std::is_constructible<Class, const VEKListPtrVEKMathPoint2D&>;
+// Found for a class that has the function; the overload with an ellipsis for one that has not.
 template <class Class>
 auto HasList(Class* ioHolder) -> decltype(ListOf(*ioHolder), std::true_type());
 std::false_type HasList(...);
-/// An array of points that is set alone.
-template <class Class>
-struct HasPoints : decltype(SetsPoints(static_cast<Class*>(nullptr))) {};
 /// Members by reference count, of whatever class.
 template <class Class>
 struct HasMembers : decltype(HasList(static_cast<Class*>(nullptr))) {};
 
 template <class>
 using Any = std::true_type;
-using AllElements = Join<testing::Types<VEKPrtGraphicPrimitiveElt>, ElementsWith<Any>>::Result;
+using AllElements = ElementsWith<Any, VEKPrtGraphicPrimitiveElt>;
 using Containers = ElementsWith<HasChildren>;
-using Holders = Join<ElementsWith<HasMembers>, testing::Types<VEKPrtModel>>::Result;
+using Holders = ElementsWith<HasMembers, VEKPrtModel>;
 
 /// A suite of typed tests.
 #define SUITE_OF(Name, Types)                                                                                \
