@@ -75,7 +75,7 @@ TYPED_TEST(EveryStroked, DuplicatesByItsRecipe) {
 
 TYPED_TEST(EveryFilled, DuplicatesItsPatternImage) {
     constexpr bool isText = std::is_same_v<TypeParam, VEKPrtTextElt>;
-    constexpr bool leaves = !isText && !isFigure<TypeParam>;
+    constexpr bool leaves = !isText && Row<TypeParam>::recipe != Duplication::ByConstruction;
     const auto image = Make<VEKPixelImage>(1, 1);
     const auto shape = Make<TypeParam>();
     Fill fill;

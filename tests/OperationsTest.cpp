@@ -101,9 +101,8 @@ class World {
 public:
     explicit World(unsigned iSeed) : _random(iSeed) {}
     ~World() {
-        for (const auto* const references : {&_held, &_lost})
-            for (Node* const node : *references)
-                GiveBack(node);
+        while (!_held.empty())
+            Release();
     }
 
     /// Says what it did.
@@ -156,20 +155,15 @@ private:
         for (Node* const member : iMembers)
             ++member->references;
     }
-    Node* Copied(const Node& iSource) {
+    Node* CopyOf(const Node& iSource, bool iDuplicates) {
         Node* const copy = Born(*iSource.kind);
         copy->values = iSource.values;
-        std::fill_n(copy->values.begin(), iSource.kind->uncopied, 0);
-        if (iSource.hasList) Share(*copy, iSource.members);
-        return copy;
-    }
-    Node* DuplicateOf(const Node& iSource) {
-        Node* const copy = Born(*iSource.kind);
-        copy->values = iSource.values;
-        if (!iSource.kind->duplicatesAll) std::fill_n(copy->values.begin(), iSource.kind->uncopied, 0);
-        copy->hasList = iSource.hasList;
+        if (!iDuplicates || !iSource.kind->duplicatesAll)
+            std::fill_n(copy->values.begin(), iSource.kind->uncopied, 0);
+        if (!iSource.hasList) return copy;
+        Share(*copy, iDuplicates ? std::vector<Node*>() : iSource.members);
         for (const Node* const member : iSource.members)
-            copy->members.push_back(DuplicateOf(*member));
+            if (iDuplicates) copy->members.push_back(CopyOf(*member, true));
         return copy;
     }
     void Assign(Node& ioTarget, Node& ioSource) {
@@ -203,11 +197,6 @@ private:
         for (Node* const member : ioNode.members)
             Bind(*member, static_cast<Base*>((*ioNode.kind->list(*iReal))[++position]));
     }
-    void GiveBack(Node* ioNode) {
-        ioNode->real->Release();
-        Drop(ioNode);
-    }
-
     std::string Create() {
         const Kind& kind = _kinds[Any(_kinds.size())];
         Hold(Born(kind), kind.make());
@@ -250,11 +239,9 @@ private:
         const Kind& kind = *ioNode.kind;
         const std::size_t operation = Any(3);
         if (operation == 0) {
-            Object* const copy = kind.copy(*ioNode.real);
-            Hold(Copied(ioNode), copy);
+            Hold(CopyOf(ioNode, false), kind.copy(*ioNode.real));
         } else if (operation == 1 && kind.duplicate) {
-            Object* const copy = kind.duplicate(*ioNode.real);
-            Hold(DuplicateOf(ioNode), copy);
+            Hold(CopyOf(ioNode, true), kind.duplicate(*ioNode.real));
         } else {
             // From one of its own class, itself included, or from a member that perhaps nobody else holds.
             std::vector<Node*> sources = {&ioNode};
@@ -273,8 +260,10 @@ private:
     std::string Release() {
         _lost.push_back(AnyOf(_held));
         _held.erase(std::find(_held.begin(), _held.end(), _lost.back()));
-        for (Node* const node : std::exchange(_lost, {}))
-            GiveBack(node);
+        for (Node* const node : std::exchange(_lost, {})) {
+            node->real->Release();
+            Drop(node);
+        }
         return "release";
     }
 

@@ -33,29 +33,24 @@ std::string ShowPoints(const Element& iElement) {
 
 template <class Replace>
 void ExpectRoomReused(Replace iReplace) {
-    ResetPeak();
+    PeakBlocks();
     const long blocks = LiveBlocks();
     iReplace();
     EXPECT_EQ(PeakBlocks(), blocks) << "the old arrays go before the new ones come";
 }
 
-template <class Element>
-constexpr bool isDisjoint = std::is_same_v<Element, VEKPrtDisjointPolylineElt>;
-template <class Element>
-constexpr bool isPolygon = std::is_same_v<Element, VEKPrtPolygonElt>;
-
 SUITE_OF(EveryPointArray, ElementsWith<HasPoints>);
 
 const double g_five[] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10};
-const double* const g_nothing = nullptr;
 
 } // namespace
 
 TYPED_TEST(EveryPointArray, ConstructsFromListsAndArrays) {
     VEKMathPoint2D a(1, 2), b(3, 4), c(5, 6);
     VEKMathPoint2D* const points[] = {&a, nullptr, &b, &c};
+    constexpr bool isDisjoint = std::is_same_v<TypeParam, VEKPrtDisjointPolylineElt>;
     // Of the disjoint polyline, of the polygon, and of the others.
-    constexpr int column = isDisjoint<TypeParam> ? 0 : isPolygon<TypeParam> ? 1 : 2;
+    constexpr int column = isDisjoint ? 0 : std::is_same_v<TypeParam, VEKPrtPolygonElt> ? 1 : 2;
     const std::pair<int, std::array<const char*, 3>> lists[] = {
         {0, {"0 none", "0 none", "0 none"}},
         {1, {"0 none", "1 (0 0)", "1 (1 2)"}},
@@ -76,9 +71,9 @@ TYPED_TEST(EveryPointArray, ConstructsFromListsAndArrays) {
         {g_five, INT_MIN, "-2147483648 none", "-2147483648 none"},
         {nullptr, 2, "2 (0 0 0 0)", "2 (0 0 0 0)"}};
     for (const auto& [array, count, disjoint, expected] : arrays)
-        EXPECT_EQ(ShowPoints(TypeParam(array, count)), isDisjoint<TypeParam> ? disjoint : expected);
+        EXPECT_EQ(ShowPoints(TypeParam(array, count)), isDisjoint ? disjoint : expected);
     const float narrow[] = {1.5F, 2.25F};
-    if constexpr (!isDisjoint<TypeParam>) {
+    if constexpr (!isDisjoint) {
         EXPECT_EQ(ShowPoints(TypeParam(narrow, 1)), "1 (1.5 2.25)");
     }
 }
@@ -188,7 +183,7 @@ TEST(NURBS, SetParametersReadsFromTheSecondElement) {
 
 TEST(NURBS, NeedsAllArraysAndAPositiveCount) {
     for (int missing = 0; missing < 5; ++missing) {
-        const double* arrays[] = {g_points, g_knots, g_weights, g_nothing, g_nothing};
+        const double* arrays[] = {g_points, g_knots, g_weights, nullptr, nullptr};
         arrays[missing] = nullptr;
         const int count = missing < 3 ? 2 : 3 - missing;
         const std::string expected = "3 " + std::to_string(count) + " 0.5 2 none none none";

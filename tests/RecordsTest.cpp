@@ -66,7 +66,7 @@ TEST(Transform, AppendsInOrder) {
 
 TEST(Transform, CallsThroughTheVirtualTableAndHandsOnTheStatus) {
     struct Client : Transform {
-        int tab = 1, get = 1, add = 1;
+        int tab = 1, get = 1, add = 1, append = 1;
         int GetTransformTab(unsigned& oCount, VEKPrintTransformType*& oKinds) const override {
             Transform::GetTransformTab(oCount, oKinds);
             return tab;
@@ -82,6 +82,10 @@ TEST(Transform, CallsThroughTheVirtualTableAndHandsOnTheStatus) {
         int AddScaleX(double iScale) override {
             Transform::AddScaleX(iScale);
             return add;
+        }
+        int AddTransform(const VEKPrintTransformType& iKind) override {
+            Transform::AddTransform(iKind);
+            return append;
         }
     } source, target;
     Transform plain;
@@ -99,12 +103,8 @@ TEST(Transform, CallsThroughTheVirtualTableAndHandsOnTheStatus) {
         target.add = add;
         EXPECT_EQ(target.AddTransformAttributes(source), status) << tab << get << add;
     }
-    struct Counting : Transform {
-        int AddTransform(const VEKPrintTransformType& iKind) override {
-            return 1 + Transform::AddTransform(iKind);
-        }
-    } counting;
-    EXPECT_EQ(counting.AddScaleX(2.0), -1) << "anything but 1 from AddTransform is a failure";
+    target.append = 2;
+    EXPECT_EQ(target.AddScaleY(2.0), -1) << "anything but 1 from AddTransform is a failure";
 }
 
 // A failed addition leaves a raised count, with which copies get blank values, and loses the old array.

@@ -9,22 +9,12 @@
 #include <cstdlib>
 #include <cstring>
 #include <new>
+#include <utility>
 
-// g++ says by a macro, clang by a feature, that the address sanitizer is on.
-#if defined(__SANITIZE_ADDRESS__)
-#define WITH_LEAK_CHECK
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer)
-#define WITH_LEAK_CHECK
-#endif
-#endif
-#if defined(WITH_LEAK_CHECK)
-#include <sanitizer/lsan_interface.h>
-#define LSAN_DISABLE() __lsan_disable()
-#define LSAN_ENABLE() __lsan_enable()
-#else
-#define LSAN_DISABLE() static_cast<void>(0)
-#define LSAN_ENABLE() static_cast<void>(0)
+// There where the program has the leak sanitizer.
+#if !defined(_WIN32)
+extern "C" __attribute__((weak)) void __lsan_disable();
+extern "C" __attribute__((weak)) void __lsan_enable();
 #endif
 
 namespace {
@@ -108,8 +98,7 @@ void operator delete(void* iBlock, const std::nothrow_t&) noexcept { Deallocate(
 void operator delete[](void* iBlock, const std::nothrow_t&) noexcept { Deallocate(iBlock); }
 
 long LiveBlocks() { return g_blocks; }
-long PeakBlocks() { return g_peak; }
-void ResetPeak() { g_peak = g_blocks; }
+long PeakBlocks() { return std::exchange(g_peak, g_blocks); }
 long Allocations() { return g_allocations; }
 
 AllocationFaults::AllocationFaults(long iNth, bool iSticky) { g_faults = {true, iSticky, iNth, 0}; }
@@ -118,11 +107,16 @@ long AllocationFaults::Stop() {
     return g_faults.hits;
 }
 
+void SetLeakSanitizer([[maybe_unused]] bool iOn) {
+#if !defined(_WIN32)
+    if (const auto call = iOn ? __lsan_enable : __lsan_disable) call();
+#endif
+}
 DemandedLeak::DemandedLeak(long iObjects, long iBlocks) {
     Add(iObjects, iBlocks);
-    LSAN_DISABLE();
+    SetLeakSanitizer(false);
 }
-DemandedLeak::~DemandedLeak() { LSAN_ENABLE(); }
+DemandedLeak::~DemandedLeak() { SetLeakSanitizer(true); }
 void DemandedLeak::Add(long iObjects, long iBlocks) {
     g_demandedObjects += iObjects;
     g_demandedBlocks += iBlocks;

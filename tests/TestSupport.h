@@ -54,9 +54,8 @@ using Holders = ElementsWith<HasMembers, VEKPrtModel>;
 
 /// Blocks that the process has from any form of operator new.
 long LiveBlocks();
-/// The most of them at a time since the test began or ResetPeak was called.
+/// The most of them at a time since this was called last.
 long PeakBlocks();
-void ResetPeak();
 /// Requests made so far.
 long Allocations();
 
@@ -65,8 +64,6 @@ class AllocationFaults {
 public:
     AllocationFaults(long iNth, bool iSticky);
     ~AllocationFaults() { Stop(); }
-    AllocationFaults(const AllocationFaults&) = delete;
-    AllocationFaults& operator=(const AllocationFaults&) = delete;
     /// How many allocations were made to fail.
     long Stop();
 };
@@ -86,8 +83,6 @@ class DemandedLeak {
 public:
     DemandedLeak(long iObjects, long iBlocks);
     ~DemandedLeak();
-    DemandedLeak(const DemandedLeak&) = delete;
-    DemandedLeak& operator=(const DemandedLeak&) = delete;
     static void Add(long iObjects, long iBlocks);
 };
 
@@ -97,14 +92,10 @@ constexpr Enumeration Value(int iValue) {
     return static_cast<Enumeration>(iValue);
 }
 
-template <class T>
-unsigned long Count(T* iObject) {
+template <class Pointer>
+unsigned long Count(const Pointer& iObject) {
     iObject->AddRef();
     return iObject->Release();
-}
-template <class T>
-unsigned long Count(const VEKRef<T>& iObject) {
-    return Count(iObject.Get());
 }
 
 /// The duplicate, typed; null when there is none.  The argument starts out poisoned and must be overwritten.
@@ -156,8 +147,6 @@ std::string IdsIn(const Holder& iHolder) {
 
 template <class Holder>
 constexpr bool isModel = std::is_base_of_v<VEKPrtModel, Holder>;
-template <class Holder>
-constexpr bool isFigure = std::is_base_of_v<VEKPrtClosedFigureElt, Holder>;
 template <class Holder>
 using MemberOf = typename decltype(ChildrenOf(std::declval<Holder&>()).begin())::value_type;
 
