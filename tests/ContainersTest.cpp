@@ -162,18 +162,15 @@ TEST(ClosedFigure, DuplicatesThroughTheRegionsOwnSlot) {
     EXPECT_EQ(region->calls, "region element ") << "neither slot calls the other";
 }
 
-using Lists = testing::Types<VEKListPtrVEKPrtGraphicPrimitiveElt, VEKListPtrVEKPrtImageElt,
-                             VEKListPtrVEKPrtClosedFigureRegionElt>;
-SUITE_OF(EveryList, Lists);
-
-TYPED_TEST(EveryList, CopiesPointersOnly) {
+TYPED_TEST(EveryHolder, HasAListThatCopiesPointersOnly) {
+    using List = std::remove_pointer_t<decltype(ListOf(std::declval<TypeParam&>()))>;
     const auto a = Named("a");
-    TypeParam list(0), assigned(4);
+    List list(0), assigned(4);
     list.Append(a.Get());
-    const TypeParam copy(list);
+    const List copy(list);
     assigned = copy;
     assigned = *&assigned;
-    for (const TypeParam* const each : {&copy, &std::as_const(assigned)})
+    for (const List* const each : {&copy, &std::as_const(assigned)})
         EXPECT_TRUE(each->Size() == 1 && (*each)[1] == a.Get());
     EXPECT_EQ(Count(a), 1UL);
 }

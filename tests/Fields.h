@@ -70,14 +70,8 @@ void PrintChanges(const Record& iRecord, std::ostream* ioStream) {
 }
 
 /// Enumerations are given by number.
-template <class Enumeration>
-struct Number {
-    int value;
-    operator Enumeration() const { return static_cast<Enumeration>(value); }
-    Number(int iValue) : value(iValue) {}
-};
 template <class T>
-using Given = std::conditional_t<std::is_enum_v<std::decay_t<T>>, Number<std::decay_t<T>>, std::decay_t<T>>;
+using Given = std::conditional_t<std::is_enum_v<std::decay_t<T>>, Value<std::decay_t<T>>, std::decay_t<T>>;
 
 /// A field that is set and read by any functions; the latter returns the values, or has a parameter for each.
 template <class Class, class... Arguments, class Set, class Get>

@@ -290,26 +290,27 @@ struct Counting : VEKPrtClosedFigureRegionElt {
     void Duplicate(VEKPrtClosedFigureRegionElt*& oCopy) override { Hand(oCopy); }
 };
 
-// One operation on a new object: yields that object, or the one that it made.  A setter says what it set.
+// One operation on a new object: yields that object, or the one that it made.  A setter is a field as well.
 struct Operation {
-    const char* name;
+    Field<Object> field;
     std::function<Object*(Object&)> run;
-    const Field<Object>* field = nullptr;
 };
 
-std::vector<Operation> OperationsOf(const Kind& iKind, Object& ioSource, const Fields<Object>& iFields) {
+std::vector<Operation> OperationsOf(const Kind& iKind, Object& ioSource, Object* iMember) {
     std::vector<Operation> operations = {
-        {"copied", [&](Object&) { return iKind.copy(ioSource); }},
-        {"assigned", [&](Object& ioTarget) { return iKind.assign(ioTarget, ioSource); }}};
+        {Field<Object>{"copied"}, [&](Object&) { return iKind.copy(ioSource); }},
+        {Field<Object>{"assigned"}, [&](Object& ioTarget) { return iKind.assign(ioTarget, ioSource); }}};
     if (iKind.duplicate)
-        operations.push_back({"duplicated", [&](Object&) { return iKind.duplicate(ioSource); }});
-    for (const Field<Object>& field : iFields) {
-        const auto set = [&](Object& ioTarget) {
-            field.set(ioTarget, 1);
-            return &ioTarget;
-        };
-        operations.push_back({field.name, set, &field});
-    }
+        operations.push_back({Field<Object>{"duplicated"}, [&](Object&) { return iKind.duplicate(ioSource); }});
+    const auto addSetter = [&](Field<Object> iField) {
+        operations.push_back({iField, [=](Object& ioTarget) { return iField.set(ioTarget, 1), &ioTarget; }});
+    };
+    std::for_each(iKind.fields.begin(), iKind.fields.end(), addSetter);
+    const auto add = [=](Object& ioHolder, std::size_t) { iKind.add(ioHolder, iMember); };
+    const auto isHeld = [=](const Object& iHolder, std::size_t) {
+        return testing::AssertionResult(iKind.list(iHolder)->Size() > 0);
+    };
+    if (iKind.add) addSetter({"member", {}, 2, add, isHeld});
     return operations;
 }
 
@@ -333,9 +334,9 @@ bool RunsIntoFault(const Kind& iKind, const Operation& iOperation, Object& ioMem
         const auto* const list = result ? iKind.list(*result) : nullptr;
         EXPECT_EQ(Count(&ioMember), references + (list ? 1 : 0));
         if (list && list->Size() == 0) ioMember.Release(); // lost, as the list could not grow
-        if (iOperation.field) {
-            iOperation.run(*target);
-            EXPECT_TRUE(iOperation.field->has(*target, 1)) << "set again";
+        if (iOperation.field.count > 0) {
+            iOperation.field.set(*target, 1);
+            EXPECT_TRUE(iOperation.field.has(*target, 1)) << "set again";
         } else if (!hit) {
             EXPECT_EQ(list != nullptr, iKind.add != nullptr);
             ExpectFields(iKind, *result, 1, iKind.uncopied);
@@ -367,27 +368,19 @@ TEST(EveryAllocation, CanFail) {
     const DemandedLeak leak(0, 0);
     for (const Kind& kind : KindsOf(AllElements())) {
         const auto source = Ref::Adopt(kind.make());
-        Fields<Object> fields = kind.fields;
-        for (const Field<Object>& field : fields)
+        for (const Field<Object>& field : kind.fields)
             field.set(*source, 1);
         auto member = Ref::Adopt(new Counting);
         if (!kind.accepts(*member)) member = Ref::Adopt(new VEKPrtImageElt);
-        if (kind.add) {
-            kind.add(*source, member.Get());
-            fields.push_back({"added to"});
-            fields.back().set = [&](Object& ioHolder, std::size_t) { kind.add(ioHolder, member.Get()); };
-            fields.back().has = [&](const Object& iHolder, std::size_t) {
-                return testing::AssertionResult(kind.list(iHolder)->Size() > 0);
-            };
-        }
-        for (const Operation& operation : OperationsOf(kind, *source, fields))
+        if (kind.add) kind.add(*source, member.Get());
+        for (const Operation& operation : OperationsOf(kind, *source, member.Get()))
             for (const bool sticky : {false, true}) {
                 bool hit = true;
                 for (long nth = 0; hit; ++nth) {
-                    SCOPED_TRACE(std::string(kind.name) + " " + operation.name + ", allocation " +
+                    SCOPED_TRACE(std::string(kind.name) + " " + operation.field.name + ", allocation " +
                                  std::to_string(nth) + (sticky ? " and all that follow" : ""));
                     hit = RunsIntoFault(kind, operation, *member, nth, sticky);
-                    EXPECT_TRUE(hit || nth > 0 || operation.field) << "nothing failed";
+                    EXPECT_TRUE(hit || nth > 0 || operation.field.count > 0) << "nothing failed";
                 }
                 ExpectFields(kind, *source, 1);
             }

@@ -102,9 +102,6 @@ TYPED_TEST(EveryPointArray, ReplacesAndCopiesAsGiven) {
     target->SetPoints(g_five, 1);
     EXPECT_EQ(assigned(), "0 none") << "a source without an array has no count either";
     EXPECT_EQ(ShowPoints(*Make<TypeParam>(*element)), "0 none");
-    element->SetPoints(g_five, 1);
-    *element = *std::as_const(element).Get();
-    EXPECT_EQ(ShowPoints(*element), "1 (1 2)");
 }
 
 TEST(PolyPolygon, HoldsPointsAndCounts) {
@@ -140,7 +137,6 @@ TEST(PolyPolygon, HoldsPointsAndCounts) {
     EXPECT_EQ(ShowPoints(most), "2 (2147483647 2147483647) none");
 
     const auto element = Make<P>(g_five, counts, 2), target = Make<P>(g_five, counts, 1);
-    *element = *std::as_const(element).Get();
     ExpectRoomReused([&] { element->SetPoints(g_five, counts, 2); });
     const Arrays own = ArraysOf(*element);
     element->SetPoints(own.points + 2, own.counts, 3);
@@ -202,8 +198,6 @@ TEST(NURBS, CopiesResetTheBounds) {
     *target = *curve;
     for (const auto& copy : {target, Make<N>(*curve), Duplicated(*curve)})
         EXPECT_EQ(ShowPoints(*copy), "3 2 0 1 (1 2 3 4) (10 11 12 13 14) (20 21)");
-    *curve = *std::as_const(curve).Get();
-    EXPECT_EQ(ArraysOf(*curve).second, 0.75F) << "assigned to itself";
     const char* const lacking[] = {" none (0 0 0 0 0) (0 0)", " (0 0 0 0) none (0 0)",
                                    " (0 0 0 0) (0 0 0 0 0) none"};
     for (int nth = 0; nth < 3; ++nth) {

@@ -88,9 +88,11 @@ public:
 
 /// A value of one of the host's enumerations: tests know them by number, as the library does.
 template <class Enumeration>
-constexpr Enumeration Value(int iValue) {
-    return static_cast<Enumeration>(iValue);
-}
+struct Value {
+    int number;
+    constexpr Value(int iNumber) : number(iNumber) {}
+    constexpr operator Enumeration() const { return static_cast<Enumeration>(number); }
+};
 
 template <class Pointer>
 unsigned long Count(const Pointer& iObject) {
