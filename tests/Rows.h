@@ -61,7 +61,7 @@ struct Samples {
     LIST(Class, __VA_ARGS__)
 enum class Duplication { ByAssignment, ByCopying, ByConstruction };
 
-PLAIN_ROW(VEKPrtModel)
+PLAIN_ROW(VEKPrtModel, )
 PLAIN_ROW(VEKPrtTransformAttributes, FieldBy<C, Entries>("Entries", SetEntries, EntriesOf,
                                                          {{}, {g_oneOfEach}, {{{3, 2}, {2, 30}, {3, 3}}}}))
 PLAIN_ROW(VEKPrtStrokeAttributes, FIELD(StrokeColourIndex, {0}, {7}),

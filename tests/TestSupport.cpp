@@ -55,6 +55,12 @@ void Deallocate(void* iBlock) noexcept {
     std::free(iBlock);
 }
 
+void SetLeakSanitizer([[maybe_unused]] bool iOn) {
+#if !defined(_WIN32)
+    if (const auto call = iOn ? __lsan_enable : __lsan_disable) call();
+#endif
+}
+
 // After every test: no framework object and no memory block is left that the behaviour does not demand.
 class LeakCheck : public testing::EmptyTestEventListener {
     void OnTestStart(const testing::TestInfo& iTest) override {
@@ -107,11 +113,6 @@ long AllocationFaults::Stop() {
     return g_faults.hits;
 }
 
-void SetLeakSanitizer([[maybe_unused]] bool iOn) {
-#if !defined(_WIN32)
-    if (const auto call = iOn ? __lsan_enable : __lsan_disable) call();
-#endif
-}
 DemandedLeak::DemandedLeak(long iObjects, long iBlocks) {
     Add(iObjects, iBlocks);
     SetLeakSanitizer(false);
