@@ -6,6 +6,7 @@
 #include <memory>
 #include <numeric>
 #include <optional>
+#include <sstream>
 #include <tuple>
 #include <vector>
 
@@ -244,11 +245,34 @@ inline Arrays ArraysOf(const VEKPrtNURBSElt& iCurve) {
     iCurve.GetParameters(a.order, a.count, a.points, a.knots, a.first, a.second, a.weights);
     return a;
 }
-/// None of what is not there.
 template <class Value>
-std::vector<Value> CopyOf(const Value* iArray, long long iCount) {
-    return iArray ? std::vector<Value>(iArray, iArray + iCount) : std::vector<Value>();
+std::string Shown(const Value* iArray, long long iCount, const char* iNone) {
+    if (!iArray) return iNone;
+    std::ostringstream text;
+    for (long long i = 0; i < iCount; ++i)
+        text << (i == 0 ? "" : " ") << iArray[i];
+    return " (" + text.str() + ")";
 }
+/// What an element holds of arrays as text: counts, then arrays.
+template <class Element>
+std::string ShowPoints(const Element& iElement, const char* iNone = " none") {
+    constexpr bool isCurve = std::is_same_v<Element, VEKPrtNURBSElt>;
+    constexpr bool hasCounts = std::is_same_v<Element, VEKPrtPolyPolygonElt>;
+    const Arrays a = ArraysOf(iElement);
+    const auto shown = [=](const auto* iArray, long long iCount) { return Shown(iArray, iCount, iNone); };
+    std::ostringstream text;
+    if (isCurve) text << a.order << ' ';
+    text << a.count;
+    if (isCurve) text << ' ' << a.first << ' ' << a.second;
+    if (hasCounts) text << shown(a.counts, a.count);
+    text << shown(a.points, 2 * (hasCounts ? a.Total() : a.count));
+    if (isCurve) text << shown(a.knots, a.order + a.count) << shown(a.weights, a.count);
+    return text.str();
+}
+inline const double g_five[] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10};
+inline const double g_knots[] = {10, 11, 12, 13, 14, 15};
+inline const double g_weights[] = {20, 21, 22};
+inline const int g_counts[] = {2, 1};
 
 /// Each colour as one number.
 using Colours = std::vector<int>;

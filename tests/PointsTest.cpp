@@ -1,35 +1,10 @@
-// Arrays of points.  What an element holds is compared as text: counts, then arrays, "none" where one is
-// missing.
+// Arrays of points.
 #include <array>
 #include <climits>
-#include <sstream>
 
 #include "Fields.h"
 
 namespace {
-
-template <class Value>
-std::string Shown(const Value* iArray, long long iCount) {
-    if (!iArray) return " none";
-    std::ostringstream text;
-    for (long long i = 0; i < iCount; ++i)
-        text << (i == 0 ? "" : " ") << iArray[i];
-    return " (" + text.str() + ")";
-}
-template <class Element>
-std::string ShowPoints(const Element& iElement) {
-    constexpr bool isCurve = std::is_same_v<Element, VEKPrtNURBSElt>;
-    constexpr bool hasCounts = std::is_same_v<Element, VEKPrtPolyPolygonElt>;
-    const Arrays a = ArraysOf(iElement);
-    std::ostringstream text;
-    if (isCurve) text << a.order << ' ';
-    text << a.count;
-    if (isCurve) text << ' ' << a.first << ' ' << a.second;
-    if (hasCounts) text << Shown(a.counts, a.count);
-    text << Shown(a.points, 2 * (hasCounts ? a.Total() : a.count));
-    if (isCurve) text << Shown(a.knots, a.order + a.count) << Shown(a.weights, a.count);
-    return text.str();
-}
 
 template <class Replace>
 void ExpectRoomReused(Replace iReplace) {
@@ -40,9 +15,6 @@ void ExpectRoomReused(Replace iReplace) {
 }
 
 SUITE_OF(EveryPointArray, ElementsWith<HasPoints>);
-
-const double g_five[] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10};
-
 } // namespace
 
 TYPED_TEST(EveryPointArray, ConstructsFromListsAndArrays) {
@@ -149,43 +121,35 @@ TEST(PolyPolygon, HoldsPointsAndCounts) {
     EXPECT_EQ(ShowPoints(*target), "0 none none") << "a source that lacks an array";
 }
 
-namespace {
-
-const double g_points[] = {1, 2, 3, 4};
-const double g_knots[] = {10, 11, 12, 13, 14, 15};
-const double g_weights[] = {20, 21, 22};
-
-} // namespace
-
 TEST(NURBS, SetParametersReadsFromTheSecondElement) {
     using N = VEKPrtNURBSElt;
     const auto curve = Make<N>();
     EXPECT_EQ(ShowPoints(*curve), "0 0 0 1 none none none");
-    curve->SetParameters(3, 2, g_points, g_knots, 0.25F, 0.75F, g_weights);
+    curve->SetParameters(3, 2, g_five, g_knots, 0.25F, 0.75F, g_weights);
     EXPECT_EQ(ShowPoints(*curve), "3 2 0.25 0.75 (1 2 3 4) (11 12 13 14 15) (21 22)");
-    EXPECT_EQ(ShowPoints(N(3, 2, g_points, g_knots, 0.25F, 0.75F, g_weights)),
+    EXPECT_EQ(ShowPoints(N(3, 2, g_five, g_knots, 0.25F, 0.75F, g_weights)),
               "3 2 0.25 0.75 (1 2 3 4) (10 11 12 13 14) (20 21)");
     const float points[] = {1, 2, 3, 4}, knots[] = {5, 6, 7}, weights[] = {8, 9};
     EXPECT_EQ(ShowPoints(N(1, 2, points, knots, 0.0F, 2.0F, weights)), "1 2 0 2 (1 2 3 4) (5 6 7) (8 9)");
-    EXPECT_EQ(ShowPoints(N(-1, 2, g_points, g_knots, 0.0F, 2.0F, g_weights)),
+    EXPECT_EQ(ShowPoints(N(-1, 2, g_five, g_knots, 0.0F, 2.0F, g_weights)),
               "-1 2 0 2 (1 2 3 4) (10) (20 21)");
-    ExpectRoomReused([&] { curve->SetParameters(3, 2, g_points, g_knots, 0.0F, 1.0F, g_weights); });
+    ExpectRoomReused([&] { curve->SetParameters(3, 2, g_five, g_knots, 0.0F, 1.0F, g_weights); });
     const bool asked = sizeof(void*) > 4;
     AllocationFaults noRoom(asked ? 1 : 2, false);
-    const N most(INT_MAX, 2, g_points, g_knots, 0.0F, 1.0F, g_weights);
+    const N most(INT_MAX, 2, g_five, g_knots, 0.0F, 1.0F, g_weights);
     EXPECT_EQ(noRoom.Stop(), asked ? 1 : 0) << "in 32 bits so many knots are not even asked for";
     EXPECT_NE(ArraysOf(most).weights, nullptr);
 }
 
 TEST(NURBS, NeedsAllArraysAndAPositiveCount) {
     for (int missing = 0; missing < 5; ++missing) {
-        const double* arrays[] = {g_points, g_knots, g_weights, nullptr, nullptr};
+        const double* arrays[] = {g_five, g_knots, g_weights, nullptr, nullptr};
         arrays[missing] = nullptr;
         const int count = missing < 3 ? 2 : 3 - missing;
         const std::string expected = "3 " + std::to_string(count) + " 0.5 2 none none none";
         const auto curve = Make<VEKPrtNURBSElt>(3, count, arrays[0], arrays[1], 0.5F, 2.0F, arrays[2]);
         EXPECT_EQ(ShowPoints(*curve), expected);
-        curve->SetParameters(3, 2, g_points, g_knots, 0.0F, 1.0F, g_weights);
+        curve->SetParameters(3, 2, g_five, g_knots, 0.0F, 1.0F, g_weights);
         curve->SetParameters(3, count, arrays[0], arrays[1], 0.5F, 2.0F, arrays[2]);
         EXPECT_EQ(ShowPoints(*curve), expected);
     }
@@ -193,8 +157,8 @@ TEST(NURBS, NeedsAllArraysAndAPositiveCount) {
 
 TEST(NURBS, CopiesResetTheBounds) {
     using N = VEKPrtNURBSElt;
-    const auto curve = Make<N>(3, 2, g_points, g_knots, 0.25F, 0.75F, g_weights), target = Make<N>();
-    target->SetParameters(1, 1, g_points, g_knots, 0.1F, 0.2F, g_weights);
+    const auto curve = Make<N>(3, 2, g_five, g_knots, 0.25F, 0.75F, g_weights), target = Make<N>();
+    target->SetParameters(1, 1, g_five, g_knots, 0.1F, 0.2F, g_weights);
     *target = *curve;
     for (const auto& copy : {target, Make<N>(*curve), Duplicated(*curve)})
         EXPECT_EQ(ShowPoints(*copy), "3 2 0 1 (1 2 3 4) (10 11 12 13 14) (20 21)");
@@ -204,13 +168,13 @@ TEST(NURBS, CopiesResetTheBounds) {
         WithFault(nth, [&] { *target = *curve; });
         EXPECT_EQ(ShowPoints(*target), std::string("3 2 0 1") + lacking[nth]) << "the others stay, uncopied";
         EXPECT_EQ(ShowPoints(*Make<N>(*target)), "3 0 0 1 none none none");
-        WithFault(nth, [&] { target->SetParameters(3, 2, g_points, g_knots, 0.0F, 1.0F, g_weights); });
+        WithFault(nth, [&] { target->SetParameters(3, 2, g_five, g_knots, 0.0F, 1.0F, g_weights); });
         EXPECT_EQ(ShowPoints(*target), std::string("3 2 0 1") + lacking[nth]);
     }
 }
 
 TEST(NURBS, ReadsOwnArraysBeforeTheyGo) {
-    const auto curve = Make<VEKPrtNURBSElt>(2, 2, g_points, g_knots, 0.0F, 1.0F, g_weights);
+    const auto curve = Make<VEKPrtNURBSElt>(2, 2, g_five, g_knots, 0.0F, 1.0F, g_weights);
     const auto shownWith = [&](int iCount, const double* iPoints, const double* iKnots,
                                const double* iWeights) {
         curve->SetParameters(iCount, iCount, iPoints, iKnots, 0.0F, 1.0F, iWeights);
@@ -229,8 +193,8 @@ TEST(NURBS, ReadsOwnArraysBeforeTheyGo) {
     shownWith(0, own.points, own.knots, own.weights);
     EXPECT_EQ(ArraysOf(*curve).knots, own.knots) << "no new array takes its place: it stays held";
     // An array of one knot holds nothing from its second element on.
-    const auto least = Make<VEKPrtNURBSElt>(0, 1, g_points, g_knots, 0.0F, 1.0F, g_weights);
+    const auto least = Make<VEKPrtNURBSElt>(0, 1, g_five, g_knots, 0.0F, 1.0F, g_weights);
     const std::unique_ptr<double[]> knot(ArraysOf(*least).knots);
-    least->SetParameters(0, 1, g_points, knot.get(), 0.0F, 1.0F, g_weights);
+    least->SetParameters(0, 1, g_five, knot.get(), 0.0F, 1.0F, g_weights);
     EXPECT_EQ(ShowPoints(*least), "0 1 0 1 (1 2) (0) (21)");
 }

@@ -146,61 +146,33 @@ ROW(VEKPrtSymbolElt, 15, ByConstruction, FIELD(Origin, {origin}, {a}), FIELD(Siz
 ROW(VEKPrtClosedFigureElt, 21, ByConstruction, PAINTED)
 ROW(VEKPrtClosedFigureRegionElt, 27, ByConstruction, TRANSFORM)
 
-using Coordinates = std::vector<double>;
-template <class C>
-Field<C> PointsField() {
-    return FieldBy<C, Coordinates>(
-        "Points",
-        [](C& ioElement, const Coordinates& iPoints) {
-            ioElement.SetPoints(iPoints.data(), static_cast<int>(iPoints.size() / 2));
-        },
-        [](const C& iElement) {
-            const Arrays arrays = ArraysOf(iElement);
-            return CopyOf(arrays.points, 2 * arrays.count);
-        },
-        {{}, {{1, 2, 3, 4}}, {{5, 6}}});
+/// Arrays of as many points, polygons or control points as the text begins with, which says what is held
+/// then.
+template <class C, class Set>
+Field<C> ArraysField(Set iSet, std::initializer_list<std::tuple<std::string>> iTexts) {
+    return FieldBy<C, std::string>(
+        "Arrays", [=](C& ioElement, const std::string& iText) { iSet(ioElement, std::stoi(iText)); },
+        [](const C& iElement) { return ShowPoints(iElement, " ()"); }, iTexts);
 }
-ROW(VEKPrtPolylineElt, 17, ByCopying, PointsField<C>(), STROKED)
-ROW(VEKPrtPolyCubicBezierElt, 24, ByCopying, PointsField<C>(), STROKED)
-ROW(VEKPrtPolyQuadraticBezierElt, 28, ByCopying, PointsField<C>(), STROKED)
-ROW(VEKPrtDisjointPolylineElt, 25, ByAssignment, PointsField<C>(), STROKED)
-ROW(VEKPrtPolygonElt, 16, ByCopying, PointsField<C>(), PAINTED)
-
-inline Field<VEKPrtPolyPolygonElt> PolygonsField() {
-    using C = VEKPrtPolyPolygonElt;
-    return FieldBy<C, Coordinates, std::vector<int>>(
-        "Points",
-        [](C& ioElement, const Coordinates& iPoints, const std::vector<int>& iCounts) {
-            ioElement.SetPoints(iPoints.data(), iCounts.data(), static_cast<int>(iCounts.size()));
-        },
-        [](const C& iElement) {
-            const Arrays arrays = ArraysOf(iElement);
-            return std::tuple(CopyOf(arrays.points, 2 * arrays.Total()), CopyOf(arrays.counts, arrays.count));
-        },
-        {{}, {{1, 2, 3, 4, 5, 6}, {2, 1}}});
-}
-ROW(VEKPrtPolyPolygonElt, 20, ByCopying, PolygonsField(), PAINTED)
-
+#define POINTS                                                                                               \
+    ArraysField<C>([](C& ioElement, int iCount) { ioElement.SetPoints(g_five, iCount); },                    \
+                   {{"0 ()"}, {"2 (1 2 3 4)"}, {"1 (1 2)"}})
+ROW(VEKPrtPolylineElt, 17, ByCopying, POINTS, STROKED)
+ROW(VEKPrtPolyCubicBezierElt, 24, ByCopying, POINTS, STROKED)
+ROW(VEKPrtPolyQuadraticBezierElt, 28, ByCopying, POINTS, STROKED)
+ROW(VEKPrtDisjointPolylineElt, 25, ByAssignment, POINTS, STROKED)
+ROW(VEKPrtPolygonElt, 16, ByCopying, POINTS, PAINTED)
+ROW(VEKPrtPolyPolygonElt, 20, ByCopying,
+    ArraysField<C>([](C& ioElement, int iCount) { ioElement.SetPoints(g_five, g_counts, iCount); },
+                   {{"0 () ()"}, {"2 (2 1) (1 2 3 4 5 6)"}}),
+    PAINTED)
 /// The bounds stay those of a new curve: copies reset them.
-inline Field<VEKPrtNURBSElt> CurveField() {
-    using C = VEKPrtNURBSElt;
-    return FieldBy<C, int, Coordinates, Coordinates, Coordinates>(
-        "Curve",
-        [](C& ioCurve, int iOrder, const Coordinates& iPoints, const Coordinates& iKnots,
-           const Coordinates& iWeights) {
-            ioCurve.SetParameters(iOrder, static_cast<int>(iPoints.size() / 2), iPoints.data(), iKnots.data(),
-                                  0.0F, 1.0F, iWeights.data());
+ROW(VEKPrtNURBSElt, 14, ByCopying,
+    ArraysField<C>(
+        [](C& ioCurve, int iCount) {
+            ioCurve.SetParameters(iCount, iCount, g_five, g_knots, 0.0F, 1.0F, g_weights);
         },
-        [](const C& iCurve) {
-            const Arrays arrays = ArraysOf(iCurve);
-            Coordinates knots = CopyOf(arrays.knots, arrays.order + arrays.count),
-                        weights = CopyOf(arrays.weights, arrays.count);
-            for (Coordinates* const each : {&knots, &weights})
-                each->insert(each->begin(), each->empty() ? 0 : 1, 0.0); // for the one that is not read
-            return std::tuple(arrays.order, CopyOf(arrays.points, 2 * arrays.count), knots, weights);
-        },
-        {{0, {}, {}, {}}, {2, {1, 2, 3, 4}, {0, 5, 6, 7, 8}, {0, 9, 10}}});
-}
-ROW(VEKPrtNURBSElt, 14, ByCopying, CurveField(), STROKED)
+        {{"0 0 0 1 () () ()"}, {"2 2 0 1 (1 2 3 4) (11 12 13 14) (21 22)"}}),
+    STROKED)
 
 #endif
