@@ -1,7 +1,5 @@
 // What element classes have in common beside their operations: the meta-object family, constructors from
 // values, and the recipes of duplication.
-#include <algorithm>
-#include <cstring>
 
 #define DEFINES_ROWS
 #include "Rows.h"
@@ -10,8 +8,6 @@
 namespace {
 
 using Base = VEKPrtGraphicPrimitiveElt;
-template <class Element>
-constexpr bool isBase = std::is_same_v<Element, Base>;
 
 SUITE_OF(EveryElement, AllElements);
 SUITE_OF(EveryStroked, ElementsWith<HasStroke>);
@@ -21,12 +17,13 @@ SUITE_OF(EveryFilled, ElementsWith<HasFill>);
 
 TYPED_TEST(EveryElement, HasItsOwnMetaObject) {
     using Row = Row<TypeParam>;
+    constexpr bool isBase = std::is_same_v<TypeParam, Base>;
     VEKMetaClass* const meta = TypeParam::MetaObject();
     ASSERT_NE(meta, nullptr);
     EXPECT_EQ(Row::Cache(), meta);
     EXPECT_STREQ(meta->GetName(), Row::name);
     EXPECT_EQ(meta->GetSize(), static_cast<long>(sizeof(TypeParam)));
-    EXPECT_EQ(meta->GetBase(), isBase<TypeParam> ? VEKBaseUnknown::MetaObject() : Base::MetaObject());
+    EXPECT_EQ(meta->GetBase(), isBase ? VEKBaseUnknown::MetaObject() : Base::MetaObject());
     EXPECT_EQ(TypeParam::ClassName(), meta->GetName());
     EXPECT_EQ(TypeParam::ClassId(), "PrintBase." + std::string(Row::name));
     EXPECT_EQ(TypeParam::CreateItself(), nullptr);
@@ -45,7 +42,7 @@ TYPED_TEST(EveryElement, HasItsOwnMetaObject) {
     };
     EXPECT_EQ(Make<Derived>()->IsA(), meta->GetName()) << "the class that the query stands in";
     EXPECT_EQ(Make<Derived>()->IsAKindOf(Row::name), 1);
-    VEKMetaClass* const other = isBase<TypeParam> ? VEKPrtLineElt::MetaObject() : meta->GetBase();
+    VEKMetaClass* const other = isBase ? VEKPrtLineElt::MetaObject() : meta->GetBase();
     Row::Cache() = other;
     EXPECT_EQ(TypeParam::MetaObject(), other) << "what the cache holds is not looked up again";
     Row::Cache() = meta;

@@ -2,12 +2,10 @@
 #ifndef Fields_H
 #define Fields_H
 
-#include <functional>
 #include <memory>
 #include <numeric>
 #include <optional>
 #include <sstream>
-#include <tuple>
 #include <vector>
 
 #include "TestSupport.h"

@@ -1,6 +1,6 @@
 #include "Fields.h"
 
-TEST(ColourTable, AppendsAndFindsTheLowest) {
+TEST(ColourTable, AppendsFindsTheLowestAndIsAssigned) {
     VEKPrtColourTable table;
     const auto found = [&](unsigned char iRed, unsigned char iGreen, unsigned char iBlue) {
         unsigned index = 77;
@@ -22,16 +22,12 @@ TEST(ColourTable, AppendsAndFindsTheLowest) {
     EXPECT_EQ(found(1, 2, 3), 1U);
     for (const unsigned index : {found(9, 5, 6), found(4, 9, 6), found(4, 5, 9)})
         EXPECT_EQ(index, 77U) << "two components are not enough";
-}
-
-TEST(ColourTable, IsAssignedAsAWhole) {
-    VEKPrtColourTable table, assigned;
-    Add(table, 0x010203);
+    VEKPrtColourTable assigned;
     Add(assigned, 9);
     assigned = table;
     assigned = *&assigned;
-    table.ModifyColour(0, 5, 5, 5);
-    EXPECT_EQ(ColoursOf(assigned), Colours{0x010203});
+    table.ModifyColour(0, 7, 8, 9);
+    EXPECT_EQ(ColoursOf(assigned), (Colours{0x040506, 0x010203}));
     assigned = VEKPrtColourTable();
     EXPECT_EQ(ColoursOf(assigned), Colours());
 }

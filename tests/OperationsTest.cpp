@@ -281,13 +281,9 @@ long FromEnvironment(const char* iName, long iDefault) {
 
 // A member that is its own duplicate, with one more reference: its count tells how often it was taken.
 struct Counting : VEKPrtClosedFigureRegionElt {
-    template <class Out>
-    void Hand(Out*& oCopy) {
-        AddRef();
-        oCopy = this;
-    }
-    void Duplicate(Base*& oCopy) override { Hand(oCopy); }
-    void Duplicate(VEKPrtClosedFigureRegionElt*& oCopy) override { Hand(oCopy); }
+    using Region = VEKPrtClosedFigureRegionElt;
+    void Duplicate(Base*& oCopy) override { oCopy = VEKRef<Base>::Share(this).Detach(); }
+    void Duplicate(Region*& oCopy) override { oCopy = VEKRef<Region>::Share(this).Detach(); }
 };
 
 // One operation on a new object: yields that object, or the one that it made.  A setter is a field as well.
@@ -301,7 +297,8 @@ std::vector<Operation> OperationsOf(const Kind& iKind, Object& ioSource, Object*
         {Field<Object>{"copied"}, [&](Object&) { return iKind.copy(ioSource); }},
         {Field<Object>{"assigned"}, [&](Object& ioTarget) { return iKind.assign(ioTarget, ioSource); }}};
     if (iKind.duplicate)
-        operations.push_back({Field<Object>{"duplicated"}, [&](Object&) { return iKind.duplicate(ioSource); }});
+        operations.push_back(
+            {Field<Object>{"duplicated"}, [&](Object&) { return iKind.duplicate(ioSource); }});
     const auto addSetter = [&](Field<Object> iField) {
         operations.push_back({iField, [=](Object& ioTarget) { return iField.set(ioTarget, 1), &ioTarget; }});
     };

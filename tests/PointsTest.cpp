@@ -6,8 +6,7 @@
 
 namespace {
 
-template <class Replace>
-void ExpectRoomReused(Replace iReplace) {
+void ExpectRoomReused(const std::function<void()>& iReplace) {
     PeakBlocks();
     const long blocks = LiveBlocks();
     iReplace();
@@ -78,7 +77,7 @@ TYPED_TEST(EveryPointArray, ReplacesAndCopiesAsGiven) {
 
 TEST(PolyPolygon, HoldsPointsAndCounts) {
     using P = VEKPrtPolyPolygonElt;
-    const int counts[] = {2, 1}, cancelling[] = {2, -2}, lowering[] = {3, -2}, huge[] = {INT_MAX, INT_MAX};
+    const int cancelling[] = {2, -2}, lowering[] = {3, -2}, huge[] = {INT_MAX, INT_MAX};
     const float narrow[] = {1, 2, 3, 4, 5, 6};
     struct {
         const double* points;
@@ -87,34 +86,34 @@ TEST(PolyPolygon, HoldsPointsAndCounts) {
         const char *set, *constructed; // the latter has no array for no points
         const char* assigned;
     } const rows[] = {
-        {g_five, counts, 2, "2 (2 1) (1 2 3 4 5 6)", "2 (2 1) (1 2 3 4 5 6)", "2 (2 1) (1 2 3 4 5 6)"},
-        {g_five, counts, 0, "0 () ()", "0 () none", "0 none none"},
-        {g_five, counts, -1, "-1 none none", "-1 none none", "0 none none"},
+        {g_five, g_counts, 2, "2 (2 1) (1 2 3 4 5 6)", "2 (2 1) (1 2 3 4 5 6)", "2 (2 1) (1 2 3 4 5 6)"},
+        {g_five, g_counts, 0, "0 () ()", "0 () none", "0 none none"},
+        {g_five, g_counts, -1, "-1 none none", "-1 none none", "0 none none"},
         {g_five, cancelling, 2, "2 (2 -2) ()", "2 (2 -2) none", "2 (2 -2) none"},
         {g_five, lowering, 2, "2 (3 -2) (1 2)", "2 (3 -2) (1 2)", "2 (3 -2) (1 2)"},
         {g_five, nullptr, 2, "2 (0 0) ()", "2 (0 0) none", "2 (0 0) none"},
-        {nullptr, counts, 2, "2 (2 1) (0 0 0 0 0 0)", "2 (2 1) (0 0 0 0 0 0)", "2 (2 1) (0 0 0 0 0 0)"}};
+        {nullptr, g_counts, 2, "2 (2 1) (0 0 0 0 0 0)", "2 (2 1) (0 0 0 0 0 0)", "2 (2 1) (0 0 0 0 0 0)"}};
     for (const auto& row : rows) {
-        const auto element = Make<P>(), target = Make<P>(g_five, counts, 2);
+        const auto element = Make<P>(), target = Make<P>(g_five, g_counts, 2);
         element->SetPoints(row.points, row.counts, row.count);
         EXPECT_EQ(ShowPoints(*element), row.set);
         EXPECT_EQ(ShowPoints(P(row.points, row.counts, row.count)), row.constructed);
         *target = *element;
         EXPECT_EQ(ShowPoints(*target), row.assigned);
     }
-    EXPECT_EQ(ShowPoints(P(narrow, counts, 2)), rows[0].set);
+    EXPECT_EQ(ShowPoints(P(narrow, g_counts, 2)), rows[0].set);
     AllocationFaults noRoom(1, false);
     const P most(g_five, huge, 2);
     EXPECT_EQ(noRoom.Stop(), sizeof(void*) > 4 ? 1 : 0) << "in 32 bits it is not even asked for";
     EXPECT_EQ(ShowPoints(most), "2 (2147483647 2147483647) none");
 
-    const auto element = Make<P>(g_five, counts, 2), target = Make<P>(g_five, counts, 1);
-    ExpectRoomReused([&] { element->SetPoints(g_five, counts, 2); });
+    const auto element = Make<P>(g_five, g_counts, 2), target = Make<P>(g_five, g_counts, 1);
+    ExpectRoomReused([&] { element->SetPoints(g_five, g_counts, 2); });
     const Arrays own = ArraysOf(*element);
     element->SetPoints(own.points + 2, own.counts, 3);
     EXPECT_EQ(ShowPoints(*element), "3 (2 1 0) (3 4 5 6 0 0)") << "its own arrays, as far as they go";
     for (const auto& [nth, expected] : {std::pair(0, "2 none none"), std::pair(1, "2 (2 1) none")}) {
-        WithFault(nth, [&] { element->SetPoints(g_five, counts, 2); });
+        WithFault(nth, [&] { element->SetPoints(g_five, g_counts, 2); });
         EXPECT_EQ(ShowPoints(*element), expected);
     }
     *target = *element;

@@ -170,11 +170,10 @@ TEST(Fill, KeepsTheImageThatIsSetAgain) {
 
 TEST(Text, CopiesItsRecordsInOrder) {
     const auto image = Make<Hooked<VEKPixelImage>>(1, 1);
-    Fill fill, partial;
-    for (Fill* const each : {&fill, &partial}) {
-        each->SetPattern(image.Get(), Vector(), Vector());
-        each->SetFillColourIndex(7);
-    }
+    Fill partial;
+    partial.SetPattern(image.Get(), Vector(0, 0), Vector(0, 0));
+    partial.SetFillColourIndex(7);
+    Fill fill = partial;
     fill.SetPattern(image.Get(), Vector(1, 0), Vector(0, 1));
     VEKPrtTextElt source, assigned;
     source.SetFillAttributes(fill);

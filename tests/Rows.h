@@ -24,6 +24,7 @@ struct Samples {
     Field<C> {                                                                                               \
         "constructor", [] { return new C(__VA_ARGS__); }                                                     \
     }
+#define PLACED FIELD(Origin, {origin}, {a}), FIELD(Size, {0, 0}, {3, 4})
 #define TRANSFORM FIELD(TransformAttributes, {Transform()}, {Changed<Transform>()})
 #define STROKE FIELD(StrokeAttributes, {Stroke()}, {Changed<Stroke>()})
 #define FILL FIELD(FillAttributes, {Fill()}, {Changed<Fill>()})
@@ -110,20 +111,18 @@ ROW(VEKPrtTextElt, 13, ByAssignment, FIELD(Position, {origin}, {a}), FIELD(Text,
     FIELD(Parameters, {origin, ""}, {a, "x"}), CONSTRUCTED(a, "x"), FIELD(DrawStyle, {1}, {-123456}), STROKE,
     FILL, FIELD(TextAttributes, {VEKPrtTextAttributes()}, {Changed<VEKPrtTextAttributes>()}), TRANSFORM)
 
-/// Whether an image is held: duplicates hold another one.
-inline Field<VEKPrtBitmapImageElt> PixelImageField() {
-    using C = VEKPrtBitmapImageElt;
-    return FieldBy<C, bool>(
+ROW(VEKPrtBitmapImageElt, 20, ByAssignment, PLACED, FIELD(Orientation, {0}, {0.1F}),
+    CONSTRUCTED(a, 3.0, 4.0, 0.1, nullptr),
+    // Whether an image is held: duplicates hold another one.
+    FieldBy<C, bool>(
         "PixelImage",
         [](C& ioBitmap, bool iHeld) { ioBitmap.SetPixelImage(iHeld ? g_image.Get() : nullptr); },
-        [](const C& iBitmap) { return PixelsOf(iBitmap) != nullptr; }, {{false}, {true}});
-}
-ROW(VEKPrtBitmapImageElt, 20, ByAssignment, FIELD(Origin, {origin}, {a}), FIELD(Size, {0, 0}, {3, 4}),
-    FIELD(Orientation, {0}, {0.1F}), CONSTRUCTED(a, 3.0, 4.0, 0.1, nullptr), PixelImageField(), TRANSFORM)
-
-inline Field<VEKPrtImageElt> ColourTableField() {
-    using C = VEKPrtImageElt;
-    return FieldBy<C, Colours>(
+        [](const C& iBitmap) { return PixelsOf(iBitmap) != nullptr; }, {{false}, {true}}),
+    TRANSFORM)
+ROW(VEKPrtImageElt, 14, ByConstruction, PLACED, FIELD(Units, {4}, {-123456}),
+    FIELD(Matrix, {Matrix()}, {Matrix(1, 2, 3, 4)}),
+    CONSTRUCTED(a, 3.0, 4.0, Value<VEKPrtImageUnits>(-123456), Matrix(1, 2, 3, 4)),
+    FieldBy<C, Colours>(
         "ColourTable",
         [](C& ioPage, const Colours& iColours) {
             auto* const table = iColours.empty() ? nullptr : new (std::nothrow) VEKPrtColourTable;
@@ -132,17 +131,11 @@ inline Field<VEKPrtImageElt> ColourTableField() {
             ioPage.SetColourTable(table);
         },
         [](C& ioPage) { return TableOf(ioPage) ? ColoursOf(*TableOf(ioPage)) : Colours(); },
-        {{}, {{0x070605, 8}}});
-}
-ROW(VEKPrtImageElt, 14, ByConstruction, FIELD(Origin, {origin}, {a}), FIELD(Size, {0, 0}, {3, 4}),
-    FIELD(Units, {4}, {-123456}), FIELD(Matrix, {Matrix()}, {Matrix(1, 2, 3, 4)}),
-    CONSTRUCTED(a, 3.0, 4.0, Value<VEKPrtImageUnits>(-123456), Matrix(1, 2, 3, 4)), ColourTableField())
+        {{}, {{0x070605, 8}}}))
 ROW(VEKPrtGroupElt, 14, ByConstruction,
     FIELD(GroupAttributes, {VEKPrtGroupAttributes()}, {Changed<VEKPrtGroupAttributes>()}), TRANSFORM)
-ROW(VEKPrtPatternElt, 16, ByConstruction, FIELD(Origin, {origin}, {a}), FIELD(Size, {0, 0}, {3, 4}),
-    CONSTRUCTED(a, 3.0, 4.0), TRANSFORM)
-ROW(VEKPrtSymbolElt, 15, ByConstruction, FIELD(Origin, {origin}, {a}), FIELD(Size, {0, 0}, {3, 4}),
-    CONSTRUCTED(a, 3.0, 4.0), TRANSFORM)
+ROW(VEKPrtPatternElt, 16, ByConstruction, PLACED, CONSTRUCTED(a, 3.0, 4.0), TRANSFORM)
+ROW(VEKPrtSymbolElt, 15, ByConstruction, PLACED, CONSTRUCTED(a, 3.0, 4.0), TRANSFORM)
 ROW(VEKPrtClosedFigureElt, 21, ByConstruction, PAINTED)
 ROW(VEKPrtClosedFigureRegionElt, 27, ByConstruction, TRANSFORM)
 

@@ -66,8 +66,7 @@ class LeakCheck : public testing::EmptyTestEventListener {
     void OnTestStart(const testing::TestInfo& iTest) override {
         // A class is registered once in a process, here so that no test seems to lose the block; the tests of
         // registration itself run in processes of their own.
-        const bool registered = IsRegistration(iTest) || RegisterElements();
-        EXPECT_TRUE(registered);
+        EXPECT_TRUE(IsRegistration(iTest) || RegisterElements());
         { SCOPED_TRACE("makes room for the traces of the tests"); }
         g_demandedObjects = g_demandedBlocks = 0;
         _objects = VEKBaseUnknown::CountLiveObjects();
