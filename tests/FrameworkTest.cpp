@@ -18,9 +18,7 @@ TEST(BaseUnknown, CountsFromOneAndKnowsItself) {
     EXPECT_EQ(Count(copy), 1UL) << "the count is not assigned";
     EXPECT_EQ(Count(Make<Thing>(*thing)), 1UL) << "nor copied";
     EXPECT_EQ(thing->Release(), 1UL);
-    EXPECT_EQ(thing->IsEqual(thing.Get()), 1);
-    EXPECT_EQ(thing->IsEqual(copy.Get()), 0);
-    EXPECT_EQ(thing->IsNull(), 0);
+    EXPECT_TRUE(thing->IsEqual(thing.Get()) == 1 && thing->IsEqual(copy.Get()) == 0 && thing->IsNull() == 0);
     EXPECT_EQ(thing->IsAKindOf(VEKBaseUnknown::ClassName()), 1);
     EXPECT_EQ(thing->IsAKindOf("Thing"), 0) << "the base answers for itself";
     void *any = &any, *info = &info;

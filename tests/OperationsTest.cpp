@@ -32,11 +32,6 @@ struct Kind {
     std::function<const VEKRawCollPV*(const Object&)> list = [](const Object&) { return nullptr; };
     std::function<bool(const Object&)> accepts = [](const Object&) { return false; };
     std::function<void(Object&, Object*)> add = {}, remove = {};
-
-    void AddFields(const Fields<Object>& iFields) {
-        for (const Field<Object>& field : iFields)
-            if (field.count > 0) fields.push_back(field);
-    }
 };
 
 template <class Class>
@@ -50,11 +45,11 @@ Kind KindOf() {
     if constexpr (!isModel<Class>) {
         kind.duplicate = [=](Object& ioSource) { return Duplicated(typed(ioSource)).Detach(); };
         kind.duplicatesAll = Row<Class>::recipe != Duplication::ByConstruction;
-        kind.AddFields(FieldsOf<Base>());
-        if constexpr (!std::is_same_v<Class, Base>) {
-            kind.uncopied = kind.fields.size();
-            kind.AddFields(FieldsOf<Class>());
-        }
+        constexpr bool isBase = std::is_same_v<Class, Base>;
+        if (!isBase) kind.uncopied += FieldsOf<Base>().size();
+        for (const auto& fields : {FieldsOf<Base>(), isBase ? Fields<Object>() : FieldsOf<Class>()})
+            std::copy_if(fields.begin(), fields.end(), std::back_inserter(kind.fields),
+                         [](const Field<Object>& iField) { return iField.count > 0; });
     }
     if constexpr (HasMembers<Class>::value) {
         using Member = MemberOf<Class>;
@@ -124,14 +119,12 @@ public:
                 if (kind.fields[i].name != g_parameters) { // several fields, which are looked at alone
                     EXPECT_TRUE(kind.fields[i].has(*node->real, node->values[i])) << kind.name;
                 }
-            std::vector<const void*> expected, found;
-            for (const Node* const member : node->members)
-                expected.push_back(member->real);
             const auto* const list = kind.list(*node->real);
-            for (int position = 1; list && position <= list->Size(); ++position)
-                found.push_back((*list)[position]);
-            EXPECT_EQ(found, expected) << "the members of a " << kind.name;
             EXPECT_EQ(list != nullptr, node->hasList) << kind.name;
+            ASSERT_EQ(list ? list->Size() : 0, static_cast<int>(node->members.size())) << kind.name;
+            int position = 0;
+            for (const Node* const member : node->members)
+                EXPECT_EQ((*list)[++position], member->real) << "member of a " << kind.name;
         }
     }
 
@@ -248,9 +241,7 @@ private:
             for (Node* const node : Any(3) == 0 ? ioNode.members : _held)
                 if (node->kind == &kind) sources.push_back(node);
             Node* const source = AnyOf(sources);
-            const auto contains = [&](const Node* iMember) { return iMember->Contains(&ioNode); };
-            if (source != &ioNode && std::any_of(source->members.begin(), source->members.end(), contains))
-                return "nothing";
+            if (source != &ioNode && source->Contains(&ioNode)) return "nothing";
             EXPECT_EQ(kind.assign(*ioNode.real, *source->real), ioNode.real);
             Assign(ioNode, *source);
         }
