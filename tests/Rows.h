@@ -63,8 +63,10 @@ struct Samples {
 enum class Duplication { ByAssignment, ByCopying, ByConstruction };
 
 PLAIN_ROW(VEKPrtModel, )
-PLAIN_ROW(VEKPrtTransformAttributes, FieldBy<C, Entries>("Entries", SetEntries, EntriesOf,
-                                                         {{}, {g_oneOfEach}, {{{3, 2}, {2, 30}, {3, 3}}}}))
+PLAIN_ROW(VEKPrtTransformAttributes,
+          FieldBy<C, Entries>(
+              "Entries", SetEntries, EntriesOf,
+              {{}, {g_oneOfEach}, {{{3, 2}, {2, 30}, {3, 3}}}, {Entries{{3, 2}}}, {Entries{{3, 4}}}}))
 PLAIN_ROW(VEKPrtStrokeAttributes, FIELD(StrokeColourIndex, {0}, {7}),
           FIELD(StrokeColourTransparency, {255}, {254}), FIELD(StrokeType, {0}, {2}),
           FieldBy<C, std::vector<float>>(
