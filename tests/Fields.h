@@ -185,9 +185,10 @@ inline Entries EntriesOf(const Transform& iTransform) {
 /// One of each kind, in an order that is neither that of the kinds nor that of the fields.
 inline const Entries g_oneOfEach = {{6, 16}, {3, 13}, {0, 10}, {1, 11}, {2, 12}, {5, 15}, {4, 14}};
 inline void SetEntries(Transform& ioTransform, const Entries& iEntries) {
-    ioTransform = Transform();
+    Transform transform;
     for (const auto& [kind, value] : iEntries)
-        g_kinds[kind].add(ioTransform, *value);
+        g_kinds[kind].add(transform, *value);
+    ioTransform = transform;
 }
 
 // Records that cannot be compared, and what tests compare instead.
