@@ -290,22 +290,20 @@ void DrawFrame(const Page& iPage, const std::string& iCredit, VEKFont& iTitleFon
 }
 
 // A click leads from the world to the first page that shows most of the country, and from there back.
-std::string LinkOf(std::size_t iCountry, bool iIsFirst, const std::vector<Page>& iPages, bool iWithin) {
+std::string LinkOf(std::size_t iCountry, bool iIsFirst, const std::vector<Page>& iPages, bool iIsPdf) {
     std::size_t target = 0;
     double best = 0.0;
     for (std::size_t i = 1; i < iPages.size() && iIsFirst; ++i) {
         if (iPages[i].AreaOfCountry(iCountry) <= best * 1.001) continue;
         best = iPages[target = i].AreaOfCountry(iCountry);
     }
-    if (iPages.size() == 1) return "";
     const std::string file = iPages[target].layout.file;
-    return iWithin ? "#" + file : file + ".svg";
+    return iPages.size() == 1 ? "" : iIsPdf ? "#" + file : file + ".svg";
 }
 
 } // namespace
 
-Atlas::Atlas(const Topology& iTopology, const std::string& iTitle, const std::string& iCredit,
-             bool iIsOneDocument) {
+Atlas::Atlas(const Topology& iTopology, const std::string& iTitle, const std::string& iCredit, bool iIsPdf) {
     Allowance allowance{maxPositions};
     const std::vector<Country>& countries = iTopology.countries;
     const bool isOne = countries.size() == 1 && !countries[0].name.empty();
@@ -336,7 +334,7 @@ Atlas::Atlas(const Topology& iTopology, const std::string& iTitle, const std::st
             const Layer country(*image, countries[i].id.empty() ? "" : "country-" + countries[i].id);
             country.group->SetTitle(countries[i].name.c_str());
             VEKPrtGroupAttributes link;
-            link.SetLinkURI(VEKPrintLinkURI(LinkOf(i, &page == &pages[0], pages, iIsOneDocument).c_str()));
+            link.SetLinkURI(VEKPrintLinkURI(LinkOf(i, &page == &pages[0], pages, iIsPdf).c_str()));
             country.group->SetGroupAttributes(link);
             country.AddArea(page.shown[i], firstLand + colours[i]);
         }

@@ -21,12 +21,12 @@ public:
     /// \p iCredit is a text for the foot of each page.  Throws std::runtime_error when it is too long for
     /// that, or when the outlines are too long for all the pages.
     explicit Atlas(const Topology& iTopology, const std::string& iTitle = "Map",
-                   const std::string& iCredit = {}, bool iIsOneDocument = false);
+                   const std::string& iCredit = {}, bool iIsPdf = false);
     Atlas(const Atlas&) = delete;
     Atlas& operator=(const Atlas&) = delete;
 
-    /// Links lead to other pages, by identifier in one document, else by the names of their SVG files:
-    /// identifiers with the extension.
+    /// Links lead to other pages, in a PDF by identifier, else by the names of their SVG files: identifiers
+    /// with the extension.
     const VEKPrtModel& Model() const { return *_model; }
 
 private:
