@@ -197,10 +197,16 @@ inline bool operator==(const Transform& iLeft, const Transform& iRight) {
     return EntriesOf(iLeft) == EntriesOf(iRight);
 }
 inline bool operator==(const VEKPrtGroupAttributes& iLeft, const VEKPrtGroupAttributes& iRight) {
-    return testing::PrintToString(iLeft) == testing::PrintToString(iRight);
+    VEKPrintLinkURI left, right;
+    iLeft.GetLinkURI(left);
+    iRight.GetLinkURI(right);
+    return left == right;
 }
-inline bool operator==(const VEKPrtMarkerAttributes& iLeft, const VEKPrtMarkerAttributes& iRight) {
-    return testing::PrintToString(iLeft) == testing::PrintToString(iRight);
+inline bool operator==(VEKPrtMarkerAttributes iLeft, VEKPrtMarkerAttributes iRight) {
+    VEKPrintMarkerAttribute left, right;
+    iLeft.GetMarkerStyle(left);
+    iRight.GetMarkerStyle(right);
+    return left == right;
 }
 
 inline void SetDashes(Stroke& ioStroke, const std::vector<float>& iDashes) {
