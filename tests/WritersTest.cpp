@@ -55,7 +55,6 @@ struct Page {
         group->SetGroupAttributes(attributes);
         return group;
     }
-    auto WarningCount() const { return std::count(warnings.begin(), warnings.end(), '\n'); }
 };
 
 int CountOf(const std::string& iText, const std::string& iPart) {
@@ -165,14 +164,17 @@ const std::pair<const char*, std::function<void(Page&)>> g_pages[] = {
          ioPage.Add<VEKPrtBitmapImageElt>(Point(0, INFINITY), 1.0, 1.0, 0.0, Make<VEKPixelImage>(1, 1).Get());
          ioPage.Add<VEKPrtGroupElt>()->SetTransformAttributes(far);
      }},
-    {"curves that cannot be drawn",
+    {"curves that cannot be drawn, and one that is drawn between its inner knots",
      [](Page& ioPage) {
+         const double zigzag[] = {0, 20, 1, 22, 2, 20, 3, 22}, even[] = {0, 1, 2, 3, 4, 5, 6},
+                      same[] = {1, 1, 1, 1};
          const double points[6] = {}, ones[] = {1, 1, 1}, zero[] = {1, 0, 1};
          const double knots[] = {0, 0, 0, 1, 1, 1, 1}, decreasing[] = {0, 0, 1, 0, 1, 1};
          ioPage.Add<VEKPrtNURBSElt>(4, 3, points, knots, 0.0F, 1.0F, ones);
          ioPage.Add<VEKPrtNURBSElt>(3, 3, points, decreasing, 0.0F, 1.0F, ones);
          ioPage.Add<VEKPrtNURBSElt>(3, 3, points, knots, 0.0F, 1.0F, zero);
          ioPage.Add<VEKPrtNURBSElt>(3, 3, points, knots, 1.0F, 0.0F, ones);
+         ioPage.Add<VEKPrtNURBSElt>(3, 4, zigzag, even, 0.0F, 6.0F, same);
      }},
     {"deep nesting",
      [](Page& ioPage) {
@@ -327,14 +329,20 @@ TEST(Svg, SurvivesACycle) {
     AddTwice(*outer, inner.Get());
     inner->AddChild(outer.Get());
     inner->AddChild(page.image.Get());
+    const auto region = Make<VEKPrtClosedFigureRegionElt>(), again = Make<VEKPrtClosedFigureRegionElt>();
+    region->AddChild(again.Get());
+    again->AddChild(region.Get());
+    page.Add<VEKPrtClosedFigureElt>()->AddChild(region.Get());
     const std::string text = page.Svg();
     EXPECT_EQ(CountOf(text, "<g"), 3) << text;
     EXPECT_EQ(CountOf(text, "<use"), 1) << text;
-    EXPECT_EQ(page.WarningCount(), 2) << page.warnings;
+    EXPECT_EQ(CountOf(page.warnings, "contains itself"), 3) << page.warnings;
     page.Pdf();
-    EXPECT_EQ(page.WarningCount(), 4) << "the inner group is drawn twice: " << page.warnings;
+    EXPECT_EQ(CountOf(page.warnings, "contains itself"), 5)
+        << "the inner group is drawn twice: " << page.warnings;
     inner->RemoveChild(page.image.Get());
     inner->RemoveChild(outer.Get());
+    again->RemoveChild(region.Get());
 }
 
 TEST(Writers, GivePagesTheirSizeAndTitle) {
